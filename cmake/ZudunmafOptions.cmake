@@ -1,0 +1,16 @@
+# What a build can be told. Part of another project, the library alone is built unless asked for more.
+if(CMAKE_SOURCE_DIR STREQUAL PROJECT_SOURCE_DIR)
+    set(ZUDUNMAF_TOP_LEVEL ON)
+else()
+    set(ZUDUNMAF_TOP_LEVEL OFF)
+endif()
+
+option(ZUDUNMAF_BUILD_TESTS "Build the tests" ${ZUDUNMAF_TOP_LEVEL})
+option(ZUDUNMAF_BUILD_DEMO "Build the demo host" ${ZUDUNMAF_TOP_LEVEL})
+option(ZUDUNMAF_BUILD_BENCHMARKS "Build the benchmarks" OFF)
+option(ZUDUNMAF_WERROR "Treat compiler warnings as errors" OFF)
+set(ZUDUNMAF_SANITIZE "" CACHE STRING "Sanitizers to build with, such as address,undefined")
+
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+    set(CMAKE_BUILD_TYPE RelWithDebInfo CACHE STRING "Type of the build" FORCE)
+endif()

@@ -1,0 +1,34 @@
+# zudunmaf_target(TARGET): what every target of the tree has in common.
+function(zudunmaf_target target)
+    set_target_properties(${target} PROPERTIES
+        CXX_STANDARD 17
+        CXX_STANDARD_REQUIRED ON
+        CXX_EXTENSIONS OFF
+        CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON
+        POSITION_INDEPENDENT_CODE ON)
+    # The file name in a report reads from the root of the tree, wherever the tree was built.
+    target_compile_options(${target} PRIVATE
+        -Wall -Wextra -Wpedantic
+        "-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=")
+    target_compile_definitions(${target} PRIVATE QT_NO_KEYWORDS QT_NO_FOREACH)
+    if(ZUDUNMAF_WERROR)
+        target_compile_options(${target} PRIVATE -Werror)
+    endif()
+    if(ZUDUNMAF_SANITIZE)
+        target_compile_options(${target} PRIVATE
+            -fsanitize=${ZUDUNMAF_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+        target_link_options(${target} PRIVATE -fsanitize=${ZUDUNMAF_SANITIZE})
+    endif()
+endfunction()
+
+# zudunmaf_library(TARGET ALIAS): a shared library that is installed, and seen as Zudunmaf::ALIAS.
+function(zudunmaf_library target alias)
+    zudunmaf_target(${target})
+    add_library(Zudunmaf::${alias} ALIAS ${target})
+    set_target_properties(${target} PROPERTIES
+        EXPORT_NAME ${alias}
+        VERSION ${PROJECT_VERSION}
+        SOVERSION ${PROJECT_VERSION_MAJOR}
+        INSTALL_RPATH "$ORIGIN")
+endfunction()

@@ -1,0 +1,175 @@
+#include "gdm/dialogs/attributes_filter_dialog.h"
+
+#include "gdm/dialogs/attribute_offer.h"
+#include "gdm/dialogs/context_menu.h"
+#include "gdm/dialogs/dictionary_walk.h"
+#include "gdm/dialogs/row_filter.h"
+#include "gdm/editing/attr_item_delegate.h"
+#include "gdm/host/config_keys.h"
+#include "gdm/host/message_keys.h"
+#include "gdm/items/attr_filter_lwi.h"
+
+namespace Zudunmaf
+{
+
+namespace
+{
+
+QTableWidgetItem *newRow(const DmlAttrDef *definition, bool byPrompt, int displayUnits)
+{
+    DmlAttrLWI *item = new AttrFilterLWI;
+    item->setDisplayPrompt(byPrompt);
+    item->setDisplayUnits(displayUnits);
+    item->setDmlAttribute(variantOfRecord(definition));
+    return item;
+}
+
+TvxDataItem *newEntity(const char *key, EntityMask mask)
+{
+    return new TvxDataItem(messageText(key), QVariant(int(mask)), 0);
+}
+
+} // namespace
+
+AttributesFilterDialog::AttributesFilterDialog(int did, QWidget *parent, Qt::WindowFlags flags)
+    : TvxAttributesSelectionDialog(did, parent, flags)
+    , contextMenu(nullptr)
+{
+    AttributesFilterDialog::buildInitialLists();
+    setItemDelegate(new AttrItemDelegate(this));
+    connectSignal2Slots();
+    AttributesFilterDialog::setupContextMenu();
+    setHeaderTitle(0, messageText(keys::FilterHeaderName));
+    setHeaderTitle(1, messageText(keys::FilterHeaderCondition));
+}
+
+AttributesFilterDialog::~AttributesFilterDialog() = default;
+
+void AttributesFilterDialog::buildInitialLists()
+{
+    // The order matters: groups and attributes depend on what is selected before them.
+    fillEntityList();
+    fillGroupsList();
+    fillAttributeList();
+}
+
+void AttributesFilterDialog::fillEntityList()
+{
+    QList<TvxDataItem *> entities;
+    entities << newEntity(keys::FilterEntityComponent, EntityComponent);
+    entities << newEntity(keys::FilterEntityFeature, EntityFeature);
+    entities << newEntity(keys::FilterEntityLayer, EntityLayer);
+    entities << newEntity(keys::FilterEntityJob, EntityJob);
+    entities << newEntity(keys::FilterEntityStep, EntityStep);
+    entities << newEntity(keys::FilterEntityNet, EntityNet);
+    entities << newEntity(keys::FilterEntitySymbol, EntitySymbol);
+    entities << newEntity(keys::FilterEntityWheel, EntityWheel);
+    // The one row whose mask does not fit an int; QVariant gives -1 for it as an int.
+    entities << new TvxDataItem(messageText(keys::FilterEntityAll), QVariant(uint(EntityAll)), 0);
+    TvxAttributesSelectionDialog::fillEntityList(entities);
+}
+
+void AttributesFilterDialog::fillGroupsList()
+{
+    const int did = getEntityDID();
+    if (did == -1)
+        return;
+    GroupNames groups(messageText(keys::FilterAllGroupsRow));
+    if (walkDictionary([did] { return did; }, EntityAll, GDM_HERE,
+                       [&groups](const DmlAttrDef *definition) { groups.add(*definition); }))
+        TvxAttributesSelectionDialog::fillGroupsList(groups.list());
+}
+
+void AttributesFilterDialog::fillAttributeList()
+{
+    if (getEntityDID() < 0)
+        return;
+
+    AttributeOffer offer;
+    if (!readFlag(keys::DisplayByPrompt, &offer.byPrompt, GDM_HERE))
+        return;
+    if (!readFlag(keys::ShowObsolete, &offer.showObsolete, GDM_HERE))
+        return;
+    offer.entityMask = getSelectedEntityMask();
+    offer.group = getSelectedGroupName();
+    offer.allGroups = offer.group == messageText(keys::FilterAllGroupsAtFill);
+    offer.setFilterText(getUserFilterText());
+
+    OwnedItems rows;
+    if (walkDictionary([this] { return getEntityDID(); }, EntityAll, GDM_HERE,
+                       [&](const DmlAttrDef *definition) {
+                           if (offer.takes(*definition))
+                               rows.append(newRow(definition, offer.byPrompt, displayUnits()));
+                       }))
+        TvxAttributesSelectionDialog::fillAttributeList(rows.list());
+}
+
+void AttributesFilterDialog::filterAttributeList()
+{
+    const QString group = getSelectedGroupName();
+    const int entityMask = getSelectedEntityMask();
+    const QList<QTableWidgetItem *> rows = getTopListItems(false);
+    bool byPrompt = false;
+    if (!readFlag(keys::DisplayByPrompt, &byPrompt, GDM_HERE))
+        return;
+
+    const RowFilter filter(entityMask, group, messageText(keys::FilterAllGroupsAtFilter), getUserFilterText(),
+                           byPrompt);
+    applyRowFilter<AttrFilterLWI>(*this, rows, filter, [](const DmlAttrDef &) { return false; });
+    setFirstVisibleItemAsCurrent();
+}
+
+void AttributesFilterDialog::setDisplayUnits(int units)
+{
+    TvxAttributesSelectionDialog::setDisplayUnits(units);
+    fillAttributeList();
+}
+
+void AttributesFilterDialog::setupContextMenu()
+{
+    contextMenu = newContextMenu(this, keys::FilterSetCondition, keys::FilterClearCondition);
+    setCustomContextMenu(contextMenu);
+    connect(contextMenu, SIGNAL(triggered(QAction *)), this, SLOT(contextMenu_triggered(QAction *)));
+}
+
+void AttributesFilterDialog::contextMenu_triggered(QAction *action)
+{
+    if (!action)
+        return;
+    switch (action->data().toInt()) {
+    case MenuEdit:
+        editCurrentItem();
+        break;
+    case MenuReset: {
+        const QList<QTableWidgetItem *> items = getItemsForContextMenuCallback();
+        for (QTableWidgetItem *item : items) {
+            const DmlAttrLWI *attribute = static_cast<const DmlAttrLWI *>(item);
+            const DmlAttrDef *definition = definitionIn(attribute->dmlAttribute());
+            DmlAttrValue *condition = recordIn<DmlAttrValue>(attribute->attrValue());
+            if (definition && condition)
+                prime(*condition, *definition);
+        }
+        break;
+    }
+    default:
+        break;
+    }
+}
+
+QStringList AttributesFilterDialog::getFiltersAsStringList() const
+{
+    QStringList lines;
+    const QList<QTableWidgetItem *> chosen = getChosenList();
+    for (const QTableWidgetItem *item : chosen) {
+        if (const AttrFilterLWI *condition = dynamic_cast<const AttrFilterLWI *>(item))
+            lines.append(condition->toString());
+    }
+    return lines;
+}
+
+DmlAttrLWI *AttributesFilterDialog::createNewItem()
+{
+    return new AttrFilterLWI;
+}
+
+} // namespace Zudunmaf

@@ -1,0 +1,187 @@
+#include "gdm/dialogs/feature_attributes_dialog.h"
+
+#include "gdm/dialogs/attribute_offer.h"
+#include "gdm/dialogs/context_menu.h"
+#include "gdm/dialogs/dictionary_walk.h"
+#include "gdm/dialogs/row_filter.h"
+#include "gdm/editing/attr_item_delegate.h"
+#include "gdm/host/config_keys.h"
+#include "gdm/host/message_keys.h"
+#include "gdm/items/feature_attr_lwi.h"
+
+namespace Zudunmaf
+{
+
+namespace
+{
+
+QTableWidgetItem *newRow(const DmlAttrDef *definition, bool byPrompt, int displayUnits)
+{
+    DmlAttrLWI *item = new FeatureAttrLWI;
+    item->setDisplayPrompt(byPrompt);
+    item->setDmlAttribute(variantOfRecord(definition));
+    item->setDisplayUnits(displayUnits);
+    return item;
+}
+
+/// The internal names of the chosen attributes, whatever the rows are labelled with.
+QSet<QString> namesOf(const QList<QTableWidgetItem *> &chosen)
+{
+    QSet<QString> names;
+    for (const QTableWidgetItem *item : chosen) {
+        if (dynamic_cast<const FeatureAttrLWI *>(item))
+            names.insert(item->data(DmlAttrNameRole).toString());
+    }
+    return names;
+}
+
+} // namespace
+
+FeatureAttributesDialog::FeatureAttributesDialog(int did, QWidget *parent, Qt::WindowFlags flags)
+    : TvxAttributesSelectionDialog(did, parent, flags)
+    , contextMenu(nullptr)
+{
+    FeatureAttributesDialog::buildInitialLists();
+    setItemDelegate(new AttrItemDelegate(this));
+    connectSignal2Slots();
+    FeatureAttributesDialog::setupContextMenu();
+    setButtonPixmap(Buttons_Add, QLatin1String("Add.ico"));
+    setButtonPixmap(Buttons_Remove, QLatin1String("Delete.ico"));
+    setHeaderTitle(0, messageText(keys::FeatureHeaderName));
+    setHeaderTitle(1, messageText(keys::FeatureHeaderValue));
+    setWindowTitle(QLatin1String("Assign Attributes"));
+}
+
+FeatureAttributesDialog::~FeatureAttributesDialog() = default;
+
+void FeatureAttributesDialog::buildInitialLists()
+{
+    // The order matters: groups and attributes depend on what is selected before them.
+    fillEntityList();
+    fillGroupsList();
+    fillAttributeList();
+}
+
+void FeatureAttributesDialog::fillEntityList()
+{
+    QList<TvxDataItem *> entities;
+    entities << new TvxDataItem(messageText(keys::FeatureEntityFeature), QVariant(int(EntityFeature)), 0);
+    TvxAttributesSelectionDialog::fillEntityList(entities);
+}
+
+void FeatureAttributesDialog::fillGroupsList()
+{
+    const int did = getEntityDID();
+    if (did == -1)
+        return;
+    GroupNames groups(messageText(keys::FeatureAllGroupsRow));
+    if (walkDictionary([did] { return did; }, EntityFeature, GDM_HERE,
+                       [&groups](const DmlAttrDef *definition) { groups.add(*definition); }))
+        TvxAttributesSelectionDialog::fillGroupsList(groups.list());
+}
+
+void FeatureAttributesDialog::fillAttributeList()
+{
+    if (getEntityDID() < 0)
+        return;
+
+    AttributeOffer offer;
+    if (!readFlag(keys::DisplayByPrompt, &offer.byPrompt, GDM_HERE))
+        return;
+    if (!readFlag(keys::ShowObsolete, &offer.showObsolete, GDM_HERE))
+        return;
+    offer.entityMask = getSelectedEntityMask();
+    offer.group = getSelectedGroupName();
+    offer.allGroups = offer.group == messageText(keys::FeatureAllGroupsAtFill);
+    offer.setFilterText(getUserFilterText());
+
+    // The walk takes every entity: the mask comes in with the offer.
+    OwnedItems rows;
+    if (walkDictionary([this] { return getEntityDID(); }, EntityAll, GDM_HERE,
+                       [&](const DmlAttrDef *definition) {
+                           if (offer.takes(*definition))
+                               rows.append(newRow(definition, offer.byPrompt, displayUnits()));
+                       }))
+        TvxAttributesSelectionDialog::fillAttributeList(rows.list());
+}
+
+void FeatureAttributesDialog::filterAttributeList()
+{
+    const QString group = getSelectedGroupName();
+    const int entityMask = getSelectedEntityMask();
+    const QSet<QString> chosen = namesOf(getChosenList());
+    const QList<QTableWidgetItem *> rows = getTopListItems(false);
+    bool byPrompt = false;
+    if (!readFlag(keys::DisplayByPrompt, &byPrompt, GDM_HERE))
+        return;
+
+    const RowFilter filter(entityMask, group, messageText(keys::FeatureAllGroupsAtFilter),
+                           getUserFilterText(), byPrompt);
+    applyRowFilter<FeatureAttrLWI>(*this, rows, filter, [&chosen](const DmlAttrDef &definition) {
+        return !chosen.isEmpty() && chosen.contains(fieldString(definition.name));
+    });
+    setFirstVisibleItemAsCurrent();
+}
+
+void FeatureAttributesDialog::setDisplayUnits(int units)
+{
+    TvxAttributesSelectionDialog::setDisplayUnits(units);
+    fillAttributeList();
+}
+
+void FeatureAttributesDialog::addButtonClickedCB(QTableWidgetItem *item)
+{
+    if (!dynamic_cast<FeatureAttrLWI *>(item))
+        return;
+    setTopViewRowsVisiblity(item->row(), false);
+    setFirstVisibleItemAsCurrent();
+}
+
+void FeatureAttributesDialog::removeButtonClickedCB(QTableWidgetItem *item)
+{
+    if (!dynamic_cast<FeatureAttrLWI *>(item))
+        return;
+    QTableWidgetItem *offered = findItemByAttrName(item->data(DmlAttrNameRole).toString());
+    if (!dynamic_cast<FeatureAttrLWI *>(offered))
+        return;
+    setTopViewRowsVisiblity(offered->row(), true);
+    setTopViewCurrentItem(offered);
+}
+
+void FeatureAttributesDialog::setupContextMenu()
+{
+    contextMenu = newContextMenu(this, keys::FeatureEditValue, keys::FeatureSetDefault);
+    setCustomContextMenu(contextMenu);
+    connect(contextMenu, SIGNAL(triggered(QAction *)), this, SLOT(contextMenu_triggered(QAction *)));
+}
+
+void FeatureAttributesDialog::contextMenu_triggered(QAction *action)
+{
+    if (!action)
+        return;
+    switch (action->data().toInt()) {
+    case MenuEdit:
+        editCurrentItem();
+        break;
+    case MenuReset: {
+        const QList<QTableWidgetItem *> items = getItemsForContextMenuCallback();
+        for (QTableWidgetItem *item : items) {
+            FeatureAttrLWI *attribute = dynamic_cast<FeatureAttrLWI *>(item);
+            const DmlAttrDef *definition = attribute ? definitionIn(attribute->dmlAttribute()) : nullptr;
+            const QVariant value = definition ? defaultValue(*definition) : QVariant();
+            if (value.isValid())
+                attribute->setAttrValue(value);
+        }
+        break;
+    }
+    default:
+        break;
+    }
+}
+
+DmlAttrLWI *FeatureAttributesDialog::createNewItem()
+{
+    return new FeatureAttrLWI;
+}
+
+} // namespace Zudunmaf

@@ -1,0 +1,92 @@
+#include "gdm/dialogs/filter_pattern.h"
+
+namespace Zudunmaf
+{
+
+namespace
+{
+
+char lowered(char character)
+{
+    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
+}
+
+bool isAscii(const char *text)
+{
+    unsigned char bits = 0;
+    for (; *text; ++text)
+        bits |= static_cast<unsigned char>(*text);
+    return bits < 0x80;
+}
+
+/// Whether QRegExp gives each character of the text its plain meaning, but for "*" and "?". A lone "]" and a
+/// backslash are odd there; beyond ASCII, so is case.
+bool isDirect(const QString &text)
+{
+    for (const QChar character : text) {
+        const ushort code = character.unicode();
+        if (code < ' ' || code > '~' || code == '[' || code == ']' || code == '\\')
+            return false;
+    }
+    return true;
+}
+
+/// A run of stars means what one star means, and costs QRegExp far more.
+QString withSingleStars(const QString &text)
+{
+    QString result;
+    for (const QChar character : text) {
+        if (character != QLatin1Char('*') || !result.endsWith(character))
+            result.append(character);
+    }
+    return result;
+}
+
+} // namespace
+
+FilterPattern::FilterPattern(const QString &text)
+    : m_matchesAll(text.isEmpty())
+    , m_direct(isDirect(text))
+{
+    const QString pattern = withSingleStars(QString(QLatin1String("*%1*")).arg(text, 0, QLatin1Char(' ')));
+    if (m_direct)
+        m_lowered = pattern.toLower().toLatin1();
+    m_expression = QRegExp(pattern, Qt::CaseInsensitive, QRegExp::Wildcard);
+}
+
+bool FilterPattern::matches(const char *label) const
+{
+    if (m_matchesAll)
+        return true;
+    if (m_direct && isAscii(label))
+        return matchesDirectly(label);
+    return m_expression.indexIn(QString(label)) != -1;
+}
+
+/// Matches the whole label against the pattern, which begins and ends with a star. On a mismatch the last
+/// star takes one more character: no earlier star can do better, so there is nothing else to come back to.
+bool FilterPattern::matchesDirectly(const char *label) const
+{
+    const char *pattern = m_lowered.constData();
+    const char *afterStar = nullptr;
+    const char *starEnd = nullptr;
+    while (*label) {
+        if (*pattern == '*') {
+            afterStar = ++pattern;
+            starEnd = label;
+            if (!*pattern)
+                return true;
+        } else if (*pattern == '?' || *pattern == lowered(*label)) {
+            ++pattern;
+            ++label;
+        } else {
+            pattern = afterStar;
+            label = ++starEnd;
+        }
+    }
+    while (*pattern == '*')
+        ++pattern;
+    return !*pattern;
+}
+
+} // namespace Zudunmaf

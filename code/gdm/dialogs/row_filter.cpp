@@ -1,0 +1,33 @@
+#include "gdm/dialogs/row_filter.h"
+
+#include "gdm/host/host_text.h"
+
+namespace Zudunmaf
+{
+
+RowFilter::RowFilter(int entityMask, const QString &group, const QString &allGroups,
+                     const QString &filterText, bool byPrompt)
+    : m_entityMask(static_cast<unsigned int>(entityMask))
+    , m_group(group)
+    , m_allGroups(group == allGroups)
+    , m_pattern(filterText)
+    , m_byPrompt(byPrompt)
+{
+}
+
+bool RowFilter::shows(const DmlAttrDef &definition) const
+{
+    if (!(definition.entityMask & m_entityMask))
+        return false;
+    const bool textMatches =
+        m_byPrompt ? m_pattern.matches(FieldText<sizeof definition.prompt>(definition.prompt).bytes())
+                   : m_pattern.matches(FieldText<sizeof definition.name>(definition.name).bytes());
+    return textMatches && groupShows(definition);
+}
+
+bool RowFilter::groupShows(const DmlAttrDef &definition) const
+{
+    return m_allGroups || m_group == fieldString(definition.group);
+}
+
+} // namespace Zudunmaf

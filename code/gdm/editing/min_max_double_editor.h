@@ -1,0 +1,42 @@
+#ifndef GDM_EDITING_MIN_MAX_DOUBLE_EDITOR_H
+#define GDM_EDITING_MIN_MAX_DOUBLE_EDITOR_H
+
+#include <QWidget>
+
+class QDoubleSpinBox;
+class QHBoxLayout;
+class QLabel;
+
+namespace Zudunmaf
+{
+
+/// Editor of a float range with three decimals, otherwise as MinMaxIntEditor. Limits and bounds pass through
+/// it as 32-bit floats, in the units of the definition. Internal: not exported.
+class MinMaxDoubleEditor : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit MinMaxDoubleEditor(QWidget *parent);
+    ~MinMaxDoubleEditor() override;
+
+    void setMinimum(float minimum);
+    void setMaximum(float maximum);
+    void setRange(float minimum, float maximum);
+
+    void setFromValue(float value);
+    float fromValue() const;
+    void setToValue(float value);
+    float toValue() const;
+
+private:
+    QHBoxLayout *horizontalLayout;
+    QLabel *label_From;
+    QDoubleSpinBox *doubleSpinBox_From;
+    QLabel *label_To;
+    QDoubleSpinBox *doubleSpinBox_To;
+};
+
+} // namespace Zudunmaf
+
+#endif

@@ -1,0 +1,55 @@
+#ifndef GDM_EDITING_RANGE_EDITOR_PARTS_H
+#define GDM_EDITING_RANGE_EDITOR_PARTS_H
+
+#include "gdm/host/host_text.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLatin1String>
+#include <QSizePolicy>
+#include <QWidget>
+
+namespace Zudunmaf
+{
+
+/// The row of labels and spin boxes that both range editors are made of. In a cell that grows, the boxes
+/// share what is gained and the labels keep their width.
+namespace rangeParts
+{
+
+inline QHBoxLayout *newRow(QWidget *editor)
+{
+    QHBoxLayout *row = new QHBoxLayout(editor);
+    row->setContentsMargins(0, 0, 0, 0);
+    return row;
+}
+
+inline QLabel *addLabel(QWidget *editor, QHBoxLayout *row, const char *objectName, const char *messageKey)
+{
+    QLabel *label = new QLabel(editor);
+    label->setObjectName(QLatin1String(objectName));
+    QSizePolicy policy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    policy.setHeightForWidth(label->sizePolicy().hasHeightForWidth());
+    label->setSizePolicy(policy);
+    label->setText(messageText(messageKey));
+    row->addWidget(label);
+    return label;
+}
+
+/// A spin box of the row, not yet added to it: the caller sets its decimals first.
+template <class SpinBox>
+SpinBox *newSpinBox(QWidget *editor, const char *objectName)
+{
+    SpinBox *box = new SpinBox(editor);
+    box->setObjectName(QLatin1String(objectName));
+    QSizePolicy policy(QSizePolicy::Minimum, QSizePolicy::Fixed);
+    policy.setHorizontalStretch(1);
+    policy.setHeightForWidth(box->sizePolicy().hasHeightForWidth());
+    box->setSizePolicy(policy);
+    return box;
+}
+
+} // namespace rangeParts
+} // namespace Zudunmaf
+
+#endif

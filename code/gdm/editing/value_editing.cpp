@@ -1,0 +1,162 @@
+#include "gdm/editing/value_editing.h"
+
+#include "gdm/editing/combo_editing.h"
+#include "gdm/host/gen_services.h"
+#include "gdm/items/feature_attr_lwi.h"
+
+#include <QDoubleSpinBox>
+#include <QLineEdit>
+#include <QSpinBox>
+
+namespace Zudunmaf
+{
+
+namespace
+{
+
+QDoubleSpinBox *newDoubleSpinBox(QWidget *parent)
+{
+    QDoubleSpinBox *box = new QDoubleSpinBox(parent);
+    box->setDecimals(3);
+    return box;
+}
+
+void selectEntry(QComboBox *box, const QString &text)
+{
+    const int index = box->findText(text.trimmed(), Qt::MatchExactly | Qt::MatchCaseSensitive);
+    if (index >= 0)
+        box->setCurrentIndex(index);
+}
+
+void loadOption(const QString &value, const DmlAttrDef &definition, QComboBox *box)
+{
+    box->clear();
+    addOptions(box, definition);
+    selectEntry(box, value);
+}
+
+/// The value comes first and the choices behind it, so that a value which is no choice is not lost.
+void loadTextWithChoices(const QString &value, const DmlAttrDef &definition, QComboBox *box)
+{
+    box->clear();
+    box->addItem(value);
+    addOptions(box, definition);
+    selectEntry(box, value);
+    box->setEditable(true);
+}
+
+void loadFloat(double value, const DmlAttrDef &definition, int displayUnits, QDoubleSpinBox *box)
+{
+    if (displayUnits == -1) {
+        box->setMinimum(definition.floatMin);
+        box->setMaximum(definition.floatMax);
+        box->setValue(value);
+        return;
+    }
+    float minimum = static_cast<float>(definition.floatMin);
+    float maximum = static_cast<float>(definition.floatMax);
+    float shown = static_cast<float>(value);
+    gen__torvex_units_convert_2(&minimum, definition.unitsClass, displayUnits);
+    gen__torvex_units_convert_2(&maximum, definition.unitsClass, displayUnits);
+    gen__torvex_units_convert_2(&shown, definition.unitsClass, displayUnits);
+    box->setMinimum(double(minimum));
+    box->setMaximum(double(maximum));
+    box->setValue(double(shown));
+}
+
+/// The way back of loadFloat(): into the units of the definition.
+double storedFloat(double shown, const DmlAttrDef &definition, int displayUnits)
+{
+    if (displayUnits == -1)
+        return shown;
+    float value = static_cast<float>(shown);
+    int code = definition.unitsClass;
+    gen__torvex_units_convert(nullptr, &code, displayUnits);
+    gen__torvex_units_convert_f(&value, definition.unitsClass, code);
+    return double(value);
+}
+
+void storeChoice(FeatureAttrLWI &item, const QComboBox *box)
+{
+    if (box->currentIndex() != -1)
+        item.setAttrValue(box->currentText());
+    else if (const QLineEdit *line = box->lineEdit())
+        item.setAttrValue(line->text());
+}
+
+} // namespace
+
+QWidget *newValueEditor(const DmlAttrDef &definition, QWidget *parent)
+{
+    switch (definition.type) {
+    case DmlAttrText:
+        if (definition.textChoiceCount >= 1)
+            return newComboBox(parent);
+        return new QLineEdit(parent);
+    case DmlAttrOption:
+        return newComboBox(parent);
+    case DmlAttrInteger:
+        return new QSpinBox(parent);
+    case DmlAttrFloat:
+        return newDoubleSpinBox(parent);
+    default:
+        return nullptr;
+    }
+}
+
+void loadValue(FeatureAttrLWI &item, const DmlAttrDef &definition, QWidget *editor)
+{
+    const QVariant value = item.attrValue();
+    if (compat::isNullVariant(value))
+        return;
+    switch (definition.type) {
+    case DmlAttrText:
+        if (QComboBox *box = qobject_cast<QComboBox *>(editor))
+            loadTextWithChoices(value.toString(), definition, box);
+        else if (QLineEdit *line = qobject_cast<QLineEdit *>(editor))
+            line->setText(value.toString());
+        break;
+    case DmlAttrOption:
+        if (QComboBox *box = qobject_cast<QComboBox *>(editor))
+            loadOption(value.toString(), definition, box);
+        break;
+    case DmlAttrInteger:
+        if (QSpinBox *box = qobject_cast<QSpinBox *>(editor)) {
+            box->setMinimum(definition.intMin);
+            box->setMaximum(definition.intMax);
+            box->setValue(value.toInt());
+        }
+        break;
+    case DmlAttrFloat:
+        if (QDoubleSpinBox *box = qobject_cast<QDoubleSpinBox *>(editor))
+            loadFloat(value.toDouble(), definition, item.displayUnits(), box);
+        break;
+    default:
+        break;
+    }
+}
+
+void storeValue(FeatureAttrLWI &item, const DmlAttrDef &definition, QWidget *editor)
+{
+    switch (definition.type) {
+    case DmlAttrText:
+    case DmlAttrOption:
+        if (const QComboBox *box = qobject_cast<const QComboBox *>(editor))
+            storeChoice(item, box);
+        else if (const QLineEdit *line = qobject_cast<const QLineEdit *>(editor))
+            item.setAttrValue(line->text());
+        break;
+    case DmlAttrInteger:
+        if (const QSpinBox *box = qobject_cast<const QSpinBox *>(editor))
+            item.setAttrValue(box->value());
+        break;
+    case DmlAttrFloat:
+        if (const QDoubleSpinBox *box = qobject_cast<const QDoubleSpinBox *>(editor))
+            item.setAttrValue(storedFloat(box->value(), definition, item.displayUnits()));
+        break;
+    default:
+        break;
+    }
+}
+
+} // namespace Zudunmaf

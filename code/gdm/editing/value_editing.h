@@ -1,0 +1,26 @@
+#ifndef GDM_EDITING_VALUE_EDITING_H
+#define GDM_EDITING_VALUE_EDITING_H
+
+class QWidget;
+struct DmlAttrDef;
+
+namespace Zudunmaf
+{
+
+class FeatureAttrLWI;
+
+/// The editor of a value: a line edit, a combo box or a spin box by type; null where there is none. A text
+/// that has choices gets a combo box.
+QWidget *newValueEditor(const DmlAttrDef &definition, QWidget *parent);
+
+/// Fills the editor from the item's value, limits before the value; leaves it alone where the item has none.
+/// A float is shown in the item's display units.
+void loadValue(FeatureAttrLWI &item, const DmlAttrDef &definition, QWidget *editor);
+
+/// Gives what the editor shows to the item, a float in the units of the definition. A combo box that has
+/// neither a current entry nor a line to type in leaves the item's value as it was.
+void storeValue(FeatureAttrLWI &item, const DmlAttrDef &definition, QWidget *editor);
+
+} // namespace Zudunmaf
+
+#endif

@@ -1,0 +1,19 @@
+#ifndef GDM_GDM_QT_H
+#define GDM_GDM_QT_H
+
+/// Chief header of the library. In the order in which an attribute travels: the records and roles, the items
+/// that bind a definition to a condition or a value, and the two dialogs. Between them, internal, stand the
+/// delegate and the range editors of gdm/editing, which open over an item's cell and write back into the
+/// item.
+#include "gdm/items/attr_records.h"
+#include "gdm/items/attr_roles.h"
+
+#include "gdm/items/dml_attr_lwi.h"
+
+#include "gdm/items/attr_filter_lwi.h"
+#include "gdm/items/feature_attr_lwi.h"
+
+#include "gdm/dialogs/attributes_filter_dialog.h"
+#include "gdm/dialogs/feature_attributes_dialog.h"
+
+#endif

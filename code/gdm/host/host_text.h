@@ -1,0 +1,58 @@
+#ifndef GDM_HOST_HOST_TEXT_H
+#define GDM_HOST_HOST_TEXT_H
+
+#include "gdm/host/gen_services.h"
+
+#include <QString>
+
+#include <cstddef>
+#include <cstring>
+
+/// How texts of the host become QStrings: messages from the local 8-bit encoding, texts of the dictionary by
+/// the constructor for NUL-terminated strings. Internal: not installed.
+namespace Zudunmaf
+{
+
+/// The text to show for a message key.
+inline QString messageText(const char *key)
+{
+    return QString::fromLocal8Bit(gen__nls_nlst(key), -1);
+}
+
+/// A character field of a record as a NUL-terminated string that never reads beyond the field: where a broken
+/// record lacks the NUL, the field's whole width counts. Lives no longer than the record.
+template <std::size_t Width>
+class FieldText
+{
+public:
+    explicit FieldText(const char (&field)[Width])
+        : m_text(field)
+    {
+        if (!std::memchr(field, '\0', Width)) {
+            std::memcpy(m_bounded, field, Width);
+            m_bounded[Width] = '\0';
+            m_text = m_bounded;
+        }
+    }
+
+    const char *bytes() const { return m_text; }
+    QString toString() const { return QString(m_text); }
+
+private:
+    FieldText(const FieldText &);
+    FieldText &operator=(const FieldText &);
+
+    const char *m_text;
+    char m_bounded[Width + 1];
+};
+
+/// The QString of a character field.
+template <std::size_t Width>
+QString fieldString(const char (&field)[Width])
+{
+    return FieldText<Width>(field).toString();
+}
+
+} // namespace Zudunmaf
+
+#endif

@@ -1,0 +1,55 @@
+#include "gdm/items/attr_access.h"
+
+#include <cstring>
+
+namespace Zudunmaf
+{
+
+void prime(DmlAttrValue &condition, const DmlAttrDef &definition)
+{
+    std::memset(&condition, 0, sizeof condition);
+    condition.type = definition.type;
+    switch (definition.type) {
+    case DmlAttrOption:
+        condition.option = -1;
+        break;
+    case DmlAttrInteger:
+        condition.intLow = definition.intMin;
+        condition.intHigh = definition.intMax;
+        break;
+    case DmlAttrFloat:
+        condition.floatLow = definition.floatMin;
+        condition.floatHigh = definition.floatMax;
+        break;
+    default:
+        break;
+    }
+}
+
+const char *optionEntry(const DmlAttrDef &definition, int index)
+{
+    const bool named = definition.optionList && index >= 0 && index < definition.optionCount;
+    return named ? definition.optionList[index] : nullptr;
+}
+
+QVariant defaultValue(const DmlAttrDef &definition)
+{
+    switch (definition.type) {
+    case DmlAttrBoolean:
+        return QVariant(definition.defaultBool != 0);
+    case DmlAttrText:
+        return QVariant(QString(definition.defaultText));
+    case DmlAttrOption: {
+        const char *entry = optionEntry(definition, definition.defaultOption);
+        return QVariant(QString(entry ? entry : ""));
+    }
+    case DmlAttrInteger:
+        return QVariant(int(definition.defaultInt));
+    case DmlAttrFloat:
+        return QVariant(double(definition.defaultFloat));
+    default:
+        return QVariant();
+    }
+}
+
+} // namespace Zudunmaf

@@ -1,0 +1,88 @@
+#include "gdm/items/attr_description.h"
+
+#include "gdm/host/host_text.h"
+#include "gdm/host/message_keys.h"
+#include "gdm/items/attr_access.h"
+
+#include <QStringList>
+
+namespace Zudunmaf
+{
+
+namespace
+{
+
+/// A line of the description, or its filling where `text` is null. The message comes first and the filling
+/// second, each in a statement of its own: the order in which the messages are asked for is part of the
+/// contract.
+QString filledLine(const char *lineKey, const char *text, const char *absentKey)
+{
+    const QString line = messageText(lineKey);
+    const QString filling = text ? QString(text) : messageText(absentKey);
+    return line.arg(filling);
+}
+
+QString numberLine(const char *key, double value)
+{
+    return messageText(key).arg(value, 0, 'g', -1);
+}
+
+void describeInteger(const DmlAttrDef &definition, QStringList *lines)
+{
+    *lines << messageText(keys::TipInteger);
+    *lines << messageText(keys::TipIntegerDefault).arg(int(definition.defaultInt), 0, 10);
+    *lines << messageText(keys::TipIntegerRange)
+                  .arg(int(definition.intMin), 0, 10)
+                  .arg(int(definition.intMax), 0, 10);
+}
+
+void describeFloat(const DmlAttrDef &definition, int displayUnits, QStringList *lines)
+{
+    *lines << messageText(keys::TipFloat);
+    *lines << numberLine(keys::TipFloatDefault, double(definition.defaultFloat));
+
+    float low = static_cast<float>(definition.floatMin);
+    float high = static_cast<float>(definition.floatMax);
+    gen__torvex_units_convert_2(&low, definition.unitsClass, displayUnits);
+    gen__torvex_units_convert_2(&high, definition.unitsClass, displayUnits);
+    *lines << numberLine(keys::TipFloatRange, double(low)).arg(double(high), 0, 'g', -1);
+
+    const QString line = messageText(keys::TipFloatUnits);
+    *lines << line.arg(QString(gen__torvex_cur_units_str(definition.unitsClass, displayUnits)));
+}
+
+} // namespace
+
+QString attributeDescription(const DmlAttrDef &definition, int displayUnits)
+{
+    QStringList lines;
+    lines << messageText(keys::TipInternalName).arg(fieldString(definition.name));
+    lines << messageText(keys::TipDisplayName).arg(fieldString(definition.prompt));
+    lines << messageText(keys::TipGroup).arg(fieldString(definition.group));
+
+    switch (definition.type) {
+    case DmlAttrBoolean:
+        lines << messageText(keys::TipBoolean);
+        break;
+    case DmlAttrText:
+        lines << messageText(keys::TipText);
+        lines << filledLine(keys::TipTextDefault, definition.defaultText, keys::TipTextNoDefault);
+        break;
+    case DmlAttrOption:
+        lines << messageText(keys::TipOption);
+        lines << filledLine(keys::TipOptionDefault, optionEntry(definition, definition.defaultOption),
+                            keys::TipOptionNoDefault);
+        break;
+    case DmlAttrInteger:
+        describeInteger(definition, &lines);
+        break;
+    case DmlAttrFloat:
+        describeFloat(definition, displayUnits, &lines);
+        break;
+    default:
+        break;
+    }
+    return lines.join(QLatin1String("\n"));
+}
+
+} // namespace Zudunmaf

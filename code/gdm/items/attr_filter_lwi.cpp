@@ -1,0 +1,244 @@
+#include "gdm/items/attr_filter_lwi.h"
+
+#include "gdm/host/host_text.h"
+#include "gdm/items/attr_access.h"
+#include "gdm/items/attr_roles.h"
+
+#include <QPoint>
+#include <QPointF>
+
+#include <cstring>
+
+namespace Zudunmaf
+{
+
+namespace
+{
+
+const QLatin1Char Blank(' ');
+
+QString number(const QString &text, int value)
+{
+    return text.arg(value, 0, 10, Blank);
+}
+
+QString number(const QString &text, double value)
+{
+    return text.arg(value, 0, 'f', 3, Blank);
+}
+
+template <class Number>
+QString rangeCell(Number low, Number high)
+{
+    return number(number(QString(QLatin1String("%1 to %2")), low), high);
+}
+
+// One argument after the other: a label that itself holds a placeholder takes the next argument in its place.
+template <class Number>
+QString rangeLine(Number low, const QString &label, Number high)
+{
+    return number(number(QString(QLatin1String("%1 <= %2 <= %3")), low).arg(label, 0, Blank), high);
+}
+
+/// The text or the option's entry of a set condition; empty where there is none.
+QString chosenText(const DmlAttrDef &definition, const DmlAttrValue &condition)
+{
+    return definition.type == DmlAttrText ? fieldString(condition.text)
+                                          : QString(optionEntry(definition, condition.option));
+}
+
+} // namespace
+
+AttrFilterLWI::AttrFilterLWI()
+    : DmlAttrLWI(ItemType_AttrFilter)
+{
+    takeRecord();
+    setFlags(flags() | Qt::ItemIsEditable);
+}
+
+AttrFilterLWI::AttrFilterLWI(const AttrFilterLWI &other)
+    : DmlAttrLWI(other)
+{
+    takeRecord();
+    std::memcpy(record(), other.record(), sizeof(DmlAttrValue));
+}
+
+AttrFilterLWI &AttrFilterLWI::operator=(const AttrFilterLWI &other)
+{
+    const QVariant ownValue = m_attrValue;
+    DmlAttrLWI::operator=(other);
+    m_attrValue = ownValue;
+    std::memmove(record(), other.record(), sizeof(DmlAttrValue));
+    return *this;
+}
+
+AttrFilterLWI::~AttrFilterLWI()
+{
+    if (DmlAttrValue *condition = record())
+        gen__mem_free(condition, 1, __FILE__, __LINE__);
+}
+
+void AttrFilterLWI::takeRecord()
+{
+    void *memory = gen__mem_malloc(sizeof(DmlAttrValue), 1, __FILE__, __LINE__);
+    std::memset(memory, 0, sizeof(DmlAttrValue));
+    m_attrValue = variantOfRecord(memory);
+}
+
+DmlAttrValue *AttrFilterLWI::record() const
+{
+    return recordIn<DmlAttrValue>(m_attrValue);
+}
+
+QTableWidgetItem *AttrFilterLWI::clone() const
+{
+    AttrFilterLWI *copy = new AttrFilterLWI;
+    copy->setDisplayValue(true);
+    DmlAttrLWI *item = copy;
+    item->setDmlAttribute(m_dmlAttribute);
+    item->setAttrValue(m_attrValue);
+    copy->setDisplayPrompt(m_displayPrompt);
+    return copy;
+}
+
+void AttrFilterLWI::setDmlAttribute(QVariant dmlAttribute)
+{
+    DmlAttrLWI::setDmlAttribute(dmlAttribute);
+    const DmlAttrDef *definition = definitionIn(m_dmlAttribute);
+    DmlAttrValue *condition = record();
+    if (definition && condition)
+        prime(*condition, *definition);
+}
+
+void AttrFilterLWI::setAttrValue(QVariant attrValue)
+{
+    const DmlAttrValue *given = recordIn<const DmlAttrValue>(attrValue);
+    DmlAttrValue *condition = record();
+    if (given && condition)
+        std::memmove(condition, given, sizeof(DmlAttrValue));
+}
+
+QVariant AttrFilterLWI::data(int role) const
+{
+    const DmlAttrDef *definition = definitionIn(m_dmlAttribute);
+    if (!definition)
+        return DmlAttrLWI::data(role);
+
+    switch (role) {
+    case DmlAttrNameRole:
+        return fieldString(definition->name);
+    case DmlAttrPromptRole:
+        return fieldString(definition->prompt);
+    case DmlAttrTypeRole:
+        return int(definition->type);
+    case DmlAttrDefRole:
+        return m_dmlAttribute;
+    case DmlAttrValueRole: {
+        const QVariant value = conditionValue(*definition);
+        return value.isValid() ? value : DmlAttrLWI::data(role);
+    }
+    case Qt::DisplayRole:
+        return column() == 1 ? cellText(*definition) : label(*definition);
+    case DmlAttrFilterTextRole:
+        return filterLine(*definition);
+    case Qt::ToolTipRole:
+        return m_displayPrompt ? DmlAttrLWI::data(role) : QVariant(fieldString(definition->prompt));
+    default:
+        return DmlAttrLWI::data(role);
+    }
+}
+
+bool AttrFilterLWI::isShown() const
+{
+    return m_displayValue || isSelected();
+}
+
+QString AttrFilterLWI::label(const DmlAttrDef &definition) const
+{
+    return m_displayPrompt ? fieldString(definition.prompt) : fieldString(definition.name);
+}
+
+/// The condition as a value; invalid where none is set or the type has none.
+QVariant AttrFilterLWI::conditionValue(const DmlAttrDef &definition) const
+{
+    const DmlAttrValue *condition = record();
+    if (!condition || !condition->isSet)
+        return QVariant();
+
+    switch (definition.type) {
+    case DmlAttrBoolean:
+        return true;
+    case DmlAttrText:
+        return fieldString(condition->text);
+    case DmlAttrOption: {
+        const char *entry = optionEntry(definition, condition->option);
+        return entry ? QVariant(QString(entry)) : QVariant();
+    }
+    case DmlAttrInteger:
+        return QPoint(condition->intLow, condition->intHigh);
+    case DmlAttrFloat:
+        return QPointF(condition->floatLow, condition->floatHigh);
+    default:
+        return QVariant();
+    }
+}
+
+/// What column 1 shows: the condition alone.
+QString AttrFilterLWI::cellText(const DmlAttrDef &definition) const
+{
+    const DmlAttrValue *condition = record();
+    if (!condition || !condition->isSet || !isShown())
+        return QString();
+
+    switch (definition.type) {
+    case DmlAttrText:
+    case DmlAttrOption:
+        return chosenText(definition, *condition);
+    case DmlAttrInteger:
+        return rangeCell(condition->intLow, condition->intHigh);
+    case DmlAttrFloat:
+        return rangeCell(condition->floatLow, condition->floatHigh);
+    default:
+        return QString();
+    }
+}
+
+/// The condition as the line that the host gets: the label alone where nothing is set.
+QString AttrFilterLWI::filterLine(const DmlAttrDef &definition) const
+{
+    if (!isShown() || definition.type < DmlAttrBoolean || definition.type > DmlAttrFloat)
+        return QString();
+
+    const QString name = label(definition);
+    const DmlAttrValue *condition = record();
+    if (!condition || !condition->isSet)
+        return name;
+
+    switch (definition.type) {
+    case DmlAttrText:
+    case DmlAttrOption: {
+        const QString chosen = chosenText(definition, *condition);
+        return chosen.isEmpty() ? name : QString(QLatin1String("%1 = ")).arg(name, 0, Blank) + chosen;
+    }
+    case DmlAttrInteger:
+        return rangeLine(condition->intLow, name, condition->intHigh);
+    case DmlAttrFloat:
+        return rangeLine(condition->floatLow, name, condition->floatHigh);
+    default:
+        return name;
+    }
+}
+
+QString AttrFilterLWI::toString() const
+{
+    return data(DmlAttrFilterTextRole).toString();
+}
+
+QString AttrFilterLWI::valueAsString() const
+{
+    return QString();
+}
+
+void AttrFilterLWI::setValueFromString(const QString &) {}
+
+} // namespace Zudunmaf

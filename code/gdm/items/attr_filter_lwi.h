@@ -1,0 +1,59 @@
+#ifndef GDM_ITEMS_ATTR_FILTER_LWI_H
+#define GDM_ITEMS_ATTR_FILTER_LWI_H
+
+#include "gdm/items/dml_attr_lwi.h"
+
+struct DmlAttrDef;
+struct DmlAttrValue;
+
+namespace Zudunmaf
+{
+
+/// Item of AttributesFilterDialog: one attribute with one condition. Column 0 shows the attribute, column 1
+/// the condition, and DmlAttrFilterTextRole gives both as the line that the host gets, such as "5 <= width <=
+/// 9".
+///
+/// The condition lives in a DmlAttrValue that the item owns from construction to destruction. attrValue()
+/// points to it, and whoever writes there changes the condition in place. Bounds are in the units of the
+/// definition.
+class GDM_EXPORT AttrFilterLWI : public DmlAttrLWI
+{
+public:
+    AttrFilterLWI();
+    /// Copies get a record of their own with the same condition. Assigning through a reference to DmlAttrLWI
+    /// shares the record instead and must not be done.
+    AttrFilterLWI(const AttrFilterLWI &other);
+    AttrFilterLWI &operator=(const AttrFilterLWI &other);
+    ~AttrFilterLWI() override;
+
+    /// A new item with the same condition in a record of its own, owned by the caller. It shows its condition
+    /// at all times and has no display units, whatever this item has.
+    QTableWidgetItem *clone() const override;
+    /// Without a definition, every role is answered as by a plain QTableWidgetItem.
+    QVariant data(int role) const override;
+
+    /// Takes the definition and wipes the condition: it is not set then, and its bounds span the whole range.
+    void setDmlAttribute(QVariant dmlAttribute) override;
+    /// Copies the DmlAttrValue that the argument points to into the item's own record; a null one is ignored.
+    /// The type is copied with the rest and compared with nothing.
+    void setAttrValue(QVariant attrValue) override;
+    /// The text of DmlAttrFilterTextRole.
+    QString toString() const override;
+    /// A null string: a condition has no value text.
+    QString valueAsString() const override;
+    /// Does nothing.
+    void setValueFromString(const QString &text) override;
+
+private:
+    void takeRecord();
+    DmlAttrValue *record() const;
+    bool isShown() const;
+    QVariant conditionValue(const DmlAttrDef &definition) const;
+    QString cellText(const DmlAttrDef &definition) const;
+    QString filterLine(const DmlAttrDef &definition) const;
+    QString label(const DmlAttrDef &definition) const;
+};
+
+} // namespace Zudunmaf
+
+#endif

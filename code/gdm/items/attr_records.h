@@ -1,0 +1,127 @@
+#ifndef GDM_ITEMS_ATTR_RECORDS_H
+#define GDM_ITEMS_ATTR_RECORDS_H
+
+#include <cstddef>
+#include <cstdint>
+
+// Fields that share their bytes with others are plain members by way of anonymous structs, which both
+// compilers take as an extension.
+#ifdef __clang__
+#    pragma clang diagnostic push
+#    pragma clang diagnostic ignored "-Wgnu-anonymous-struct"
+#    pragma clang diagnostic ignored "-Wnested-anon-types"
+#endif
+
+/// Type of an attribute, the same code in both records. Any other code is shown and stored by nobody.
+enum DmlAttrType {
+    DmlAttrBoolean = 0,
+    DmlAttrText = 1,
+    DmlAttrOption = 2,
+    DmlAttrInteger = 3,
+    DmlAttrFloat = 4
+};
+
+/// Definition of one attribute. Written by the dictionary, which owns it with all its strings and keeps it
+/// valid for as long as any item points to it; the library only reads. The layout is shared with the host,
+/// byte by byte.
+struct DmlAttrDef {
+    std::int32_t type;        ///< A DmlAttrType.
+    char name[65];            ///< Internal name, NUL-terminated.
+    char prompt[65];          ///< Name to display, NUL-terminated.
+    char group[66];           ///< Group name, NUL-terminated.
+    std::uint32_t entityMask; ///< The entities that may carry the attribute, see EntityMask.
+    unsigned char reserved204[12];
+
+    /// The default value, by type.
+    union {
+        std::int32_t defaultBool;   ///< Nonzero means true.
+        const char *defaultText;    ///< Null means that there is no default.
+        std::int32_t defaultOption; ///< Index into optionList; negative means that there is no default.
+        __extension__ struct {
+            std::int32_t defaultInt;
+            std::int32_t intMin; ///< Lower limit of an integer, in the upper half of the default's slot.
+        };
+        float defaultFloat; ///< Single precision, unlike the limits.
+    };
+
+    /// The limits or the choices, by type.
+    union {
+        std::int32_t intMax; ///< Upper limit of an integer.
+        __extension__ struct {
+            double floatMin; ///< Limits of a float, in the units of the definition.
+            double floatMax;
+        };
+        __extension__ struct {
+            const char *const *optionList; ///< Entries of an option, or choices of a text.
+            std::int32_t optionCount;
+        };
+    };
+
+    std::int32_t unitsClass; ///< Float only: units of the stored number; -1 means none.
+    unsigned char reserved244[4];
+    std::int32_t textChoiceCount; ///< Text only: 1 or more means that optionList is offered as choices.
+    unsigned char reserved252[4];
+};
+
+/// Condition on one attribute. Belongs to exactly one AttrFilterLWI and is all zero until something is
+/// stored.
+struct DmlAttrValue {
+    unsigned char reserved0[4];
+    std::int32_t type; ///< Copy of DmlAttrDef::type.
+    unsigned char reserved8[4];
+    std::int32_t isSet; ///< Nonzero means that the user has set a condition.
+
+    /// The condition, by type; a boolean has none but isSet.
+    union {
+        char text[200];      ///< NUL-terminated, in the local 8-bit encoding.
+        std::int32_t option; ///< Index into DmlAttrDef::optionList; -1 means that nothing is chosen.
+        __extension__ struct {
+            std::int32_t intLow;
+            std::int32_t intHigh; ///< Never below intLow once edited.
+        };
+        __extension__ struct {
+            double floatLow; ///< In the units of the definition, whatever the display units are.
+            double floatHigh;
+        };
+    };
+
+    unsigned char reserved216[8];
+};
+
+#ifdef __clang__
+#    pragma clang diagnostic pop
+#endif
+
+static_assert(sizeof(void *) == 8, "the records are laid out for 64-bit pointers");
+
+static_assert(offsetof(DmlAttrDef, type) == 0, "DmlAttrDef::type");
+static_assert(offsetof(DmlAttrDef, name) == 4, "DmlAttrDef::name");
+static_assert(offsetof(DmlAttrDef, prompt) == 69, "DmlAttrDef::prompt");
+static_assert(offsetof(DmlAttrDef, group) == 134, "DmlAttrDef::group");
+static_assert(offsetof(DmlAttrDef, entityMask) == 200, "DmlAttrDef::entityMask");
+static_assert(offsetof(DmlAttrDef, defaultBool) == 216, "DmlAttrDef::defaultBool");
+static_assert(offsetof(DmlAttrDef, defaultText) == 216, "DmlAttrDef::defaultText");
+static_assert(offsetof(DmlAttrDef, defaultOption) == 216, "DmlAttrDef::defaultOption");
+static_assert(offsetof(DmlAttrDef, defaultInt) == 216, "DmlAttrDef::defaultInt");
+static_assert(offsetof(DmlAttrDef, intMin) == 220, "DmlAttrDef::intMin");
+static_assert(offsetof(DmlAttrDef, defaultFloat) == 216, "DmlAttrDef::defaultFloat");
+static_assert(offsetof(DmlAttrDef, intMax) == 224, "DmlAttrDef::intMax");
+static_assert(offsetof(DmlAttrDef, floatMin) == 224, "DmlAttrDef::floatMin");
+static_assert(offsetof(DmlAttrDef, floatMax) == 232, "DmlAttrDef::floatMax");
+static_assert(offsetof(DmlAttrDef, optionList) == 224, "DmlAttrDef::optionList");
+static_assert(offsetof(DmlAttrDef, optionCount) == 232, "DmlAttrDef::optionCount");
+static_assert(offsetof(DmlAttrDef, unitsClass) == 240, "DmlAttrDef::unitsClass");
+static_assert(offsetof(DmlAttrDef, textChoiceCount) == 248, "DmlAttrDef::textChoiceCount");
+static_assert(sizeof(DmlAttrDef) == 256, "DmlAttrDef");
+
+static_assert(offsetof(DmlAttrValue, type) == 4, "DmlAttrValue::type");
+static_assert(offsetof(DmlAttrValue, isSet) == 12, "DmlAttrValue::isSet");
+static_assert(offsetof(DmlAttrValue, text) == 16, "DmlAttrValue::text");
+static_assert(offsetof(DmlAttrValue, option) == 16, "DmlAttrValue::option");
+static_assert(offsetof(DmlAttrValue, intLow) == 16, "DmlAttrValue::intLow");
+static_assert(offsetof(DmlAttrValue, intHigh) == 20, "DmlAttrValue::intHigh");
+static_assert(offsetof(DmlAttrValue, floatLow) == 16, "DmlAttrValue::floatLow");
+static_assert(offsetof(DmlAttrValue, floatHigh) == 24, "DmlAttrValue::floatHigh");
+static_assert(sizeof(DmlAttrValue) == 224, "DmlAttrValue");
+
+#endif

@@ -1,0 +1,112 @@
+#include "gdm/items/dml_attr_lwi.h"
+
+#include "gdm/items/attr_access.h"
+
+namespace Zudunmaf
+{
+
+DmlAttrLWI::DmlAttrLWI(ItemType_Enum itemType)
+    : QTableWidgetItem(QTableWidgetItem::UserType)
+    , m_displayPrompt(false)
+    , m_displayValue(false)
+    , m_displayUnits(-1)
+    , m_itemType(itemType)
+{
+}
+
+DmlAttrLWI::DmlAttrLWI(const DmlAttrLWI &other) = default;
+
+DmlAttrLWI &DmlAttrLWI::operator=(const DmlAttrLWI &other) = default;
+
+DmlAttrLWI::~DmlAttrLWI() = default;
+
+QTableWidgetItem *DmlAttrLWI::clone() const
+{
+    DmlAttrLWI *copy = new DmlAttrLWI(m_itemType);
+    copy->setDmlAttribute(m_dmlAttribute);
+    copy->setAttrValue(m_attrValue);
+    copy->setDisplayPrompt(m_displayPrompt);
+    copy->setDisplayValue(m_displayValue);
+    copy->setDisplayUnits(m_displayUnits);
+    return copy;
+}
+
+QVariant DmlAttrLWI::data(int role) const
+{
+    return QTableWidgetItem::data(role);
+}
+
+void DmlAttrLWI::setDmlAttribute(QVariant dmlAttribute)
+{
+    m_dmlAttribute = dmlAttribute;
+}
+
+void DmlAttrLWI::setAttrValue(QVariant attrValue)
+{
+    m_attrValue = attrValue;
+}
+
+QString DmlAttrLWI::toString() const
+{
+    return QString();
+}
+
+QString DmlAttrLWI::valueAsString() const
+{
+    return QString();
+}
+
+void DmlAttrLWI::setValueFromString(const QString &) {}
+
+QVariant DmlAttrLWI::dmlAttribute() const
+{
+    return m_dmlAttribute;
+}
+
+QVariant DmlAttrLWI::attrValue() const
+{
+    return m_attrValue;
+}
+
+bool DmlAttrLWI::displayPrompt() const
+{
+    return m_displayPrompt;
+}
+
+bool DmlAttrLWI::displayValue()
+{
+    return m_displayValue;
+}
+
+int DmlAttrLWI::displayUnits()
+{
+    return m_displayUnits;
+}
+
+DmlAttrLWI::ItemType_Enum DmlAttrLWI::itemType()
+{
+    return m_itemType;
+}
+
+int DmlAttrLWI::getDmlAttrType()
+{
+    const DmlAttrDef *definition = definitionIn(m_dmlAttribute);
+    return definition ? definition->type : 0;
+}
+
+void DmlAttrLWI::setDisplayPrompt(bool displayPrompt)
+{
+    m_displayPrompt = displayPrompt;
+}
+
+void DmlAttrLWI::setDisplayValue(bool displayValue)
+{
+    m_displayValue = displayValue;
+}
+
+void DmlAttrLWI::setDisplayUnits(int displayUnits)
+{
+    m_displayUnits = displayUnits;
+}
+
+} // namespace Zudunmaf

@@ -1,0 +1,38 @@
+#ifndef DML_DICTIONARY_STORE_H
+#define DML_DICTIONARY_STORE_H
+
+#include "dml/dictionary.h"
+
+#include <QVector>
+
+#include <map>
+#include <memory>
+#include <vector>
+
+namespace Zudunmaf::dml
+{
+
+class Refusal;
+
+/// The loaded dictionaries of the process, by identifier.
+class DictionaryStore
+{
+public:
+    static DictionaryStore &instance();
+
+    /// Takes all of `dictionaries`, or none and refuses where an identifier is taken already.
+    void add(std::vector<std::unique_ptr<Dictionary>> dictionaries, Refusal &refusal);
+    bool remove(int did) { return m_dictionaries.erase(did) > 0; }
+    void clear() { m_dictionaries.clear(); }
+
+    /// Null where `did` is not loaded.
+    Dictionary *find(int did) const;
+    QVector<int> ids() const;
+
+private:
+    std::map<int, std::unique_ptr<Dictionary>> m_dictionaries;
+};
+
+} // namespace Zudunmaf::dml
+
+#endif

@@ -1,0 +1,22 @@
+#include "gdm/host/gen_services.h"
+
+#include "gen/wildcard_pattern.h"
+
+#include <QByteArray>
+
+int gen__str_cmp_nc(const char *a, const char *b)
+{
+    return qstricmp(a ? a : "", b ? b : "");
+}
+
+bool gen__str_cmp_reg(const char *text, const char *pattern)
+{
+    using Zudunmaf::gen::WildcardPattern;
+
+    // A walk over the dictionary asks with the same pattern for each attribute.
+    static WildcardPattern last("*");
+    const char *wanted = pattern ? pattern : "";
+    if (last.source() != wanted)
+        last = WildcardPattern(wanted);
+    return last.matches(text ? text : "");
+}

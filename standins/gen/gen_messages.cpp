@@ -1,0 +1,109 @@
+#include "gdm/host/gen_services.h"
+
+#include "common/message_catalogue.h"
+#include "gen/gen_control.h"
+
+#include <clocale>
+#include <cstring>
+#include <dlfcn.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace
+{
+
+using Zudunmaf::standins::CatalogueDomain;
+
+/// Where the catalogues lie by default, seen from this library: installed, or still in the build directory.
+QString defaultCatalogueDirectory()
+{
+    Dl_info library;
+    if (dladdr(reinterpret_cast<const void *>(&CatalogueDomain), &library) == 0)
+        return QString();
+    const QFileInfo file(QFile::decodeName(library.dli_fname));
+    const QDir home(QFileInfo(file.canonicalFilePath()).absolutePath());
+    for (const char *way : {ZUDUNMAF_LOCALE_FROM_LIBRARY, ZUDUNMAF_LOCALE_FROM_BUILT_LIBRARY}) {
+        const QString directory = home.filePath(QLatin1String(way));
+        if (QFileInfo(directory).isDir())
+            return QDir::cleanPath(directory);
+    }
+    return QString();
+}
+
+void bindCatalogues(const QString &directory)
+{
+    if (!directory.isEmpty())
+        bindtextdomain(CatalogueDomain, QFile::encodeName(directory).constData());
+    bind_textdomain_codeset(CatalogueDomain, "UTF-8");
+}
+
+// At load, since another stand-in may want a message before anybody has called a service.
+void bindDefaultCatalogues()
+{
+    bindCatalogues(defaultCatalogueDirectory());
+}
+Q_CONSTRUCTOR_FUNCTION(bindDefaultCatalogues)
+
+/// In the locale "C" gettext translates nothing, whatever language is asked for.
+void leaveUntranslatedLocale()
+{
+    const char *locale = std::setlocale(LC_MESSAGES, nullptr);
+    if (locale && std::strcmp(locale, "C") != 0 && std::strcmp(locale, "POSIX") != 0)
+        return;
+    for (const char *candidate : {"C.UTF-8", "C.utf8", "en_US.UTF-8"}) {
+        if (std::setlocale(LC_MESSAGES, candidate))
+            return;
+    }
+}
+
+/// gettext keeps the translations that it has found until it is told that the language may be another.
+void forgetFoundTranslations()
+{
+    textdomain(textdomain(nullptr));
+}
+
+bool isLanguageChosen = false;
+
+void makeChoiceCount()
+{
+    if (isLanguageChosen)
+        leaveUntranslatedLocale();
+}
+
+} // namespace
+
+void Zudunmaf::gen::setLanguage(const QString &language)
+{
+    static const QByteArray languageOfUser = qgetenv("LANGUAGE");
+    // An application object that is made later sets the whole locale anew.
+    static const bool isHooked = (qAddPreRoutine(makeChoiceCount), true);
+    Q_UNUSED(isHooked)
+
+    isLanguageChosen = !language.isEmpty();
+    qputenv("LANGUAGE", isLanguageChosen ? language.toLatin1() : languageOfUser);
+    if (!isLanguageChosen)
+        std::setlocale(LC_MESSAGES, "");
+    makeChoiceCount();
+    forgetFoundTranslations();
+}
+
+void Zudunmaf::gen::setCatalogueDirectory(const QString &directory)
+{
+    bindCatalogues(directory.isEmpty() ? defaultCatalogueDirectory() : QDir(directory).absolutePath());
+    forgetFoundTranslations();
+}
+
+const char *gen__nls_nlst(const char *key)
+{
+    return Zudunmaf::standins::messageOf(key);
+}
+
+const char *gen__nls_nlsa_get_att_prompt(const char *name, const char *prompt)
+{
+    if (prompt && *prompt)
+        return Zudunmaf::standins::translationOf(prompt);
+    return name ? name : "";
+}

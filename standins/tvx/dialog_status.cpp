@@ -1,0 +1,166 @@
+#include "tvx/dialog_status.h"
+
+#include "gdm/items/attr_records.h"
+#include "gdm/items/attr_roles.h"
+#include "tvx/offer_choice.h"
+#include "tvx/row_transfer.h"
+#include "tvx/selection_widgets.h"
+#include "tvx/top_table.h"
+#include "tvx/tvx_texts.h"
+
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QSpinBox>
+
+namespace Zudunmaf
+{
+namespace tvx
+{
+
+namespace
+{
+
+const QLatin1String Separator("  \xb7  ");
+
+QString typeText(int type)
+{
+    switch (type) {
+    case DmlAttrBoolean:
+        return textOf(texts::TypeBoolean);
+    case DmlAttrText:
+        return textOf(texts::TypeText);
+    case DmlAttrOption:
+        return textOf(texts::TypeOption);
+    case DmlAttrInteger:
+        return textOf(texts::TypeInteger);
+    case DmlAttrFloat:
+        return textOf(texts::TypeFloat);
+    default:
+        return QString();
+    }
+}
+
+/// An item that describes its attribute in lines of its own is taken at its word; another is told by its
+/// roles.
+QString descriptionOf(const QTableWidgetItem &item)
+{
+    QStringList parts;
+    const QStringList lines = item.toolTip().split(QLatin1Char('\n'));
+    if (lines.size() > 1) {
+        for (const QString &line : lines)
+            parts.append(line.simplified());
+    } else {
+        parts = QStringList{item.data(DmlAttrNameRole).toString(), item.data(DmlAttrPromptRole).toString(),
+                            typeText(item.data(DmlAttrTypeRole).toInt())};
+        if (parts[0] == parts[1])
+            parts.removeFirst();
+    }
+    parts.removeAll(QString());
+    return parts.join(Separator);
+}
+
+QString limitsOf(const QSpinBox &box)
+{
+    return textOf(texts::Limits).arg(box.minimum()).arg(box.maximum());
+}
+
+QString limitsOf(const QDoubleSpinBox &box)
+{
+    const auto number = [&box](double value) { return QString::number(value, 'f', box.decimals()); };
+    return textOf(texts::Limits).arg(number(box.minimum()), number(box.maximum()));
+}
+
+/// The limits of the first box of this kind, the editor itself or one in it.
+template <class Box>
+QString limitsWithin(const QWidget *editor)
+{
+    const auto *box = qobject_cast<const Box *>(editor);
+    if (!box)
+        box = editor->findChild<Box *>();
+    return box ? limitsOf(*box) : QString();
+}
+
+void setText(QLabel *label, const QString &text)
+{
+    if (label->text() != text)
+        label->setText(text);
+    label->setToolTip(text);
+}
+
+} // namespace
+
+DialogStatus::DialogStatus(const SelectionWidgets &widgets, const OfferChoice &choice,
+                           const RowTransfer &transfer)
+    : m_widgets(widgets)
+    , m_choice(choice)
+    , m_transfer(transfer)
+{
+}
+
+void DialogStatus::update() const
+{
+    updateCounts();
+    updateButtons();
+    updateTexts();
+}
+
+void DialogStatus::updateCounts() const
+{
+    const QString shown = textOf(texts::ShownOfTotal)
+                              .arg(m_widgets.topView->visibleRowCount())
+                              .arg(m_widgets.topView->rowCount());
+    m_widgets.offeredLabel->setText(textOf(texts::Offered) + QLatin1Char(' ') + shown);
+    m_widgets.chosenLabel->setText(textOf(texts::Chosen) + QLatin1Char(' ') +
+                                   QString::number(m_widgets.chosenList->rowCount()));
+}
+
+void DialogStatus::updateButtons() const
+{
+    m_widgets.addButton->setEnabled(m_widgets.topView->hasVisibleSelection());
+    m_widgets.removeButton->setEnabled(m_widgets.chosenList->hasVisibleSelection());
+    m_widgets.undoButton->setEnabled(m_transfer.canUndoRemoval());
+    m_widgets.clearButton->setEnabled(m_widgets.chosenList->rowCount() > 0);
+}
+
+void DialogStatus::updateTexts() const
+{
+    m_widgets.topView->setEmptyText(offerText());
+    setText(m_widgets.description, describedText());
+
+    const ChosenTable *chosen = m_widgets.chosenList;
+    const QTableWidgetItem *current = chosen->rowItem(chosen->currentRow());
+    const QString line = current ? current->data(DmlAttrFilterTextRole).toString() : QString();
+    setText(m_widgets.preview, line.isEmpty() ? QString() : textOf(texts::PreviewLine).arg(line));
+}
+
+QString DialogStatus::offerText() const
+{
+    if (m_choice.dictionary() < 0)
+        return textOf(texts::NoDictionary);
+    return textOf(m_choice.isNarrowed() ? texts::NothingMatches : texts::NothingLeft);
+}
+
+QString DialogStatus::describedText() const
+{
+    const ChosenTable *chosen = m_widgets.chosenList;
+    const bool inChosen = chosen->openEditor() || chosen->hasFocus();
+    const QTableWidgetItem *current = inChosen ? chosen->rowItem(chosen->currentRow())
+                                               : m_widgets.topView->rowItem(m_widgets.topView->currentRow());
+    if (!current)
+        return QString();
+    const QString limits = limitsOfEditor();
+    return descriptionOf(*current) + (limits.isEmpty() ? QString() : Separator + limits);
+}
+
+QString DialogStatus::limitsOfEditor() const
+{
+    const QWidget *editor = m_widgets.chosenList->openEditor();
+    if (!editor)
+        return QString();
+    const QString limits = limitsWithin<QSpinBox>(editor);
+    return limits.isEmpty() ? limitsWithin<QDoubleSpinBox>(editor) : limits;
+}
+
+} // namespace tvx
+} // namespace Zudunmaf

@@ -1,0 +1,43 @@
+#ifndef TVX_DIALOG_STATUS_H
+#define TVX_DIALOG_STATUS_H
+
+#include <QString>
+
+class QTableWidgetItem;
+
+namespace Zudunmaf
+{
+namespace tvx
+{
+
+class OfferChoice;
+class RowTransfer;
+class SelectionWidgets;
+
+/// Brings everything that depends on the state of the dialog up to date: counts, which buttons can be
+/// pressed, the texts in tables without rows, description and preview. It reads and never changes that state.
+/// What it is made of must outlive it.
+class DialogStatus
+{
+public:
+    DialogStatus(const SelectionWidgets &widgets, const OfferChoice &choice, const RowTransfer &transfer);
+
+    void update() const;
+
+private:
+    void updateCounts() const;
+    void updateButtons() const;
+    void updateTexts() const;
+    QString offerText() const;
+    QString describedText() const;
+    QString limitsOfEditor() const;
+
+    const SelectionWidgets &m_widgets;
+    const OfferChoice &m_choice;
+    const RowTransfer &m_transfer;
+};
+
+} // namespace tvx
+} // namespace Zudunmaf
+
+#endif

@@ -1,0 +1,104 @@
+#include "tvx/offer_choice.h"
+
+#include "gdm/dialogs/tvx_attributes_selection_dialog.h"
+#include "tvx/selection_widgets.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QSignalBlocker>
+
+namespace Zudunmaf
+{
+namespace tvx
+{
+
+OfferChoice::OfferChoice(int did, const SelectionWidgets &widgets)
+    : m_did(did)
+    , m_entityList(widgets.entityList)
+    , m_groupList(widgets.groupList)
+    , m_filterText(widgets.filterText)
+{
+}
+
+OfferChoice::~OfferChoice() = default;
+
+void OfferChoice::setEntities(const QList<TvxDataItem *> &items)
+{
+    const QSignalBlocker blocker(m_entityList);
+    m_entityList->clear();
+    m_entities.clear();
+    for (TvxDataItem *item : items) {
+        m_entities.emplace_back(item);
+        m_entityList->addItem(item->text());
+    }
+    m_entityList->setCurrentIndex(m_entityList->count() - 1);
+}
+
+void OfferChoice::setGroups(const QStringList &groups)
+{
+    const QSignalBlocker blocker(m_groupList);
+    m_groups = groups;
+    m_groupList->clear();
+    m_groupList->addItems(groups);
+    m_groupList->setCurrentIndex(groups.isEmpty() ? -1 : 0);
+}
+
+const TvxDataItem *OfferChoice::entity() const
+{
+    const int row = m_entityList->currentIndex();
+    return row < 0 ? nullptr : m_entities[static_cast<std::size_t>(row)].get();
+}
+
+int OfferChoice::dictionary() const
+{
+    if (m_did != -1)
+        return m_did;
+    const TvxDataItem *item = entity();
+    return item ? item->did() : -1;
+}
+
+int OfferChoice::mask() const
+{
+    const TvxDataItem *item = entity();
+    return item ? item->data().toInt() : 0;
+}
+
+QString OfferChoice::group() const
+{
+    return m_groups.value(m_groupList->currentIndex());
+}
+
+QString OfferChoice::text() const
+{
+    return m_filterText->text();
+}
+
+bool OfferChoice::isNarrowed() const
+{
+    return m_entityList->currentIndex() != m_entityList->count() - 1 || m_groupList->currentIndex() > 0 ||
+           !text().isEmpty();
+}
+
+void OfferChoice::rememberFill()
+{
+    m_atLastFill = state();
+    m_lastFillNarrowed = isNarrowed();
+}
+
+bool OfferChoice::wantsRefill() const
+{
+    return m_lastFillNarrowed && !(state() == m_atLastFill);
+}
+
+OfferChoice::State OfferChoice::state() const
+{
+    return {dictionary(), mask(), group(), text()};
+}
+
+bool OfferChoice::State::operator==(const State &other) const
+{
+    return dictionary == other.dictionary && mask == other.mask && group == other.group && text == other.text;
+}
+
+} // namespace tvx
+} // namespace Zudunmaf

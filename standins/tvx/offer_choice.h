@@ -1,0 +1,73 @@
+#ifndef TVX_OFFER_CHOICE_H
+#define TVX_OFFER_CHOICE_H
+
+#include <QStringList>
+
+#include <memory>
+#include <vector>
+
+class QComboBox;
+class QLineEdit;
+class TvxDataItem;
+
+namespace Zudunmaf
+{
+namespace tvx
+{
+
+class SelectionWidgets;
+
+/// What the user has chosen to be offered: entity, group and filter text. It also knows whether the last fill
+/// of the top view left rows out that the present choice may want back.
+class OfferChoice
+{
+public:
+    /// `did` is the dictionary; -1 leaves it to the selected entity row. The widgets stay the dialog's.
+    OfferChoice(int did, const SelectionWidgets &widgets);
+    ~OfferChoice();
+
+    /// Shows the rows, takes the objects over and selects the last row. No change is signalled.
+    void setEntities(const QList<TvxDataItem *> &items);
+    /// Shows the rows and selects the first one. No change is signalled.
+    void setGroups(const QStringList &groups);
+
+    int dictionary() const;
+    int mask() const;
+    QString group() const;
+    QString text() const;
+
+    /// True where not the last entity, the first group and an empty text are chosen.
+    bool isNarrowed() const;
+    /// The top view has just been filled under the present choice.
+    void rememberFill();
+    /// True where the choice was narrowed at the last fill and has changed since.
+    bool wantsRefill() const;
+
+private:
+    Q_DISABLE_COPY(OfferChoice)
+
+    struct State {
+        int dictionary;
+        int mask;
+        QString group;
+        QString text;
+        bool operator==(const State &other) const;
+    };
+
+    const TvxDataItem *entity() const;
+    State state() const;
+
+    int m_did;
+    QComboBox *m_entityList;
+    QComboBox *m_groupList;
+    QLineEdit *m_filterText;
+    std::vector<std::unique_ptr<TvxDataItem>> m_entities;
+    QStringList m_groups;
+    State m_atLastFill{};
+    bool m_lastFillNarrowed = false;
+};
+
+} // namespace tvx
+} // namespace Zudunmaf
+
+#endif

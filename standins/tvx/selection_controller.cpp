@@ -1,0 +1,240 @@
+#include "tvx/selection_controller.h"
+
+#include "gdm/dialogs/tvx_attributes_selection_dialog.h"
+#include "tvx/row_transfer.h"
+#include "tvx/top_table.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QShortcut>
+
+namespace Zudunmaf
+{
+namespace tvx
+{
+
+SelectionController::SelectionController(int did, TvxAttributesSelectionDialog *dialog)
+    : QObject(dialog)
+    , m_dialog(dialog)
+    , m_widgets(dialog)
+    , m_choice(did, m_widgets)
+    , m_transfer(new RowTransfer(dialog, m_widgets.topView, m_widgets.chosenList, this))
+    , m_status(m_widgets, m_choice, *m_transfer)
+{
+    dialog->installEventFilter(this);
+    m_widgets.filterText->installEventFilter(this);
+    m_widgets.entityList->installEventFilter(this);
+    m_widgets.groupList->installEventFilter(this);
+}
+
+SelectionController::~SelectionController()
+{
+    m_widgets.chosenList->dropEditing();
+}
+
+void SelectionController::connectWidgets()
+{
+    if (m_connected)
+        return;
+    m_connected = true;
+    connectChoice();
+    connectButtons();
+    connectTables();
+    connectShortcuts();
+    connect(qApp, &QApplication::focusChanged, this, &SelectionController::refresh);
+    refresh();
+}
+
+void SelectionController::connectChoice()
+{
+    const auto indexChanged = QOverload<int>::of(&QComboBox::currentIndexChanged);
+    connect(m_widgets.entityList, indexChanged, this, &SelectionController::offerChanged);
+    connect(m_widgets.groupList, indexChanged, this, &SelectionController::offerChanged);
+    connect(m_widgets.filterText, &QLineEdit::textChanged, this, &SelectionController::offerChanged);
+}
+
+void SelectionController::connectButtons()
+{
+    connect(m_widgets.addButton, &QPushButton::clicked, m_transfer, &RowTransfer::addSelected);
+    connect(m_widgets.removeButton, &QPushButton::clicked, m_transfer, &RowTransfer::removeSelected);
+    connect(m_widgets.undoButton, &QPushButton::clicked, m_transfer, &RowTransfer::undoRemoval);
+    connect(m_widgets.clearButton, &QPushButton::clicked, m_transfer, &RowTransfer::removeAll);
+    connect(m_widgets.buttonBox, &QDialogButtonBox::accepted, this, &SelectionController::acceptDialog);
+    connect(m_widgets.buttonBox, &QDialogButtonBox::rejected, this, &SelectionController::rejectDialog);
+}
+
+void SelectionController::connectTables()
+{
+    TopTable *top = m_widgets.topView;
+    ChosenTable *chosen = m_widgets.chosenList;
+    connect(top, &TopTable::rowsActivated, m_transfer, &RowTransfer::addSelected);
+    connect(chosen, &ChosenTable::rowsDropped, m_transfer, &RowTransfer::addSelected);
+    connect(chosen, &ChosenTable::removalRequested, m_transfer, &RowTransfer::removeSelected);
+    connect(top, &TopTable::rowsDropped, m_transfer, &RowTransfer::removeSelected);
+    connect(chosen, &ChosenTable::menuRequested, this, &SelectionController::showContextMenu);
+
+    connect(top, &TopTable::nameWidthChanged, this, &SelectionController::followNameWidth);
+    connect(chosen, &ChosenTable::nameWidthChanged, this, &SelectionController::followNameWidth);
+    connect(top, &TopTable::itemSelectionChanged, this, &SelectionController::refresh);
+    connect(top, &TopTable::currentItemChanged, this, &SelectionController::refresh);
+    connect(chosen, &ChosenTable::itemSelectionChanged, this, &SelectionController::refresh);
+    connect(chosen, &ChosenTable::currentItemChanged, this, &SelectionController::refresh);
+    connect(chosen, &ChosenTable::editingStarted, this, &SelectionController::refresh);
+    connect(chosen, &ChosenTable::editingEnded, this, &SelectionController::refresh);
+    connect(m_transfer, &RowTransfer::transferred, this, &SelectionController::refresh);
+}
+
+void SelectionController::connectShortcuts()
+{
+    auto *find = new QShortcut(QKeySequence::Find, m_dialog);
+    connect(find, &QShortcut::activated, this, [this] {
+        m_widgets.filterText->setFocus(Qt::ShortcutFocusReason);
+        m_widgets.filterText->selectAll();
+    });
+    auto *undo = new QShortcut(QKeySequence::Undo, m_dialog);
+    connect(undo, &QShortcut::activated, m_transfer, &RowTransfer::undoRemoval);
+}
+
+void SelectionController::acceptDialog()
+{
+    m_widgets.chosenList->finishEditing();
+    m_dialog->accept();
+}
+
+void SelectionController::rejectDialog()
+{
+    m_widgets.chosenList->dropEditing();
+    m_dialog->reject();
+}
+
+void SelectionController::setDisplayUnits(int units)
+{
+    m_widgets.chosenList->finishEditing();
+    m_displayUnits = units;
+}
+
+void SelectionController::fillTopView(const QList<QTableWidgetItem *> &items)
+{
+    m_widgets.topView->fill(items);
+    m_choice.rememberFill();
+    if (!m_nameWidthIsUsers) {
+        const int width = m_widgets.topView->wantedNameWidth();
+        m_widgets.topView->setNameWidth(width);
+        m_widgets.chosenList->setNameWidth(width);
+    }
+    refresh();
+}
+
+void SelectionController::offerChanged()
+{
+    m_widgets.chosenList->finishEditing();
+    m_widgets.topView->setHighlightedText(m_choice.text());
+    {
+        const TopTable::Pass pass(m_widgets.topView);
+        if (m_choice.wantsRefill())
+            m_dialog->setDisplayUnits(m_displayUnits);
+        m_dialog->filterAttributeList();
+    }
+    refresh();
+}
+
+/// The columns of the two tables stand in one line.
+void SelectionController::followNameWidth(int width)
+{
+    m_nameWidthIsUsers = true;
+    if (sender() == m_widgets.topView)
+        m_widgets.chosenList->setNameWidth(width);
+    else
+        m_widgets.topView->setNameWidth(width);
+}
+
+void SelectionController::setContextMenu(QMenu *menu)
+{
+    m_contextMenu = menu;
+    if (!menu)
+        return;
+    // From the actions and not from the menu: its own signal reaches the subclass, which is connected later,
+    // last.
+    const auto actions = menu->actions();
+    for (QAction *action : actions) {
+        connect(action, &QAction::triggered, this, [this] {
+            m_widgets.chosenList->viewport()->update();
+            refresh();
+        });
+    }
+}
+
+void SelectionController::showContextMenu(const QPoint &globalPosition)
+{
+    if (m_contextMenu && !m_contextMenu->isVisible())
+        m_contextMenu->popup(globalPosition);
+}
+
+QList<QTableWidgetItem *> SelectionController::contextMenuItems() const
+{
+    const ChosenTable *chosen = m_widgets.chosenList;
+    QList<QTableWidgetItem *> items;
+    const QVector<int> rows = chosen->selectedVisibleRows();
+    for (int row : rows)
+        items.append(chosen->rowItem(row));
+    QTableWidgetItem *current = chosen->rowItem(chosen->currentRow());
+    if (items.isEmpty() && current)
+        items.append(current);
+    return items;
+}
+
+bool SelectionController::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool onList = watched == m_widgets.entityList || watched == m_widgets.groupList;
+    if (onList && event->type() == QEvent::Wheel && !static_cast<QWidget *>(watched)->hasFocus())
+        return true;
+    if (watched == m_widgets.filterText && event->type() == QEvent::KeyPress)
+        return filterKey(static_cast<QKeyEvent *>(event));
+    if (watched == m_dialog && event->type() == QEvent::KeyPress) {
+        // Enter that no widget has taken would press the default button.
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        return key == Qt::Key_Return || key == Qt::Key_Enter;
+    }
+    if (watched == m_dialog && event->type() == QEvent::FontChange)
+        m_widgets.fitToFont();
+    return QObject::eventFilter(watched, event);
+}
+
+/// One focus for typing and walking: the keys that a line of text has no use for act on the top view.
+bool SelectionController::filterKey(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        QApplication::sendEvent(m_widgets.topView, event);
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        m_transfer->addSelected();
+        return true;
+    case Qt::Key_Escape:
+        if (m_widgets.filterText->text().isEmpty())
+            return false;
+        m_widgets.filterText->clear();
+        return true;
+    default:
+        return false;
+    }
+}
+
+void SelectionController::refresh()
+{
+    if (m_connected)
+        m_status.update();
+}
+
+} // namespace tvx
+} // namespace Zudunmaf

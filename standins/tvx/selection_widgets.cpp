@@ -1,0 +1,214 @@
+#include "tvx/selection_widgets.h"
+
+#include "tvx/button_picture.h"
+#include "tvx/chosen_table.h"
+#include "tvx/top_table.h"
+#include "tvx/tvx_texts.h"
+
+#include <QComboBox>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+namespace Zudunmaf
+{
+namespace tvx
+{
+
+namespace
+{
+
+constexpr char OfferedRows[] = "application/x-zudunmaf-offered-rows";
+constexpr char ChosenRows[] = "application/x-zudunmaf-chosen-rows";
+constexpr int DescriptionLines = 2;
+
+template <class Widget>
+Widget *named(Widget *widget, const char *objectName, const char *spokenName)
+{
+    widget->setObjectName(QLatin1String(objectName));
+    widget->setAccessibleName(spokenTextOf(spokenName));
+    return widget;
+}
+
+/// A click leaves the keyboard where it is: in the table that is worked on, or in an editor whose entry only
+/// the button's own meaning may keep or drop.
+QPushButton *button(QDialog *dialog, const char *objectName, const char *text, const char *hint)
+{
+    QPushButton *button = named(new QPushButton(textOf(text), dialog), objectName, text);
+    button->setToolTip(textOf(hint));
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setEnabled(false);
+    return button;
+}
+
+QComboBox *list(QDialog *dialog, const char *objectName, const char *spokenName)
+{
+    QComboBox *list = named(new QComboBox(dialog), objectName, spokenName);
+    list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    list->setMinimumContentsLength(12);
+    list->setMaxVisibleItems(20);
+    return list;
+}
+
+QLabel *label(const char *text, QWidget *buddy)
+{
+    auto *label = new QLabel(textOf(text), buddy->parentWidget());
+    label->setBuddy(buddy);
+    return label;
+}
+
+QLabel *textLine(QDialog *dialog, const char *objectName, const char *spokenName)
+{
+    QLabel *line = named(new QLabel(dialog), objectName, spokenName);
+    line->setTextFormat(Qt::PlainText);
+    line->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    line->setWordWrap(true);
+    line->setAlignment(Qt::AlignLeading | Qt::AlignTop);
+    line->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    return line;
+}
+
+} // namespace
+
+SelectionWidgets::SelectionWidgets(QDialog *dialog)
+{
+    createChoice(dialog);
+    createTables(dialog);
+    createButtons(dialog);
+    createTexts(dialog);
+    arrange(dialog);
+    fitToFont();
+
+    const QFontMetrics metrics = dialog->fontMetrics();
+    QSize size(metrics.averageCharWidth() * 110, metrics.height() * 40);
+    if (const QScreen *screen = QGuiApplication::primaryScreen())
+        size = size.boundedTo(screen->availableSize() * 9 / 10);
+    dialog->resize(size);
+    dialog->setSizeGripEnabled(true);
+    filterText->setFocus();
+}
+
+void SelectionWidgets::createChoice(QDialog *dialog)
+{
+    entityList = list(dialog, "entityList", texts::Entity);
+    groupList = list(dialog, "groupList", texts::Group);
+    filterText = named(new QLineEdit(dialog), "filterText", texts::Filter);
+    filterText->setPlaceholderText(textOf(texts::FilterHint));
+    filterText->setClearButtonEnabled(true);
+}
+
+void SelectionWidgets::createTables(QDialog *dialog)
+{
+    topView = named(new TopTable(dialog), "topView", texts::Offered);
+    chosenList = named(new ChosenTable(dialog), "chosenList", texts::Chosen);
+    topView->setDragTypes(QLatin1String(OfferedRows), QLatin1String(ChosenRows));
+    chosenList->setDragTypes(QLatin1String(ChosenRows), QLatin1String(OfferedRows));
+    chosenList->setEmptyText(textOf(texts::NothingChosen));
+}
+
+void SelectionWidgets::createButtons(QDialog *dialog)
+{
+    addButton = button(dialog, "addButton", texts::Add, texts::AddHint);
+    removeButton = button(dialog, "removeButton", texts::Remove, texts::RemoveHint);
+    setButtonPicture(addButton, TvxAttributesSelectionDialog::Buttons_Add, QLatin1String("Add.ico"));
+    setButtonPicture(removeButton, TvxAttributesSelectionDialog::Buttons_Remove, QLatin1String("Delete.ico"));
+    undoButton = button(dialog, "undoButton", texts::Undo, texts::UndoHint);
+    clearButton = button(dialog, "clearButton", texts::ClearAll, texts::ClearAllHint);
+
+    buttonBox = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, dialog);
+    buttonBox->setObjectName(QLatin1String("buttonBox"));
+    const auto ends = buttonBox->buttons();
+    for (QAbstractButton *end : ends)
+        end->setFocusPolicy(Qt::TabFocus);
+}
+
+void SelectionWidgets::createTexts(QDialog *dialog)
+{
+    description = textLine(dialog, "description", texts::Description);
+    preview = textLine(dialog, "preview", texts::Preview);
+    offeredLabel = label(texts::Offered, topView);
+    offeredLabel->setObjectName(QLatin1String("offeredLabel"));
+    chosenLabel = label(texts::Chosen, chosenList);
+    chosenLabel->setObjectName(QLatin1String("chosenLabel"));
+}
+
+void SelectionWidgets::arrange(QDialog *dialog)
+{
+    auto *ends = new QHBoxLayout;
+    ends->addWidget(preview, 1);
+    ends->addWidget(buttonBox, 0, Qt::AlignBottom);
+
+    auto *layout = new QVBoxLayout(dialog);
+    layout->addLayout(choiceLayout(dialog));
+    layout->addWidget(tablesWidget(dialog), 1);
+    layout->addWidget(description);
+    layout->addLayout(ends);
+}
+
+QLayout *SelectionWidgets::choiceLayout(QDialog *) const
+{
+    auto *lists = new QHBoxLayout;
+    lists->addWidget(label(texts::Entity, entityList));
+    lists->addWidget(entityList, 1);
+    lists->addSpacing(lists->spacing());
+    lists->addWidget(label(texts::Group, groupList));
+    lists->addWidget(groupList, 1);
+
+    auto *filter = new QHBoxLayout;
+    filter->addWidget(label(texts::Filter, filterText));
+    filter->addWidget(filterText, 1);
+    filter->addSpacing(filter->spacing());
+    filter->addWidget(offeredLabel);
+
+    auto *layout = new QVBoxLayout;
+    layout->addLayout(lists);
+    layout->addLayout(filter);
+    return layout;
+}
+
+QWidget *SelectionWidgets::tablesWidget(QDialog *dialog) const
+{
+    auto *buttons = new QHBoxLayout;
+    buttons->addWidget(addButton);
+    buttons->addWidget(removeButton);
+    buttons->addWidget(undoButton);
+    buttons->addWidget(clearButton);
+    buttons->addStretch(1);
+    buttons->addWidget(chosenLabel);
+
+    auto *lower = new QWidget(dialog);
+    auto *layout = new QVBoxLayout(lower);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(buttons);
+    layout->addWidget(chosenList, 1);
+
+    auto *splitter = new QSplitter(Qt::Vertical, dialog);
+    splitter->setChildrenCollapsible(false);
+    splitter->addWidget(topView);
+    splitter->addWidget(lower);
+    splitter->setStretchFactor(0, 3);
+    splitter->setStretchFactor(1, 2);
+    return splitter;
+}
+
+void SelectionWidgets::fitToFont()
+{
+    const QFontMetrics metrics = description->fontMetrics();
+    description->setFixedHeight(DescriptionLines * metrics.lineSpacing());
+    preview->setFixedHeight(2 * metrics.lineSpacing());
+    preview->setAlignment(Qt::AlignLeading | Qt::AlignVCenter);
+    // Two spin boxes with their labels, each wide enough for the longest whole number.
+    const int rangeWidth = metrics.horizontalAdvance(QLatin1String("From: To:")) +
+                           2 * metrics.horizontalAdvance(QLatin1String("-2147483648")) + 7 * metrics.height();
+    topView->setMinimumValueWidth(rangeWidth);
+    chosenList->setMinimumValueWidth(rangeWidth);
+}
+
+} // namespace tvx
+} // namespace Zudunmaf

@@ -1,0 +1,62 @@
+#ifndef TVX_SELECTION_WIDGETS_H
+#define TVX_SELECTION_WIDGETS_H
+
+class QComboBox;
+class QDialog;
+class QDialogButtonBox;
+class QHBoxLayout;
+class QLabel;
+class QLayout;
+class QLineEdit;
+class QPushButton;
+class QString;
+class QWidget;
+
+namespace Zudunmaf
+{
+namespace tvx
+{
+
+class ChosenTable;
+class TopTable;
+
+/// The widgets of the dialog and their places: entity, group and filter; what is on offer; the buttons
+/// between the tables; what is chosen; the description; OK and Cancel. The dialog owns them all. Object names
+/// are those of the members.
+class SelectionWidgets
+{
+public:
+    explicit SelectionWidgets(QDialog *dialog);
+
+    /// Takes the sizes that hang on the font.
+    void fitToFont();
+
+    QComboBox *entityList;
+    QComboBox *groupList;
+    QLineEdit *filterText;
+    QLabel *offeredLabel;
+    TopTable *topView;
+    QPushButton *addButton;
+    QPushButton *removeButton;
+    QPushButton *undoButton;
+    QPushButton *clearButton;
+    QLabel *chosenLabel;
+    ChosenTable *chosenList;
+    QLabel *description;
+    QLabel *preview;
+    QDialogButtonBox *buttonBox;
+
+private:
+    void createChoice(QDialog *dialog);
+    void createTables(QDialog *dialog);
+    void createButtons(QDialog *dialog);
+    void createTexts(QDialog *dialog);
+    void arrange(QDialog *dialog);
+    QLayout *choiceLayout(QDialog *dialog) const;
+    QWidget *tablesWidget(QDialog *dialog) const;
+};
+
+} // namespace tvx
+} // namespace Zudunmaf
+
+#endif

@@ -1,0 +1,168 @@
+#include "tvx/top_table.h"
+
+#include "gdm/items/attr_roles.h"
+#include "tvx/match_highlight_delegate.h"
+
+#include <QHeaderView>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace Zudunmaf
+{
+namespace tvx
+{
+
+namespace
+{
+
+constexpr int WidthSample = 256;
+
+} // namespace
+
+TopTable::Pass::Pass(TopTable *table)
+    : m_table(table)
+{
+    if (m_table->m_passes++ > 0)
+        return;
+    m_table->setUpdatesEnabled(false);
+    m_table->verticalHeader()->setUpdatesEnabled(false);
+}
+
+TopTable::Pass::~Pass()
+{
+    if (--m_table->m_passes > 0)
+        return;
+    m_table->verticalHeader()->setUpdatesEnabled(true);
+    m_table->setUpdatesEnabled(true);
+    m_table->endPass();
+}
+
+TopTable::TopTable(QWidget *parent)
+    : AttributeTable(parent)
+    , m_delegate(new MatchHighlightDelegate(this))
+{
+    setItemDelegate(m_delegate);
+}
+
+void TopTable::fill(const QList<QTableWidgetItem *> &items)
+{
+    const QTableWidgetItem *current = rowItem(currentRow());
+    const QString name = current ? current->data(DmlAttrNameRole).toString() : QString();
+    const int scrolled = verticalScrollBar()->value();
+    const Pass pass(this);
+
+    m_request = Request::None;
+    // Rows that are used again would stay hidden.
+    setRowCount(0);
+    rowOrder().rowsReplaced();
+    placeClones(items);
+    fixRowHeight();
+    restoreOrder();
+    forgetRowNumbers();
+
+    const QTableWidgetItem *found = name.isNull() ? nullptr : findByName(name);
+    const bool autoScroll = hasAutoScroll();
+    setAutoScroll(!found);
+    makeRowCurrent(found ? found->row() : 0);
+    setAutoScroll(autoScroll);
+    if (found)
+        verticalScrollBar()->setValue(scrolled);
+}
+
+void TopTable::placeClones(const QList<QTableWidgetItem *> &items)
+{
+    setRowCount(static_cast<int>(items.size()));
+    const SilentChange change(this);
+    int row = 0;
+    for (const QTableWidgetItem *item : items) {
+        setItem(row, NameColumn, item->clone());
+        setItem(row, ValueColumn, item->clone());
+        ++row;
+    }
+}
+
+void TopTable::setRowVisible(int row, bool visible)
+{
+    if (row < 0 || row >= rowCount())
+        return;
+    setRowShown(row, visible);
+    if (visible)
+        m_firstVisibleBound = std::min(m_firstVisibleBound, row);
+}
+
+int TopTable::firstVisibleRow()
+{
+    const int row = nextVisibleRow(m_firstVisibleBound, 1);
+    m_firstVisibleBound = row < 0 ? rowCount() : row;
+    return row;
+}
+
+void TopTable::makeFirstVisibleRowCurrent()
+{
+    m_request = Request::FirstVisible;
+    if (m_passes == 0)
+        endPass();
+}
+
+void TopTable::makeItemCurrent(const QTableWidgetItem *item)
+{
+    if (!item || item->tableWidget() != this)
+        return;
+    m_request = Request::Row;
+    m_requestedRow = item->row();
+    if (m_passes == 0)
+        endPass();
+}
+
+void TopTable::endPass()
+{
+    const Request request = m_request;
+    m_request = Request::None;
+    if (request != Request::None)
+        makeRowCurrent(request == Request::FirstVisible ? firstVisibleRow() : m_requestedRow);
+}
+
+QTableWidgetItem *TopTable::findByName(const QString &name)
+{
+    if (!m_namesKnown) {
+        m_rowOfName.reserve(rowCount());
+        for (int row = rowCount() - 1; row >= 0; --row)
+            m_rowOfName.insert(rowItem(row)->data(DmlAttrNameRole).toString(), row);
+        m_namesKnown = true;
+    }
+    return rowItem(m_rowOfName.value(name, -1));
+}
+
+void TopTable::setHighlightedText(const QString &text)
+{
+    m_delegate->setSearchedText(text);
+    viewport()->update();
+}
+
+int TopTable::wantedNameWidth() const
+{
+    QString longest;
+    const int step = std::max(1, rowCount() / WidthSample);
+    for (int row = 0; row < rowCount(); row += step) {
+        const QString text = item(row, NameColumn)->text();
+        if (text.size() > longest.size())
+            longest = text;
+    }
+    return fontMetrics().horizontalAdvance(longest) + 2 * fontMetrics().height();
+}
+
+void TopTable::rowsReordered()
+{
+    forgetRowNumbers();
+}
+
+void TopTable::forgetRowNumbers()
+{
+    m_rowOfName.clear();
+    m_namesKnown = false;
+    m_firstVisibleBound = 0;
+}
+
+} // namespace tvx
+} // namespace Zudunmaf

@@ -1,0 +1,72 @@
+#ifndef TVX_TOP_TABLE_H
+#define TVX_TOP_TABLE_H
+
+#include "tvx/attribute_table.h"
+
+#include <QHash>
+
+namespace Zudunmaf
+{
+namespace tvx
+{
+
+class MatchHighlightDelegate;
+
+/// The attributes on offer. Rows come all at once, by fill(), and are then only hidden and shown.
+class TopTable : public AttributeTable
+{
+    Q_OBJECT
+
+public:
+    /// Brackets anything that hides, shows or makes current many rows: until the outermost one ends, nothing
+    /// is painted, and of all requests for a current row only the last is carried out.
+    class Pass
+    {
+    public:
+        explicit Pass(TopTable *table);
+        ~Pass();
+
+    private:
+        Q_DISABLE_COPY(Pass)
+        TopTable *m_table;
+    };
+
+    explicit TopTable(QWidget *parent);
+
+    /// Replaces the rows by two clones of each item, all visible. The current attribute stays current where
+    /// it is among them, without scrolling; else the first row is.
+    void fill(const QList<QTableWidgetItem *> &items);
+    /// Shows or hides a row; out of range, nothing happens.
+    void setRowVisible(int row, bool visible);
+    void makeFirstVisibleRowCurrent();
+    void makeItemCurrent(const QTableWidgetItem *item);
+    /// The item of the row with this internal name, the first of several; null if there is none.
+    QTableWidgetItem *findByName(const QString &name);
+    /// Marks what this text, in which wildcards count, matches in the names.
+    void setHighlightedText(const QString &text);
+    /// A width that holds the names, measured on a sample of the rows.
+    int wantedNameWidth() const;
+
+protected:
+    void rowsReordered() override;
+
+private:
+    void placeClones(const QList<QTableWidgetItem *> &items);
+    void forgetRowNumbers();
+    int firstVisibleRow();
+    void endPass();
+
+    MatchHighlightDelegate *m_delegate;
+    QHash<QString, int> m_rowOfName;
+    bool m_namesKnown = false;
+    /// No row before this one is visible.
+    int m_firstVisibleBound = 0;
+    int m_passes = 0;
+    enum class Request { None, FirstVisible, Row } m_request = Request::None;
+    int m_requestedRow = -1;
+};
+
+} // namespace tvx
+} // namespace Zudunmaf
+
+#endif

@@ -1,0 +1,155 @@
+#include "gdm/dialogs/tvx_attributes_selection_dialog.h"
+
+#include "tvx/button_picture.h"
+#include "tvx/row_transfer.h"
+#include "tvx/selection_controller.h"
+#include "tvx/top_table.h"
+
+#include <QCloseEvent>
+#include <QMenu>
+#include <QPushButton>
+#include <QStyledItemDelegate>
+
+class TvxAttributesSelectionDialog::Private : public Zudunmaf::tvx::SelectionController
+{
+public:
+    using SelectionController::SelectionController;
+};
+
+using Zudunmaf::tvx::AttributeTable;
+
+TvxAttributesSelectionDialog::TvxAttributesSelectionDialog(int did, QWidget *parent, Qt::WindowFlags flags)
+    : QDialog(parent, flags)
+    , d(new Private(did, this))
+{
+}
+
+TvxAttributesSelectionDialog::~TvxAttributesSelectionDialog()
+{
+    // Before QWidget takes the children down: with it go all connections.
+    delete d;
+}
+
+void TvxAttributesSelectionDialog::connectSignal2Slots()
+{
+    d->connectWidgets();
+}
+
+void TvxAttributesSelectionDialog::setDisplayUnits(int units)
+{
+    d->setDisplayUnits(units);
+}
+
+void TvxAttributesSelectionDialog::addButtonClickedCB(QTableWidgetItem *) {}
+
+void TvxAttributesSelectionDialog::removeButtonClickedCB(QTableWidgetItem *) {}
+
+int TvxAttributesSelectionDialog::getEntityDID() const
+{
+    return d->choice().dictionary();
+}
+
+int TvxAttributesSelectionDialog::getSelectedEntityMask() const
+{
+    return d->choice().mask();
+}
+
+QString TvxAttributesSelectionDialog::getSelectedGroupName() const
+{
+    return d->choice().group();
+}
+
+QString TvxAttributesSelectionDialog::getUserFilterText()
+{
+    return d->choice().text();
+}
+
+int TvxAttributesSelectionDialog::displayUnits()
+{
+    return d->displayUnits();
+}
+
+QList<QTableWidgetItem *> TvxAttributesSelectionDialog::getTopListItems(bool visibleOnly) const
+{
+    return d->widgets().topView->rowItems(visibleOnly);
+}
+
+void TvxAttributesSelectionDialog::setTopViewRowsVisiblity(int row, bool visible)
+{
+    d->widgets().topView->setRowVisible(row, visible);
+}
+
+void TvxAttributesSelectionDialog::setFirstVisibleItemAsCurrent()
+{
+    d->widgets().topView->makeFirstVisibleRowCurrent();
+}
+
+void TvxAttributesSelectionDialog::setTopViewCurrentItem(QTableWidgetItem *item)
+{
+    d->widgets().topView->makeItemCurrent(item);
+}
+
+QTableWidgetItem *TvxAttributesSelectionDialog::findItemByAttrName(const QString &name)
+{
+    return d->widgets().topView->findByName(name);
+}
+
+QList<QTableWidgetItem *> TvxAttributesSelectionDialog::getChosenList() const
+{
+    return d->widgets().chosenList->rowItems(false);
+}
+
+void TvxAttributesSelectionDialog::setItemDelegate(QStyledItemDelegate *delegate)
+{
+    d->widgets().chosenList->setItemDelegate(delegate);
+}
+
+void TvxAttributesSelectionDialog::setHeaderTitle(int column, const QString &title)
+{
+    if (column < 0 || column >= AttributeTable::ColumnCount)
+        return;
+    d->widgets().topView->setHorizontalHeaderItem(column, new QTableWidgetItem(title));
+    d->widgets().chosenList->setHorizontalHeaderItem(column, new QTableWidgetItem(title));
+}
+
+bool TvxAttributesSelectionDialog::setButtonPixmap(Buttons_Enum button, const QString &name)
+{
+    QPushButton *target = button == Buttons_Add ? d->widgets().addButton : d->widgets().removeButton;
+    return Zudunmaf::tvx::setButtonPicture(target, button, name);
+}
+
+void TvxAttributesSelectionDialog::setCustomContextMenu(QMenu *menu)
+{
+    d->setContextMenu(menu);
+}
+
+QList<QTableWidgetItem *> TvxAttributesSelectionDialog::getItemsForContextMenuCallback()
+{
+    return d->contextMenuItems();
+}
+
+void TvxAttributesSelectionDialog::editCurrentItem()
+{
+    d->widgets().chosenList->editRow(d->widgets().chosenList->currentRow());
+}
+
+void TvxAttributesSelectionDialog::fillEntityList(const QList<TvxDataItem *> &items)
+{
+    d->choice().setEntities(items);
+}
+
+void TvxAttributesSelectionDialog::fillGroupsList(const QStringList &groups)
+{
+    d->choice().setGroups(groups);
+}
+
+void TvxAttributesSelectionDialog::fillAttributeList(const QList<QTableWidgetItem *> &items)
+{
+    d->fillTopView(items);
+}
+
+void TvxAttributesSelectionDialog::closeEvent(QCloseEvent *event)
+{
+    d->widgets().chosenList->dropEditing();
+    QDialog::closeEvent(event);
+}

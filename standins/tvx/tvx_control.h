@@ -1,0 +1,27 @@
+#ifndef TVX_TVX_CONTROL_H
+#define TVX_TVX_CONTROL_H
+
+#include "gdm/host/gdm_export.h"
+
+class QTableWidgetItem;
+class TvxAttributesSelectionDialog;
+
+namespace Zudunmaf
+{
+namespace tvx
+{
+
+/// Puts an attribute into the chosen list of a dialog, best before it is shown, so that a filter or an
+/// assignment can be opened again and changed. What the list gets are copies, as by the add button, behind
+/// its other rows; the item stays the caller's. The dialog's add hook is called with the attribute's row of
+/// the top view, if there is one: in "Assign Attributes" that row leaves the top view.
+///
+/// The item is of the dialog's own class and holds a definition, whether made with createNewItem() or cloned
+/// from what findItemByAttrName() gives. False, and nothing added, where it names no attribute, or where that
+/// attribute is chosen already in a dialog that takes each one once.
+GDM_EXPORT bool addChosen(TvxAttributesSelectionDialog &dialog, const QTableWidgetItem &item);
+
+} // namespace tvx
+} // namespace Zudunmaf
+
+#endif

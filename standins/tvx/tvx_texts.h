@@ -1,0 +1,71 @@
+#ifndef TVX_TVX_TEXTS_H
+#define TVX_TVX_TEXTS_H
+
+#include "common/message_catalogue.h"
+
+#include <QString>
+
+namespace Zudunmaf
+{
+namespace tvx
+{
+
+/// Every text of the base dialog's own, by the key that a catalogue answers. A letter behind "&" is the key
+/// that reaches the widget; a translation keeps them apart from each other and from those of OK and Cancel.
+namespace texts
+{
+
+constexpr char Entity[] = "@$@#tvx@$@#GENERAL@$@#1@$@#&Entity:";
+constexpr char Group[] = "@$@#tvx@$@#GENERAL@$@#2@$@#&Group:";
+constexpr char Filter[] = "@$@#tvx@$@#GENERAL@$@#3@$@#&Filter:";
+constexpr char FilterHint[] = "@$@#tvx@$@#GENERAL@$@#4@$@#Part of a name, * and ? allowed";
+constexpr char Offered[] = "@$@#tvx@$@#GENERAL@$@#5@$@#A&ttributes:";
+constexpr char Chosen[] = "@$@#tvx@$@#GENERAL@$@#6@$@#C&hosen:";
+constexpr char ShownOfTotal[] = "@$@#tvx@$@#GENERAL@$@#7@$@#%1 of %2";
+
+constexpr char Add[] = "@$@#tvx@$@#GENERAL@$@#10@$@#&Add";
+constexpr char AddHint[] = "@$@#tvx@$@#GENERAL@$@#11@$@#Take over the selected attributes (Enter)";
+constexpr char Remove[] = "@$@#tvx@$@#GENERAL@$@#12@$@#&Remove";
+constexpr char RemoveHint[] = "@$@#tvx@$@#GENERAL@$@#13@$@#Take the selected rows away (Delete)";
+constexpr char Undo[] = "@$@#tvx@$@#GENERAL@$@#14@$@#&Undo";
+constexpr char UndoHint[] = "@$@#tvx@$@#GENERAL@$@#15@$@#Bring the rows removed last back (Ctrl+Z)";
+constexpr char ClearAll[] = "@$@#tvx@$@#GENERAL@$@#16@$@#Clear a&ll";
+constexpr char ClearAllHint[] =
+    "@$@#tvx@$@#GENERAL@$@#17@$@#Take every chosen row away; Undo brings them back";
+
+constexpr char NoDictionary[] = "@$@#tvx@$@#GENERAL@$@#20@$@#There is no attribute dictionary.";
+constexpr char NothingMatches[] =
+    "@$@#tvx@$@#GENERAL@$@#21@$@#Nothing matches. Clear the filter, or choose all entities and all groups.";
+constexpr char NothingLeft[] = "@$@#tvx@$@#GENERAL@$@#22@$@#No attribute is left to choose.";
+constexpr char NothingChosen[] =
+    "@$@#tvx@$@#GENERAL@$@#23@$@#Nothing chosen yet. Select attributes above and press Enter or Add.";
+
+constexpr char Description[] = "@$@#tvx@$@#GENERAL@$@#30@$@#Description";
+constexpr char Preview[] = "@$@#tvx@$@#GENERAL@$@#31@$@#Result";
+constexpr char PreviewLine[] = "@$@#tvx@$@#GENERAL@$@#32@$@#Result: %1";
+constexpr char Limits[] = "@$@#tvx@$@#GENERAL@$@#33@$@#Allowed: %1 to %2";
+constexpr char TypeBoolean[] = "@$@#tvx@$@#GENERAL@$@#34@$@#boolean";
+constexpr char TypeText[] = "@$@#tvx@$@#GENERAL@$@#35@$@#text";
+constexpr char TypeOption[] = "@$@#tvx@$@#GENERAL@$@#36@$@#option";
+constexpr char TypeInteger[] = "@$@#tvx@$@#GENERAL@$@#37@$@#integer";
+constexpr char TypeFloat[] = "@$@#tvx@$@#GENERAL@$@#38@$@#float";
+
+} // namespace texts
+
+/// The text of a key in the user's language.
+inline QString textOf(const char *key)
+{
+    return QString::fromUtf8(standins::messageOf(key));
+}
+
+/// The same without the mark of its key and without a colon, as a name that is read aloud.
+inline QString spokenTextOf(const char *key)
+{
+    QString text = textOf(key).remove(QLatin1Char('&'));
+    return text.endsWith(QLatin1Char(':')) ? text.chopped(1) : text;
+}
+
+} // namespace tvx
+} // namespace Zudunmaf
+
+#endif
