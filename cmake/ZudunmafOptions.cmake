@@ -1,4 +1,4 @@
-# What a build can be told. Part of another project, the library alone is built unless asked for more.
+# What a build can be told. Part of another project, tests and demo are left out unless asked for.
 if(CMAKE_SOURCE_DIR STREQUAL PROJECT_SOURCE_DIR)
     set(ZUDUNMAF_TOP_LEVEL ON)
 else()
@@ -11,6 +11,6 @@ option(ZUDUNMAF_BUILD_BENCHMARKS "Build the benchmarks" OFF)
 option(ZUDUNMAF_WERROR "Treat compiler warnings as errors" OFF)
 set(ZUDUNMAF_SANITIZE "" CACHE STRING "Sanitizers to build with, such as address,undefined")
 
-if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+if(ZUDUNMAF_TOP_LEVEL AND NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
     set(CMAKE_BUILD_TYPE RelWithDebInfo CACHE STRING "Type of the build" FORCE)
 endif()

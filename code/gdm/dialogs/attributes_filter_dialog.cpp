@@ -1,13 +1,17 @@
 #include "gdm/dialogs/attributes_filter_dialog.h"
 
-#include "gdm/dialogs/attribute_offer.h"
 #include "gdm/dialogs/context_menu.h"
 #include "gdm/dialogs/dictionary_walk.h"
+#include "gdm/dialogs/group_names.h"
+#include "gdm/dialogs/offered_rows.h"
 #include "gdm/dialogs/row_filter.h"
 #include "gdm/editing/attr_item_delegate.h"
 #include "gdm/host/config_keys.h"
+#include "gdm/host/host_text.h"
 #include "gdm/host/message_keys.h"
+#include "gdm/items/attr_access.h"
 #include "gdm/items/attr_filter_lwi.h"
+#include "gdm/items/attr_roles.h"
 
 namespace Zudunmaf
 {
@@ -84,23 +88,13 @@ void AttributesFilterDialog::fillAttributeList()
 {
     if (getEntityDID() < 0)
         return;
-
-    AttributeOffer offer;
-    if (!readFlag(keys::DisplayByPrompt, &offer.byPrompt, GDM_HERE))
-        return;
-    if (!readFlag(keys::ShowObsolete, &offer.showObsolete, GDM_HERE))
-        return;
-    offer.entityMask = getSelectedEntityMask();
-    offer.group = getSelectedGroupName();
-    offer.allGroups = offer.group == messageText(keys::FilterAllGroupsAtFill);
-    offer.setFilterText(getUserFilterText());
-
+    const FillPositions positions = {
+        GDM_HERE, // the labels
+        GDM_HERE, // obsolete attributes
+        GDM_HERE, // the walk
+    };
     OwnedItems rows;
-    if (walkDictionary([this] { return getEntityDID(); }, EntityAll, GDM_HERE,
-                       [&](const DmlAttrDef *definition) {
-                           if (offer.takes(*definition))
-                               rows.append(newRow(definition, offer.byPrompt, displayUnits()));
-                       }))
+    if (collectRows(*this, keys::FilterAllGroupsAtFill, positions, newRow, &rows))
         TvxAttributesSelectionDialog::fillAttributeList(rows.list());
 }
 
@@ -113,8 +107,9 @@ void AttributesFilterDialog::filterAttributeList()
     if (!readFlag(keys::DisplayByPrompt, &byPrompt, GDM_HERE))
         return;
 
-    const RowFilter filter(entityMask, group, messageText(keys::FilterAllGroupsAtFilter), getUserFilterText(),
-                           byPrompt);
+    const QString filterText = getUserFilterText();
+    const QString allGroups = messageText(keys::FilterAllGroupsAtFilter);
+    const RowFilter filter(entityMask, group, allGroups, filterText, byPrompt);
     applyRowFilter<AttrFilterLWI>(*this, rows, filter, [](const DmlAttrDef &) { return false; });
     setFirstVisibleItemAsCurrent();
 }
@@ -129,7 +124,9 @@ void AttributesFilterDialog::setupContextMenu()
 {
     contextMenu = newContextMenu(this, keys::FilterSetCondition, keys::FilterClearCondition);
     setCustomContextMenu(contextMenu);
-    connect(contextMenu, SIGNAL(triggered(QAction *)), this, SLOT(contextMenu_triggered(QAction *)));
+    // clang-format off
+    connect(contextMenu, SIGNAL(triggered(QAction*)), this, SLOT(contextMenu_triggered(QAction*)));
+    // clang-format on
 }
 
 void AttributesFilterDialog::contextMenu_triggered(QAction *action)

@@ -1,13 +1,19 @@
 #include "gdm/dialogs/feature_attributes_dialog.h"
 
-#include "gdm/dialogs/attribute_offer.h"
 #include "gdm/dialogs/context_menu.h"
 #include "gdm/dialogs/dictionary_walk.h"
+#include "gdm/dialogs/group_names.h"
+#include "gdm/dialogs/offered_rows.h"
 #include "gdm/dialogs/row_filter.h"
 #include "gdm/editing/attr_item_delegate.h"
 #include "gdm/host/config_keys.h"
+#include "gdm/host/host_text.h"
 #include "gdm/host/message_keys.h"
+#include "gdm/items/attr_access.h"
+#include "gdm/items/attr_roles.h"
 #include "gdm/items/feature_attr_lwi.h"
+
+#include <QSet>
 
 namespace Zudunmaf
 {
@@ -84,24 +90,13 @@ void FeatureAttributesDialog::fillAttributeList()
 {
     if (getEntityDID() < 0)
         return;
-
-    AttributeOffer offer;
-    if (!readFlag(keys::DisplayByPrompt, &offer.byPrompt, GDM_HERE))
-        return;
-    if (!readFlag(keys::ShowObsolete, &offer.showObsolete, GDM_HERE))
-        return;
-    offer.entityMask = getSelectedEntityMask();
-    offer.group = getSelectedGroupName();
-    offer.allGroups = offer.group == messageText(keys::FeatureAllGroupsAtFill);
-    offer.setFilterText(getUserFilterText());
-
-    // The walk takes every entity: the mask comes in with the offer.
+    const FillPositions positions = {
+        GDM_HERE, // the labels
+        GDM_HERE, // obsolete attributes
+        GDM_HERE, // the walk
+    };
     OwnedItems rows;
-    if (walkDictionary([this] { return getEntityDID(); }, EntityAll, GDM_HERE,
-                       [&](const DmlAttrDef *definition) {
-                           if (offer.takes(*definition))
-                               rows.append(newRow(definition, offer.byPrompt, displayUnits()));
-                       }))
+    if (collectRows(*this, keys::FeatureAllGroupsAtFill, positions, newRow, &rows))
         TvxAttributesSelectionDialog::fillAttributeList(rows.list());
 }
 
@@ -115,8 +110,9 @@ void FeatureAttributesDialog::filterAttributeList()
     if (!readFlag(keys::DisplayByPrompt, &byPrompt, GDM_HERE))
         return;
 
-    const RowFilter filter(entityMask, group, messageText(keys::FeatureAllGroupsAtFilter),
-                           getUserFilterText(), byPrompt);
+    const QString filterText = getUserFilterText();
+    const QString allGroups = messageText(keys::FeatureAllGroupsAtFilter);
+    const RowFilter filter(entityMask, group, allGroups, filterText, byPrompt);
     applyRowFilter<FeatureAttrLWI>(*this, rows, filter, [&chosen](const DmlAttrDef &definition) {
         return !chosen.isEmpty() && chosen.contains(fieldString(definition.name));
     });
@@ -152,7 +148,9 @@ void FeatureAttributesDialog::setupContextMenu()
 {
     contextMenu = newContextMenu(this, keys::FeatureEditValue, keys::FeatureSetDefault);
     setCustomContextMenu(contextMenu);
-    connect(contextMenu, SIGNAL(triggered(QAction *)), this, SLOT(contextMenu_triggered(QAction *)));
+    // clang-format off
+    connect(contextMenu, SIGNAL(triggered(QAction*)), this, SLOT(contextMenu_triggered(QAction*)));
+    // clang-format on
 }
 
 void FeatureAttributesDialog::contextMenu_triggered(QAction *action)

@@ -31,13 +31,22 @@ bool isDirect(const QString &text)
     return true;
 }
 
-/// A run of stars means what one star means, and costs QRegExp far more.
-QString withSingleStars(const QString &text)
+/// A run of stars means what one star means, and costs QRegExp the cube of its length. Two oddities of
+/// QRegExp's reading are left alone: the star behind a backslash is an ordinary character, and how a set is
+/// read depends on what stands before it, so that beside one only runs that nobody types are cut.
+QString withShortRunsOfStars(const QString &text)
 {
+    const QLatin1Char star('*');
+    const int longestRun = text.contains(QLatin1Char('[')) ? 16 : 1;
     QString result;
+    QChar previous;
+    int run = 0;
     for (const QChar character : text) {
-        if (character != QLatin1Char('*') || !result.endsWith(character))
+        const bool isStar = character == star && previous != QLatin1Char('\\');
+        run = isStar ? run + 1 : 0;
+        if (run <= longestRun)
             result.append(character);
+        previous = character;
     }
     return result;
 }
@@ -48,7 +57,8 @@ FilterPattern::FilterPattern(const QString &text)
     : m_matchesAll(text.isEmpty())
     , m_direct(isDirect(text))
 {
-    const QString pattern = withSingleStars(QString(QLatin1String("*%1*")).arg(text, 0, QLatin1Char(' ')));
+    const QString pattern =
+        withShortRunsOfStars(QString(QLatin1String("*%1*")).arg(text, 0, QLatin1Char(' ')));
     if (m_direct)
         m_lowered = pattern.toLower().toLatin1();
     m_expression = QRegExp(pattern, Qt::CaseInsensitive, QRegExp::Wildcard);

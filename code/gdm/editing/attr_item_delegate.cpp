@@ -11,6 +11,16 @@
 namespace Zudunmaf
 {
 
+namespace
+{
+
+const DmlAttrDef *definitionOf(const DmlAttrLWI *item)
+{
+    return item ? definitionIn(item->dmlAttribute()) : nullptr;
+}
+
+} // namespace
+
 AttrItemDelegate::AttrItemDelegate(QObject *parent)
     : QStyledItemDelegate(parent)
 {
@@ -39,7 +49,7 @@ void AttrItemDelegate::transfer(QWidget *editor, const QModelIndex &index, Condi
                                 ValueStep valueStep)
 {
     DmlAttrLWI *item = editor ? attrItemFromIndex(index) : nullptr;
-    const DmlAttrDef *definition = item ? definitionIn(item->dmlAttribute()) : nullptr;
+    const DmlAttrDef *definition = definitionOf(item);
     if (!definition)
         return;
     if (item->itemType() == DmlAttrLWI::ItemType_AttrFilter) {
@@ -55,7 +65,7 @@ QWidget *AttrItemDelegate::createEditor(QWidget *parent, const QStyleOptionViewI
                                         const QModelIndex &index) const
 {
     DmlAttrLWI *item = attrItemFromIndex(index);
-    const DmlAttrDef *definition = item ? definitionIn(item->dmlAttribute()) : nullptr;
+    const DmlAttrDef *definition = definitionOf(item);
     if (!definition)
         return nullptr;
     switch (item->itemType()) {

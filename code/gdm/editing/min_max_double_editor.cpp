@@ -4,6 +4,7 @@
 #include "gdm/host/message_keys.h"
 
 #include <QDoubleSpinBox>
+#include <QHBoxLayout>
 
 namespace Zudunmaf
 {

@@ -3,6 +3,7 @@
 #include "gdm/editing/range_editor_parts.h"
 #include "gdm/host/message_keys.h"
 
+#include <QHBoxLayout>
 #include <QSpinBox>
 
 namespace Zudunmaf

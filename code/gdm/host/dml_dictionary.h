@@ -13,9 +13,8 @@ extern "C" {
 /// take every attribute. The int is 1 in every call.
 ///
 /// Status 0 with a definition is the next attribute, status 0 with null the end; any other status is a
-/// failure, and
-/// `*definition` then means nothing. A definition belongs to the dictionary and outlives every item made of
-/// it.
+/// failure, and `*definition` then means nothing. A definition belongs to the dictionary and outlives every
+/// item made of it.
 GDM_EXPORT int dml__atr_next(int did, int, unsigned int entityMask, int *cursor, DmlAttrDef **definition);
 }
 

@@ -17,7 +17,8 @@
 extern "C" {
 
 /// The text to show for a message key such as "@$@#gdm_qt@$@#GENERAL@$@#967@$@#Name", in the local 8-bit
-/// encoding. Field 4 of the key is the English text and the right answer where there is no translation.
+/// encoding. Field 4 of the key is the English text and the right answer where there is no translation. Null
+/// leaves the label empty.
 GDM_EXPORT const char *gen__nls_nlst(const char *key);
 
 /// The prompt of an attribute as the user reads it, for the two texts of its definition. Never null.
@@ -30,8 +31,8 @@ GDM_EXPORT int gen__cfg_get(const char *key, unsigned char *value, unsigned char
 /// Reports the service failure that has just been seen, with the position of the failed call.
 GDM_EXPORT void gen__log_status_check(const char *file, int line);
 
-/// `size` bytes of memory in no particular state. Never null: out of memory, the service does not return.
-/// The int is 1 in every call; `file` and `line` tell where the call stands.
+/// `size` bytes of memory in no particular state. Never null: out of memory, the service does not return. The
+/// int is 1 in every call; `file` and `line` tell where the call stands.
 GDM_EXPORT void *gen__mem_malloc(size_t size, int, const char *file, int line);
 
 /// Gives back memory of gen__mem_malloc(); `memory` is not null.
@@ -58,7 +59,8 @@ GDM_EXPORT void gen__torvex_units_convert_f(float *value, int unitsClass, int co
 /// is empty where there is nothing to say. Never null.
 GDM_EXPORT const char *gen__torvex_cur_units_str(int unitsClass, int displayUnits);
 
-/// The code of a unit text as gen__torvex_cur_units_str() writes it, in the local 8-bit encoding.
+/// The code of a unit text as gen__torvex_cur_units_str() writes it, in the local 8-bit encoding; -1 for any
+/// other.
 GDM_EXPORT int gen__torvex_get_str_units(const char *text);
 }
 

@@ -25,6 +25,9 @@ template <std::size_t Width>
 class FieldText
 {
 public:
+    FieldText(const FieldText &) = delete;
+    FieldText &operator=(const FieldText &) = delete;
+
     explicit FieldText(const char (&field)[Width])
         : m_text(field)
     {
@@ -39,9 +42,6 @@ public:
     QString toString() const { return QString(m_text); }
 
 private:
-    FieldText(const FieldText &);
-    FieldText &operator=(const FieldText &);
-
     const char *m_text;
     char m_bounded[Width + 1];
 };

@@ -1,9 +1,34 @@
 #include "gdm/items/attr_access.h"
 
+#include "gdm/host/host_text.h"
+#include "gdm/items/attr_roles.h"
+
 #include <cstring>
 
 namespace Zudunmaf
 {
+
+QVariant definitionData(const QVariant &dmlAttribute, int role)
+{
+    const DmlAttrDef *definition = definitionIn(dmlAttribute);
+    switch (role) {
+    case DmlAttrNameRole:
+        return fieldString(definition->name);
+    case DmlAttrPromptRole:
+        return fieldString(definition->prompt);
+    case DmlAttrTypeRole:
+        return int(definition->type);
+    case DmlAttrDefRole:
+        return dmlAttribute;
+    default:
+        return QVariant();
+    }
+}
+
+QString labelText(const DmlAttrDef &definition, bool byPrompt)
+{
+    return byPrompt ? fieldString(definition.prompt) : fieldString(definition.name);
+}
 
 void prime(DmlAttrValue &condition, const DmlAttrDef &definition)
 {

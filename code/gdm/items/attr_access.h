@@ -22,7 +22,8 @@ inline QVariant variantOfRecord(const void *record)
 template <class Record>
 Record *recordIn(const QVariant &variant)
 {
-    // What every item holds, read without the questions that the rest needs.
+    // Read in place: the held pointer already tells null. Nearly every variant that comes here is one of
+    // these.
     if (variant.userType() == QMetaType::VoidStar)
         return static_cast<Record *>(*static_cast<void *const *>(variant.constData()));
     return compat::isNullVariant(variant) ? nullptr : static_cast<Record *>(qvariant_cast<void *>(variant));
@@ -34,14 +35,21 @@ inline const DmlAttrDef *definitionIn(const QVariant &dmlAttribute)
     return recordIn<const DmlAttrDef>(dmlAttribute);
 }
 
+/// What both kinds of item answer for DmlAttrNameRole, DmlAttrPromptRole, DmlAttrTypeRole and DmlAttrDefRole;
+/// invalid for any other role. The definition must not be null.
+QVariant definitionData(const QVariant &dmlAttribute, int role);
+
+/// The text that an item is labelled with.
+QString labelText(const DmlAttrDef &definition, bool byPrompt);
+
 /// Makes a condition that is not set, whose bounds span the definition's whole range.
 void prime(DmlAttrValue &condition, const DmlAttrDef &definition);
 
 /// Entry number `index` of the definition's option list, or null where the index names no entry.
 const char *optionEntry(const DmlAttrDef &definition, int index);
 
-/// The value that the definition's default stands for, by type; an invalid variant for an unknown type.
-/// A text without a default gives a null QString. An option without one gives an empty QString that is not
+/// The value that the definition's default stands for, by type; an invalid variant for an unknown type. A
+/// text without a default gives a null QString. An option without one gives an empty QString that is not
 /// null, so that its editor fills at once.
 QVariant defaultValue(const DmlAttrDef &definition);
 

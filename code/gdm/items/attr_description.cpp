@@ -22,11 +22,6 @@ QString filledLine(const char *lineKey, const char *text, const char *absentKey)
     return line.arg(filling);
 }
 
-QString numberLine(const char *key, double value)
-{
-    return messageText(key).arg(value, 0, 'g', -1);
-}
-
 void describeInteger(const DmlAttrDef &definition, QStringList *lines)
 {
     *lines << messageText(keys::TipInteger);
@@ -39,13 +34,13 @@ void describeInteger(const DmlAttrDef &definition, QStringList *lines)
 void describeFloat(const DmlAttrDef &definition, int displayUnits, QStringList *lines)
 {
     *lines << messageText(keys::TipFloat);
-    *lines << numberLine(keys::TipFloatDefault, double(definition.defaultFloat));
+    *lines << messageText(keys::TipFloatDefault).arg(double(definition.defaultFloat), 0, 'g', -1);
 
     float low = static_cast<float>(definition.floatMin);
     float high = static_cast<float>(definition.floatMax);
     gen__torvex_units_convert_2(&low, definition.unitsClass, displayUnits);
     gen__torvex_units_convert_2(&high, definition.unitsClass, displayUnits);
-    *lines << numberLine(keys::TipFloatRange, double(low)).arg(double(high), 0, 'g', -1);
+    *lines << messageText(keys::TipFloatRange).arg(double(low), 0, 'g', -1).arg(double(high), 0, 'g', -1);
 
     const QString line = messageText(keys::TipFloatUnits);
     *lines << line.arg(QString(gen__torvex_cur_units_str(definition.unitsClass, displayUnits)));

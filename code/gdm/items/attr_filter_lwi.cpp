@@ -94,9 +94,8 @@ QTableWidgetItem *AttrFilterLWI::clone() const
 {
     AttrFilterLWI *copy = new AttrFilterLWI;
     copy->setDisplayValue(true);
-    DmlAttrLWI *item = copy;
-    item->setDmlAttribute(m_dmlAttribute);
-    item->setAttrValue(m_attrValue);
+    copy->setDmlAttribute(m_dmlAttribute);
+    copy->setAttrValue(m_attrValue);
     copy->setDisplayPrompt(m_displayPrompt);
     return copy;
 }
@@ -126,19 +125,16 @@ QVariant AttrFilterLWI::data(int role) const
 
     switch (role) {
     case DmlAttrNameRole:
-        return fieldString(definition->name);
     case DmlAttrPromptRole:
-        return fieldString(definition->prompt);
     case DmlAttrTypeRole:
-        return int(definition->type);
     case DmlAttrDefRole:
-        return m_dmlAttribute;
+        return definitionData(m_dmlAttribute, role);
     case DmlAttrValueRole: {
         const QVariant value = conditionValue(*definition);
         return value.isValid() ? value : DmlAttrLWI::data(role);
     }
     case Qt::DisplayRole:
-        return column() == 1 ? cellText(*definition) : label(*definition);
+        return column() == 1 ? cellText(*definition) : labelText(*definition, m_displayPrompt);
     case DmlAttrFilterTextRole:
         return filterLine(*definition);
     case Qt::ToolTipRole:
@@ -151,11 +147,6 @@ QVariant AttrFilterLWI::data(int role) const
 bool AttrFilterLWI::isShown() const
 {
     return m_displayValue || isSelected();
-}
-
-QString AttrFilterLWI::label(const DmlAttrDef &definition) const
-{
-    return m_displayPrompt ? fieldString(definition.prompt) : fieldString(definition.name);
 }
 
 /// The condition as a value; invalid where none is set or the type has none.
@@ -209,23 +200,23 @@ QString AttrFilterLWI::filterLine(const DmlAttrDef &definition) const
     if (!isShown() || definition.type < DmlAttrBoolean || definition.type > DmlAttrFloat)
         return QString();
 
-    const QString name = label(definition);
+    const QString label = labelText(definition, m_displayPrompt);
     const DmlAttrValue *condition = record();
     if (!condition || !condition->isSet)
-        return name;
+        return label;
 
     switch (definition.type) {
     case DmlAttrText:
     case DmlAttrOption: {
         const QString chosen = chosenText(definition, *condition);
-        return chosen.isEmpty() ? name : QString(QLatin1String("%1 = ")).arg(name, 0, Blank) + chosen;
+        return chosen.isEmpty() ? label : QString(QLatin1String("%1 = ")).arg(label, 0, Blank) + chosen;
     }
     case DmlAttrInteger:
-        return rangeLine(condition->intLow, name, condition->intHigh);
+        return rangeLine(condition->intLow, label, condition->intHigh);
     case DmlAttrFloat:
-        return rangeLine(condition->floatLow, name, condition->floatHigh);
+        return rangeLine(condition->floatLow, label, condition->floatHigh);
     default:
-        return name;
+        return label;
     }
 }
 

@@ -29,7 +29,7 @@ struct DmlAttrDef {
     char name[65];            ///< Internal name, NUL-terminated.
     char prompt[65];          ///< Name to display, NUL-terminated.
     char group[66];           ///< Group name, NUL-terminated.
-    std::uint32_t entityMask; ///< The entities that may carry the attribute, see EntityMask.
+    std::uint32_t entityMask; ///< Entities that may carry it; bits of EntityMask in attr_roles.h.
     unsigned char reserved204[12];
 
     /// The default value, by type.

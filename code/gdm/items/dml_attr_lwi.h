@@ -19,6 +19,7 @@ namespace Zudunmaf
 class GDM_EXPORT DmlAttrLWI : public QTableWidgetItem
 {
 public:
+    /// The kinds of item, see itemType().
     enum ItemType_Enum { ItemType_None = 0, ItemType_AttrFilter = 1, ItemType_FeatureAttr = 2 };
 
     /// An item without a definition or value, labelled by name, with its value shown while it is selected and
@@ -33,9 +34,10 @@ public:
     /// A new item of the same kind with the same attribute, value and display settings, owned by the caller.
     /// Flags and data given to the QTableWidgetItem are those of a new item.
     QTableWidgetItem *clone() const override;
+    /// Every role is answered as by a plain QTableWidgetItem.
     QVariant data(int role) const override;
 
-    /// Takes the definition: a variant of metatype VoidStar that points to a DmlAttrDef. A null one clears
+    /// Takes the definition, a variant of metatype VoidStar that points to a DmlAttrDef; a null one clears
     /// it.
     virtual void setDmlAttribute(QVariant dmlAttribute);
     /// Takes the condition or the value; what the variant holds is the subclass's business.
@@ -47,7 +49,10 @@ public:
     /// Takes the value from its text form; does nothing here.
     virtual void setValueFromString(const QString &text);
 
+    /// A variant of metatype VoidStar that points to the DmlAttrDef; invalid before the first
+    /// setDmlAttribute().
     QVariant dmlAttribute() const;
+    /// The condition or the value, as the subclass holds it; invalid before the first setAttrValue() here.
     QVariant attrValue() const;
     /// True: the item is labelled with the definition's prompt. False: with its name.
     bool displayPrompt() const;
@@ -55,10 +60,12 @@ public:
     bool displayValue();
     /// Code of the units in which values are shown; -1 means as they are stored.
     int displayUnits();
+    /// Which kind of item this is.
     ItemType_Enum itemType();
     /// The type code of the definition; 0, the code of a boolean, for an item without a definition.
     int getDmlAttrType();
 
+    // The three settings are kept as they are given: any units code is passed on to the host's services.
     void setDisplayPrompt(bool displayPrompt);
     void setDisplayValue(bool displayValue);
     void setDisplayUnits(int displayUnits);

@@ -1,6 +1,7 @@
 #include "gdm/items/feature_attr_lwi.h"
 
-#include "gdm/host/host_text.h"
+#include "gdm/host/gen_services.h"
+#include "gdm/host/qt_compat.h"
 #include "gdm/items/attr_access.h"
 #include "gdm/items/attr_description.h"
 #include "gdm/items/attr_roles.h"
@@ -27,9 +28,8 @@ QTableWidgetItem *FeatureAttrLWI::clone() const
 {
     FeatureAttrLWI *copy = new FeatureAttrLWI;
     copy->setDisplayValue(true);
-    DmlAttrLWI *item = copy;
-    item->setDmlAttribute(m_dmlAttribute);
-    item->setAttrValue(m_attrValue);
+    copy->setDmlAttribute(m_dmlAttribute);
+    copy->setAttrValue(m_attrValue);
     copy->setDisplayPrompt(m_displayPrompt);
     copy->setDisplayUnits(m_displayUnits);
     return copy;
@@ -59,15 +59,12 @@ QVariant FeatureAttrLWI::data(int role) const
 
     switch (role) {
     case DmlAttrNameRole:
-        return fieldString(definition->name);
     case DmlAttrPromptRole:
-        return fieldString(definition->prompt);
     case DmlAttrTypeRole:
-        return int(definition->type);
+    case DmlAttrDefRole:
+        return definitionData(m_dmlAttribute, role);
     case DmlAttrValueRole:
         return compat::isNullVariant(m_attrValue) ? DmlAttrLWI::data(role) : m_attrValue;
-    case DmlAttrDefRole:
-        return m_dmlAttribute;
     case Qt::DisplayRole:
         return cellText(*definition);
     case Qt::ToolTipRole:
@@ -80,7 +77,7 @@ QVariant FeatureAttrLWI::data(int role) const
 QString FeatureAttrLWI::cellText(const DmlAttrDef &definition) const
 {
     if (column() != 1)
-        return m_displayPrompt ? fieldString(definition.prompt) : fieldString(definition.name);
+        return labelText(definition, m_displayPrompt);
     const bool shown = !compat::isNullVariant(m_attrValue) && (m_displayValue || isSelected());
     return shown ? valueAsString() : QString();
 }

@@ -17,7 +17,9 @@ namespace Zudunmaf
 class GDM_EXPORT FeatureAttrLWI : public DmlAttrLWI
 {
 public:
+    /// An editable, selectable and enabled item without a definition or value.
     FeatureAttrLWI();
+    /// Copies share the definition and have a value of their own.
     FeatureAttrLWI(const FeatureAttrLWI &other);
     FeatureAttrLWI &operator=(const FeatureAttrLWI &other);
     ~FeatureAttrLWI() override;
@@ -25,8 +27,10 @@ public:
     /// A new item with the same attribute, value, label and display units, owned by the caller. It shows its
     /// value at all times, whatever this item does.
     QTableWidgetItem *clone() const override;
-    /// Without a definition, every role is answered as by a plain QTableWidgetItem. The tool tip describes
-    /// the attribute in several lines.
+    /// Answers the label or the value for Qt::DisplayRole, a description of the attribute in several lines
+    /// for Qt::ToolTipRole, and DmlAttrNameRole to DmlAttrDefRole. DmlAttrValueRole gives the value unless it
+    /// is null. Whatever it has no answer for, as every role without a definition, is answered as by a plain
+    /// QTableWidgetItem.
     QVariant data(int role) const override;
 
     /// Takes the definition and sets the value to its default. A null definition, or one of an unknown type,
@@ -39,9 +43,10 @@ public:
     /// The value as the user reads it, in the display units and with three decimals for a float; empty for a
     /// boolean and where there is no value.
     QString valueAsString() const override;
-    /// Takes the value from a text as valueAsString() writes it. A float may be followed by a blank and a
-    /// unit; a lone number is in the units of the definition. A text that is no number gives 0. A boolean is
-    /// left alone.
+    /// Takes the value from a text as valueAsString() writes it. A text or an option takes it unchanged, and
+    /// an option's is not looked up. A float may be a number, a blank and a unit; a lone number is in the
+    /// units of the definition. A text that is no number, or has more than two words, gives 0 in place of the
+    /// old value. No limits are applied. A boolean is left alone, and so is an item without a definition.
     void setValueFromString(const QString &text) override;
 
 private:
