@@ -1,0 +1,45 @@
+#include "assign_task.h"
+
+#include "gdm/items/attr_roles.h"
+#include "gdm/items/feature_attr_lwi.h"
+#include "value_rows.h"
+#include "walk_of_assign.h"
+
+namespace Zudunmaf::demo
+{
+
+AssignTask::AssignTask(int did)
+    : m_dialog(did)
+{
+}
+
+AssignTask::~AssignTask() = default;
+
+TvxAttributesSelectionDialog &AssignTask::dialog()
+{
+    return m_dialog;
+}
+
+QStringList AssignTask::resultLines() const
+{
+    QStringList lines;
+    const QList<QTableWidgetItem *> chosen = m_dialog.getChosenList();
+    for (const QTableWidgetItem *item : chosen) {
+        if (const FeatureAttrLWI *attribute = dynamic_cast<const FeatureAttrLWI *>(item))
+            lines.append(attribute->data(DmlAttrNameRole).toString() + QLatin1Char('\t') +
+                         attribute->valueAsString());
+    }
+    return lines;
+}
+
+std::unique_ptr<StartRows> AssignTask::newStartRows()
+{
+    return std::make_unique<ValueRows>(m_dialog);
+}
+
+std::unique_ptr<Walk> AssignTask::newWalk(const QString &pictureDirectory)
+{
+    return std::make_unique<WalkOfAssign>(m_dialog, pictureDirectory);
+}
+
+} // namespace Zudunmaf::demo

@@ -1,0 +1,192 @@
+#include "walk.h"
+
+#include "gdm/dialogs/tvx_attributes_selection_dialog.h"
+#include "gdm/items/attr_roles.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QLineEdit>
+#include <QMenu>
+#include <QTableWidget>
+
+namespace Zudunmaf::demo
+{
+
+Walk::Walk(TvxAttributesSelectionDialog &dialog, const QString &pictureDirectory)
+    : m_dialog(dialog)
+    , m_widgets(dialog)
+    , m_user(dialog)
+    , m_pictureDirectory(pictureDirectory)
+{
+}
+
+Walk::~Walk() = default;
+
+QString Walk::play()
+{
+    playStep(QStringLiteral("open"), [this] { open(); });
+    const std::vector<Step> all = steps();
+    for (const Step &step : all)
+        playStep(QString::fromLatin1(step.name), step.act);
+    m_step = QStringLiteral("ok");
+    if (m_problem.isEmpty())
+        pressOk();
+    return m_problem;
+}
+
+void Walk::playStep(const QString &name, const std::function<void()> &act)
+{
+    if (!m_problem.isEmpty())
+        return;
+    m_step = name;
+    act();
+    savePicture(name);
+}
+
+bool Walk::expect(bool holds, const QString &what)
+{
+    if (!holds && m_problem.isEmpty())
+        m_problem = QStringLiteral("step %1: expected %2").arg(m_step, what);
+    return holds;
+}
+
+void Walk::savePicture(const QString &name)
+{
+    const QString file = QStringLiteral("%1-%2.png").arg(++m_pictureCount, 2, 10, QLatin1Char('0')).arg(name);
+    const QString path = QDir(m_pictureDirectory).filePath(file);
+    expect(m_user.picture().save(path), QStringLiteral("to save %1").arg(path));
+}
+
+void Walk::open()
+{
+    if (!expect(m_user.open(), QStringLiteral("an active window")))
+        return;
+    expect(m_widgets.filterText->hasFocus(), QStringLiteral("the focus in the filter text"));
+    expect(m_widgets.topView->rowCount() > 0, QStringLiteral("attributes on offer"));
+}
+
+void Walk::pressOk()
+{
+    expect(m_user.pushButton(*m_widgets.okButton) && !m_dialog.isVisible() &&
+               m_dialog.result() == QDialog::Accepted,
+           QStringLiteral("OK to accept the dialog"));
+}
+
+void Walk::chooseEntity(int row)
+{
+    if (!expect(m_user.goTo(*m_widgets.entityList), QStringLiteral("the focus in the entity list")))
+        return;
+    m_user.press(Qt::Key_Home);
+    for (int step = 0; step < row; ++step)
+        m_user.press(Qt::Key_Down);
+    expect(m_widgets.entityList->currentIndex() == row, QStringLiteral("entity row %1").arg(row));
+}
+
+void Walk::typeFilter(const QString &text)
+{
+    if (!expect(m_user.goTo(*m_widgets.filterText), QStringLiteral("the focus in the filter text")))
+        return;
+    m_user.press(Qt::Key_A, Qt::ControlModifier);
+    m_user.press(Qt::Key_Delete);
+    m_user.type(text);
+    expect(m_widgets.filterText->text() == text, QStringLiteral("the filter text '%1'").arg(text));
+}
+
+void Walk::add(const QString &name, Way way)
+{
+    typeFilter(name);
+    if (!goToRow(*m_widgets.topView, name))
+        return;
+    switch (way) {
+    case Way::Mnemonic:
+        expect(m_user.pushButton(*m_widgets.addButton), QStringLiteral("the add button to come up again"));
+        break;
+    case Way::Enter:
+        m_user.press(Qt::Key_Return);
+        break;
+    case Way::DoubleClick:
+        m_user.doubleClick(*m_widgets.topView, *m_widgets.topView->currentItem());
+        break;
+    }
+    const int row = rowOf(*m_widgets.chosenList, name);
+    expect(row >= 0 && row == m_widgets.chosenList->rowCount() - 1,
+           QStringLiteral("'%1' as the last chosen attribute").arg(name));
+}
+
+void Walk::openEditor(const QString &name)
+{
+    if (!goToRow(*m_widgets.chosenList, name))
+        return;
+    m_user.press(Qt::Key_F2);
+    expect(isEditing(), QStringLiteral("an editor with the focus for '%1'").arg(name));
+}
+
+void Walk::finishEditor(const QString &name, const QString &keys, const QString &expected)
+{
+    m_user.type(keys);
+    expect(!isEditing() && m_dialog.isVisible(),
+           QStringLiteral("only the editor of '%1' to close").arg(name));
+    expect(cellText(name).startsWith(expected),
+           QStringLiteral("'%1' to read '%2' and not '%3'").arg(name, expected, cellText(name)));
+}
+
+void Walk::edit(const QString &name, const QString &keys, const QString &expected)
+{
+    openEditor(name);
+    finishEditor(name, keys, expected);
+}
+
+void Walk::resetByMenu(const QString &name, const QString &expected)
+{
+    if (!goToRow(*m_widgets.chosenList, name))
+        return;
+    const bool opened = m_user.useContextMenu([this](QMenu &menu) {
+        const QAction *reset = menu.actions().value(1);
+        for (int step = 0; menu.activeAction() != reset && step < menu.actions().size(); ++step)
+            m_user.press(Qt::Key_Down);
+        expect(reset && menu.activeAction() == reset, QStringLiteral("a second action in the context menu"));
+        savePicture(m_step + QLatin1String("-menu"));
+        m_user.press(Qt::Key_Return);
+        menu.close();
+    });
+    expect(opened, QStringLiteral("a context menu"));
+    expect(cellText(name) == expected,
+           QStringLiteral("'%1' to read '%2' and not '%3'").arg(name, expected, cellText(name)));
+}
+
+bool Walk::goToRow(QTableWidget &table, const QString &name)
+{
+    const int row = rowOf(table, name);
+    if (!expect(row >= 0 && !table.isRowHidden(row), QStringLiteral("a row '%1'").arg(name)) ||
+        !expect(m_user.goTo(table), QStringLiteral("the focus in %1").arg(table.objectName())))
+        return false;
+    for (int step = 0; table.currentRow() != row && step < table.rowCount(); ++step)
+        m_user.press(table.currentRow() < row ? Qt::Key_Down : Qt::Key_Up);
+    return expect(table.currentRow() == row,
+                  QStringLiteral("'%1' to be reached by the arrow keys").arg(name));
+}
+
+bool Walk::isEditing() const
+{
+    return m_widgets.chosenList->viewport()->isAncestorOf(QApplication::focusWidget());
+}
+
+int Walk::rowOf(const QTableWidget &table, const QString &name)
+{
+    for (int row = 0; row < table.rowCount(); ++row) {
+        const QTableWidgetItem *item = table.item(row, 1);
+        if (item && item->data(DmlAttrNameRole).toString() == name)
+            return row;
+    }
+    return -1;
+}
+
+QString Walk::cellText(const QString &name) const
+{
+    const QTableWidgetItem *item = m_widgets.chosenList->item(rowOf(*m_widgets.chosenList, name), 1);
+    return item ? item->text() : QString();
+}
+
+} // namespace Zudunmaf::demo

@@ -1,0 +1,32 @@
+#!/usr/bin/env bash
+# Builds everything and runs the tests, with Qt 6 and then with Qt 5. Installs what is missing.
+#   scripts/test.sh              both versions of Qt
+#   scripts/test.sh 6            one of them, 6 or 5
+#   scripts/test.sh --sanitize   under the address, leak and undefined-behaviour sanitizers
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. scripts/packages.sh
+
+kind=dev
+majors=()
+for argument in "$@"; do
+    case "$argument" in
+        6 | 5) majors+=("$argument") ;;
+        --sanitize) kind=asan ;;
+        *)
+            echo "usage: scripts/test.sh [6|5] [--sanitize]" >&2
+            exit 2
+            ;;
+    esac
+done
+[ ${#majors[@]} -gt 0 ] || majors=(6 5)
+
+for major in "${majors[@]}"; do
+    # shellcheck disable=SC2046
+    install_packages $(build_packages "$major") xvfb xauth python3-jsonschema
+    preset="qt$major-$kind"
+    echo "== Qt $major ($kind)"
+    cmake --preset "$preset" >/dev/null
+    cmake --build --preset "$preset"
+    ctest --preset "$preset"
+done
