@@ -227,8 +227,10 @@ int AttributeTable::nextVisibleRow(int row, int step) const
 void AttributeTable::fixRowHeight()
 {
     const int height = sizeHintForRow(0);
-    if (height > 0)
-        verticalHeader()->setDefaultSectionSize(height);
+    if (height <= 0)
+        return;
+    verticalHeader()->setDefaultSectionSize(height);
+    updateGeometry();
 }
 
 void AttributeTable::setRowShown(int row, bool shown)

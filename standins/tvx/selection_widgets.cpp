@@ -26,7 +26,8 @@ namespace
 
 constexpr char OfferedRows[] = "application/x-zudunmaf-offered-rows";
 constexpr char ChosenRows[] = "application/x-zudunmaf-chosen-rows";
-constexpr int DescriptionLines = 2;
+/// The height, in lines of text, from which the description gets a third line.
+constexpr int AmpleHeight = 32;
 
 template <class Widget>
 Widget *named(Widget *widget, const char *objectName, const char *spokenName)
@@ -83,13 +84,12 @@ SelectionWidgets::SelectionWidgets(QDialog *dialog)
     createButtons(dialog);
     createTexts(dialog);
     arrange(dialog);
-    fitToFont();
-
     const QFontMetrics metrics = dialog->fontMetrics();
     QSize size(metrics.averageCharWidth() * 110, metrics.height() * 40);
     if (const QScreen *screen = QGuiApplication::primaryScreen())
         size = size.boundedTo(screen->availableSize() * 9 / 10);
     dialog->resize(size);
+    fitToDialog();
     dialog->setSizeGripEnabled(true);
     filterText->setFocus();
 }
@@ -132,6 +132,7 @@ void SelectionWidgets::createTexts(QDialog *dialog)
 {
     description = textLine(dialog, "description", texts::Description);
     preview = textLine(dialog, "preview", texts::Preview);
+    preview->setAlignment(Qt::AlignLeading | Qt::AlignVCenter);
     offeredLabel = label(texts::Offered, topView);
     offeredLabel->setObjectName(QLatin1String("offeredLabel"));
     chosenLabel = label(texts::Chosen, chosenList);
@@ -149,6 +150,11 @@ void SelectionWidgets::arrange(QDialog *dialog)
     layout->addWidget(tablesWidget(dialog), 1);
     layout->addWidget(description);
     layout->addLayout(ends);
+
+    // The tables came first, and Tab goes by the order of coming; each is to be reached where it stands.
+    QWidget::setTabOrder(topView, addButton);
+    QWidget::setTabOrder(clearButton, chosenList);
+    QWidget::setTabOrder(chosenList, buttonBox->button(QDialogButtonBox::Ok));
 }
 
 QLayout *SelectionWidgets::choiceLayout(QDialog *) const
@@ -197,12 +203,12 @@ QWidget *SelectionWidgets::tablesWidget(QDialog *dialog) const
     return splitter;
 }
 
-void SelectionWidgets::fitToFont()
+void SelectionWidgets::fitToDialog()
 {
     const QFontMetrics metrics = description->fontMetrics();
-    description->setFixedHeight(DescriptionLines * metrics.lineSpacing());
+    const bool ample = description->window()->height() >= AmpleHeight * metrics.lineSpacing();
+    description->setFixedHeight((ample ? 3 : 2) * metrics.lineSpacing());
     preview->setFixedHeight(2 * metrics.lineSpacing());
-    preview->setAlignment(Qt::AlignLeading | Qt::AlignVCenter);
     // Two spin boxes with their labels, each wide enough for the longest whole number.
     const int rangeWidth = metrics.horizontalAdvance(QLatin1String("From: To:")) +
                            2 * metrics.horizontalAdvance(QLatin1String("-2147483648")) + 7 * metrics.height();

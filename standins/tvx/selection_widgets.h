@@ -28,8 +28,9 @@ class SelectionWidgets
 public:
     explicit SelectionWidgets(QDialog *dialog);
 
-    /// Takes the sizes that hang on the font.
-    void fitToFont();
+    /// Sets the sizes that hang on the font and on the height of the dialog: a low one leaves its room to the
+    /// tables.
+    void fitToDialog();
 
     QComboBox *entityList;
     QComboBox *groupList;
