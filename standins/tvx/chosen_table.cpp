@@ -230,7 +230,8 @@ void ChosenTable::requestMenuAtCurrentRow()
         return;
     finishEditing();
     scrollToItem(current);
-    Q_EMIT menuRequested(viewport()->mapToGlobal(visualItemRect(current).center()));
+    // Below the row, so that its value can still be read.
+    Q_EMIT menuRequested(viewport()->mapToGlobal(visualItemRect(current).bottomLeft()));
 }
 
 } // namespace tvx

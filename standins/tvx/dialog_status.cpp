@@ -144,7 +144,8 @@ QString DialogStatus::offerText() const
 QString DialogStatus::describedText() const
 {
     const ChosenTable *chosen = m_widgets.chosenList;
-    const bool inChosen = chosen->openEditor() || chosen->hasFocus();
+    // The window's focus, which stays where it is while a menu is open.
+    const bool inChosen = chosen->openEditor() || chosen->window()->focusWidget() == chosen;
     const QTableWidgetItem *current = inChosen ? chosen->rowItem(chosen->currentRow())
                                                : m_widgets.topView->rowItem(m_widgets.topView->currentRow());
     if (!current)

@@ -146,7 +146,7 @@ void SelectionWidgets::arrange(QDialog *dialog)
     ends->addWidget(buttonBox, 0, Qt::AlignBottom);
 
     auto *layout = new QVBoxLayout(dialog);
-    layout->addLayout(choiceLayout(dialog));
+    layout->addLayout(choiceLayout());
     layout->addWidget(tablesWidget(dialog), 1);
     layout->addWidget(description);
     layout->addLayout(ends);
@@ -157,19 +157,20 @@ void SelectionWidgets::arrange(QDialog *dialog)
     QWidget::setTabOrder(chosenList, buttonBox->button(QDialogButtonBox::Ok));
 }
 
-QLayout *SelectionWidgets::choiceLayout(QDialog *) const
+QLayout *SelectionWidgets::choiceLayout() const
 {
+    const int gap = 2 * filterText->fontMetrics().averageCharWidth();
     auto *lists = new QHBoxLayout;
     lists->addWidget(label(texts::Entity, entityList));
     lists->addWidget(entityList, 1);
-    lists->addSpacing(lists->spacing());
+    lists->addSpacing(gap);
     lists->addWidget(label(texts::Group, groupList));
     lists->addWidget(groupList, 1);
 
     auto *filter = new QHBoxLayout;
     filter->addWidget(label(texts::Filter, filterText));
     filter->addWidget(filterText, 1);
-    filter->addSpacing(filter->spacing());
+    filter->addSpacing(gap);
     filter->addWidget(offeredLabel);
 
     auto *layout = new QVBoxLayout;

@@ -53,7 +53,7 @@ private:
     void createButtons(QDialog *dialog);
     void createTexts(QDialog *dialog);
     void arrange(QDialog *dialog);
-    QLayout *choiceLayout(QDialog *dialog) const;
+    QLayout *choiceLayout() const;
     QWidget *tablesWidget(QDialog *dialog) const;
 };
 

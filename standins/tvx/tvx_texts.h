@@ -34,8 +34,8 @@ constexpr char ClearAllHint[] =
     "@$@#tvx@$@#GENERAL@$@#17@$@#Take every chosen row away; Undo brings them back";
 
 constexpr char NoDictionary[] = "@$@#tvx@$@#GENERAL@$@#20@$@#There is no attribute dictionary.";
-constexpr char NothingMatches[] =
-    "@$@#tvx@$@#GENERAL@$@#21@$@#Nothing matches. Clear the filter, or choose all entities and all groups.";
+constexpr char NothingMatches[] = "@$@#tvx@$@#GENERAL@$@#21@$@#Nothing to choose from here. Clear the "
+                                  "filter, or choose all entities and all groups.";
 constexpr char NothingLeft[] = "@$@#tvx@$@#GENERAL@$@#22@$@#No attribute is left to choose.";
 constexpr char NothingChosen[] =
     "@$@#tvx@$@#GENERAL@$@#23@$@#Nothing chosen yet. Select attributes above and press Enter or Add.";

@@ -14,6 +14,12 @@ namespace Zudunmaf
 namespace
 {
 
+/// Of a text: whether the entries of its option list are offered beside what the user types.
+bool offersChoices(const DmlAttrDef &text)
+{
+    return text.textChoiceCount >= 1;
+}
+
 QDoubleSpinBox *newDoubleSpinBox(QWidget *parent)
 {
     QDoubleSpinBox *box = new QDoubleSpinBox(parent);
@@ -43,6 +49,16 @@ void loadTextWithChoices(const QString &value, const DmlAttrDef &definition, QCo
     addOptions(box, definition);
     selectEntry(box, value);
     box->setEditable(true);
+}
+
+void loadText(const QString &value, const DmlAttrDef &definition, QWidget *editor)
+{
+    if (offersChoices(definition)) {
+        if (QComboBox *box = qobject_cast<QComboBox *>(editor))
+            loadTextWithChoices(value, definition, box);
+    } else if (QLineEdit *line = qobject_cast<QLineEdit *>(editor)) {
+        line->setText(value);
+    }
 }
 
 void loadFloat(double value, const DmlAttrDef &definition, int displayUnits, QDoubleSpinBox *box)
@@ -78,6 +94,8 @@ double storedFloat(double shown, const DmlAttrDef &definition, int displayUnits)
 
 void storeChoice(FeatureAttrLWI &item, const QComboBox *box)
 {
+    if (!box)
+        return;
     if (box->currentIndex() != -1)
         item.setAttrValue(box->currentText());
     else if (const QLineEdit *line = box->lineEdit())
@@ -90,7 +108,7 @@ QWidget *newValueEditor(const DmlAttrDef &definition, QWidget *parent)
 {
     switch (definition.type) {
     case DmlAttrText:
-        if (definition.textChoiceCount >= 1)
+        if (offersChoices(definition))
             return newComboBox(parent);
         return new QLineEdit(parent);
     case DmlAttrOption:
@@ -111,10 +129,7 @@ void loadValue(FeatureAttrLWI &item, const DmlAttrDef &definition, QWidget *edit
         return;
     switch (definition.type) {
     case DmlAttrText:
-        if (QComboBox *box = qobject_cast<QComboBox *>(editor))
-            loadTextWithChoices(value.toString(), definition, box);
-        else if (QLineEdit *line = qobject_cast<QLineEdit *>(editor))
-            line->setText(value.toString());
+        loadText(value.toString(), definition, editor);
         break;
     case DmlAttrOption:
         if (QComboBox *box = qobject_cast<QComboBox *>(editor))
@@ -140,11 +155,13 @@ void storeValue(FeatureAttrLWI &item, const DmlAttrDef &definition, QWidget *edi
 {
     switch (definition.type) {
     case DmlAttrText:
-    case DmlAttrOption:
-        if (const QComboBox *box = qobject_cast<const QComboBox *>(editor))
-            storeChoice(item, box);
+        if (offersChoices(definition))
+            storeChoice(item, qobject_cast<const QComboBox *>(editor));
         else if (const QLineEdit *line = qobject_cast<const QLineEdit *>(editor))
             item.setAttrValue(line->text());
+        break;
+    case DmlAttrOption:
+        storeChoice(item, qobject_cast<const QComboBox *>(editor));
         break;
     case DmlAttrInteger:
         if (const QSpinBox *box = qobject_cast<const QSpinBox *>(editor))
