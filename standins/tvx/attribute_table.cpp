@@ -148,8 +148,9 @@ QVector<int> AttributeTable::selectedVisibleRows() const
 QList<QTableWidgetItem *> AttributeTable::rowItems(bool visibleOnly) const
 {
     QList<QTableWidgetItem *> items;
-    items.reserve(rowCount());
-    for (int row = 0; row < rowCount(); ++row) {
+    const int rows = rowCount();
+    items.reserve(rows);
+    for (int row = 0; row < rows; ++row) {
         QTableWidgetItem *item = rowItem(row);
         if (item && !(visibleOnly && isRowHidden(row)))
             items.append(item);

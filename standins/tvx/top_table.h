@@ -36,6 +36,8 @@ public:
     /// Replaces the rows by two clones of each item, all visible. The current attribute stays current where
     /// it is among them, without scrolling; else the first row is.
     void fill(const QList<QTableWidgetItem *> &items);
+    /// The items that stand for the rows, hidden ones too, in row order.
+    QList<QTableWidgetItem *> allItems() const;
     /// Shows or hides a row; out of range, nothing happens.
     void setRowVisible(int row, bool visible);
     void makeFirstVisibleRowCurrent();
@@ -57,6 +59,8 @@ private:
     void endPass();
 
     MatchHighlightDelegate *m_delegate;
+    /// Kept, since every key in the filter asks for it.
+    QList<QTableWidgetItem *> m_items;
     QHash<QString, int> m_rowOfName;
     bool m_namesKnown = false;
     /// No row before this one is visible.

@@ -71,7 +71,8 @@ int TvxAttributesSelectionDialog::displayUnits()
 
 QList<QTableWidgetItem *> TvxAttributesSelectionDialog::getTopListItems(bool visibleOnly) const
 {
-    return d->widgets().topView->rowItems(visibleOnly);
+    const Zudunmaf::tvx::TopTable *top = d->widgets().topView;
+    return visibleOnly ? top->rowItems(true) : top->allItems();
 }
 
 void TvxAttributesSelectionDialog::setTopViewRowsVisiblity(int row, bool visible)
