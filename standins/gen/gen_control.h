@@ -6,10 +6,12 @@
 
 #include "gdm/host/gdm_export.h"
 
+/// @file
 /// What a host or a test sets and asks of the services' stand-in beside the services themselves. Everything
 /// here is the process's and belongs to its main thread.
 namespace Zudunmaf
 {
+/// The stand-in of the services.
 namespace gen
 {
 

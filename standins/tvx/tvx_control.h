@@ -8,6 +8,7 @@ class TvxAttributesSelectionDialog;
 
 namespace Zudunmaf
 {
+/// The stand-in of the base dialog.
 namespace tvx
 {
 

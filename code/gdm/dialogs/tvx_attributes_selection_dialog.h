@@ -21,8 +21,11 @@ public:
     /// `data` holds the row's entity mask as a whole number; `did` is the identifier that the row carries.
     TvxDataItem(const QString &text, QVariant data, int did);
 
+    /// What the row shows.
     QString text() const { return m_text; }
+    /// The entity mask of the row.
     QVariant data() const { return m_data; }
+    /// The dictionary that the row carries; 0 from the two dialogs.
     int did() const { return m_did; }
 
 private:
@@ -48,7 +51,11 @@ class GDM_EXPORT TvxAttributesSelectionDialog : public QDialog
     Q_OBJECT
 
 public:
-    enum Buttons_Enum { Buttons_Add = 0, Buttons_Remove = 1 };
+    /// The buttons that can have a picture.
+    enum Buttons_Enum {
+        Buttons_Add = 0,   ///< Takes attributes over into the chosen list.
+        Buttons_Remove = 1 ///< Takes them away from it.
+    };
 
     /// `did` identifies the dictionary to walk; -1 leaves that to the selected entity row. The others are
     /// QDialog's.
@@ -121,6 +128,7 @@ protected:
     /// filterAttributeList().
     void fillAttributeList(const QList<QTableWidgetItem *> &items);
 
+    /// Closing by the window is Cancel.
     void closeEvent(QCloseEvent *event) override;
 
 private:

@@ -1,6 +1,7 @@
 #ifndef GDM_HOST_CONFIG_KEYS_H
 #define GDM_HOST_CONFIG_KEYS_H
 
+/// @file
 /// The host's configuration values that the library reads, each with gen__cfg_get() at each use.
 namespace Zudunmaf
 {

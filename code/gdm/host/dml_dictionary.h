@@ -5,6 +5,7 @@
 
 struct DmlAttrDef;
 
+/// @file
 /// The attribute dictionary that the host supplies. Bound at the first call, like the low-level services.
 extern "C" {
 

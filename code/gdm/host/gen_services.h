@@ -5,6 +5,7 @@
 
 #include <stddef.h>
 
+/// @file
 /// The low-level services that the host supplies: messages, configuration, memory, logging, comparing, units.
 ///
 /// The library binds them at their first call and not at load, which holds only as long as they are called

@@ -8,6 +8,7 @@
 #include <QPointF>
 
 #include <cstring>
+#include <utility>
 
 namespace Zudunmaf
 {
@@ -102,7 +103,7 @@ QTableWidgetItem *AttrFilterLWI::clone() const
 
 void AttrFilterLWI::setDmlAttribute(QVariant dmlAttribute)
 {
-    DmlAttrLWI::setDmlAttribute(dmlAttribute);
+    DmlAttrLWI::setDmlAttribute(std::move(dmlAttribute));
     const DmlAttrDef *definition = definitionIn(m_dmlAttribute);
     DmlAttrValue *condition = record();
     if (definition && condition)

@@ -24,6 +24,7 @@ public:
     /// Copies get a record of their own with the same condition. Assigning through a reference to DmlAttrLWI
     /// shares the record instead and must not be done.
     AttrFilterLWI(const AttrFilterLWI &other);
+    /// Copies the condition into the record that the item already has.
     AttrFilterLWI &operator=(const AttrFilterLWI &other);
     ~AttrFilterLWI() override;
 

@@ -1,6 +1,9 @@
 #ifndef GDM_ITEMS_ATTR_RECORDS_H
 #define GDM_ITEMS_ATTR_RECORDS_H
 
+/// @file
+/// The records that the library shares with the host, byte by byte.
+
 #include <cstddef>
 #include <cstdint>
 
@@ -14,23 +17,23 @@
 
 /// Type of an attribute, the same code in both records. Any other code is shown and stored by nobody.
 enum DmlAttrType {
-    DmlAttrBoolean = 0,
-    DmlAttrText = 1,
-    DmlAttrOption = 2,
-    DmlAttrInteger = 3,
-    DmlAttrFloat = 4
+    DmlAttrBoolean = 0, ///< Carried or not; true or false.
+    DmlAttrText = 1,    ///< Free text, with choices where the definition has some.
+    DmlAttrOption = 2,  ///< One entry of a list.
+    DmlAttrInteger = 3, ///< A whole number between two limits.
+    DmlAttrFloat = 4    ///< A number between two limits, with units where the definition has some.
 };
 
 /// Definition of one attribute. Written by the dictionary, which owns it with all its strings and keeps it
 /// valid for as long as any item points to it; the library only reads. The layout is shared with the host,
 /// byte by byte.
 struct DmlAttrDef {
-    std::int32_t type;        ///< A DmlAttrType.
-    char name[65];            ///< Internal name, NUL-terminated.
-    char prompt[65];          ///< Name to display, NUL-terminated.
-    char group[66];           ///< Group name, NUL-terminated.
-    std::uint32_t entityMask; ///< Entities that may carry it; bits of EntityMask in attr_roles.h.
-    unsigned char reserved204[12];
+    std::int32_t type;             ///< A DmlAttrType.
+    char name[65];                 ///< Internal name, NUL-terminated.
+    char prompt[65];               ///< Name to display, NUL-terminated.
+    char group[66];                ///< Group name, NUL-terminated.
+    std::uint32_t entityMask;      ///< Entities that may carry it; bits of EntityMask in attr_roles.h.
+    unsigned char reserved204[12]; ///< Neither read nor written.
 
     /// The default value, by type.
     union {
@@ -38,10 +41,10 @@ struct DmlAttrDef {
         const char *defaultText;    ///< Null means that there is no default.
         std::int32_t defaultOption; ///< Index into optionList; negative means that there is no default.
         __extension__ struct {
-            std::int32_t defaultInt;
-            std::int32_t intMin; ///< Lower limit of an integer, in the upper half of the default's slot.
+            std::int32_t defaultInt; ///< The default of an integer; there always is one.
+            std::int32_t intMin;     ///< Lower limit of an integer, in the upper half of the default's slot.
         };
-        float defaultFloat; ///< Single precision, unlike the limits.
+        float defaultFloat; ///< In the units of the definition. Single precision, unlike the limits.
     };
 
     /// The limits or the choices, by type.
@@ -49,43 +52,43 @@ struct DmlAttrDef {
         std::int32_t intMax; ///< Upper limit of an integer.
         __extension__ struct {
             double floatMin; ///< Limits of a float, in the units of the definition.
-            double floatMax;
+            double floatMax; ///< Upper limit; not compared with the lower one.
         };
         __extension__ struct {
             const char *const *optionList; ///< Entries of an option, or choices of a text.
-            std::int32_t optionCount;
+            std::int32_t optionCount;      ///< Number of entries; 0 or less, or a null list, means none.
         };
     };
 
-    std::int32_t unitsClass; ///< Float only: units of the stored number; -1 means none.
-    unsigned char reserved244[4];
+    std::int32_t unitsClass;      ///< Float only: units of the stored number; -1 means none.
+    unsigned char reserved244[4]; ///< Neither read nor written.
     std::int32_t textChoiceCount; ///< Text only: 1 or more means that optionList is offered as choices.
-    unsigned char reserved252[4];
+    unsigned char reserved252[4]; ///< Neither read nor written.
 };
 
 /// Condition on one attribute. Belongs to exactly one AttrFilterLWI and is all zero until something is
 /// stored.
 struct DmlAttrValue {
-    unsigned char reserved0[4];
-    std::int32_t type; ///< Copy of DmlAttrDef::type.
-    unsigned char reserved8[4];
-    std::int32_t isSet; ///< Nonzero means that the user has set a condition.
+    unsigned char reserved0[4]; ///< Zero.
+    std::int32_t type;          ///< Copy of DmlAttrDef::type.
+    unsigned char reserved8[4]; ///< Zero.
+    std::int32_t isSet;         ///< Nonzero means that the user has set a condition.
 
     /// The condition, by type; a boolean has none but isSet.
     union {
         char text[200];      ///< NUL-terminated, in the local 8-bit encoding.
         std::int32_t option; ///< Index into DmlAttrDef::optionList; -1 means that nothing is chosen.
         __extension__ struct {
-            std::int32_t intLow;
+            std::int32_t intLow;  ///< Least value that fulfils it.
             std::int32_t intHigh; ///< Never below intLow once edited.
         };
         __extension__ struct {
-            double floatLow; ///< In the units of the definition, whatever the display units are.
-            double floatHigh;
+            double floatLow;  ///< In the units of the definition, whatever the display units are.
+            double floatHigh; ///< Never below floatLow once edited.
         };
     };
 
-    unsigned char reserved216[8];
+    unsigned char reserved216[8]; ///< Zero.
 };
 
 #ifdef __clang__

@@ -1,6 +1,9 @@
 #ifndef GDM_ITEMS_ATTR_ROLES_H
 #define GDM_ITEMS_ATTR_ROLES_H
 
+/// @file
+/// Numbers by which items, dialogs and dictionaries speak of attributes.
+
 namespace Zudunmaf
 {
 
@@ -15,17 +18,18 @@ enum DmlAttrRole {
     DmlAttrFilterTextRole = 142 ///< QString: the condition as one line; filter items only.
 };
 
-/// Bits of DmlAttrDef::entityMask.
+/// What an attribute can be put on: bits of DmlAttrDef::entityMask. Bits that are not named here are let through
+/// by EntityAll alone.
 enum EntityMask : unsigned int {
-    EntityJob = 0x00000001,
-    EntityStep = 0x00000002,
-    EntitySymbol = 0x00000004,
-    EntityLayer = 0x00000008,
-    EntityWheel = 0x00000040,
-    EntityNet = 0x10000000,
-    EntityComponent = 0x20000000,
-    EntityFeature = 0x40000000,
-    EntityAll = 0xFFFFFFFF
+    EntityJob = 0x00000001,       ///< The whole job.
+    EntityStep = 0x00000002,      ///< A step of the job.
+    EntitySymbol = 0x00000004,    ///< A symbol.
+    EntityLayer = 0x00000008,     ///< A layer.
+    EntityWheel = 0x00000040,     ///< An aperture wheel.
+    EntityNet = 0x10000000,       ///< A net.
+    EntityComponent = 0x20000000, ///< A component.
+    EntityFeature = 0x40000000,   ///< A feature of a layer.
+    EntityAll = 0xFFFFFFFF        ///< Everything, in one row of the entity list.
 };
 
 } // namespace Zudunmaf

@@ -2,6 +2,8 @@
 
 #include "gdm/items/attr_access.h"
 
+#include <utility>
+
 namespace Zudunmaf
 {
 
@@ -38,12 +40,12 @@ QVariant DmlAttrLWI::data(int role) const
 
 void DmlAttrLWI::setDmlAttribute(QVariant dmlAttribute)
 {
-    m_dmlAttribute = dmlAttribute;
+    m_dmlAttribute = std::move(dmlAttribute);
 }
 
 void DmlAttrLWI::setAttrValue(QVariant attrValue)
 {
-    m_attrValue = attrValue;
+    m_attrValue = std::move(attrValue);
 }
 
 QString DmlAttrLWI::toString() const

@@ -20,7 +20,11 @@ class GDM_EXPORT DmlAttrLWI : public QTableWidgetItem
 {
 public:
     /// The kinds of item, see itemType().
-    enum ItemType_Enum { ItemType_None = 0, ItemType_AttrFilter = 1, ItemType_FeatureAttr = 2 };
+    enum ItemType_Enum {
+        ItemType_None = 0,       ///< A DmlAttrLWI and no more.
+        ItemType_AttrFilter = 1, ///< An AttrFilterLWI.
+        ItemType_FeatureAttr = 2 ///< A FeatureAttrLWI.
+    };
 
     /// An item without a definition or value, labelled by name, with its value shown while it is selected and
     /// no display units. Its QTableWidgetItem type is UserType, as for all items here: itemType() tells the
@@ -28,6 +32,7 @@ public:
     explicit DmlAttrLWI(ItemType_Enum itemType = ItemType_None);
     /// Copies the item with its settings. Variants are copied, so a pointer in one is shared from then on.
     DmlAttrLWI(const DmlAttrLWI &other);
+    /// Takes what a copy would take.
     DmlAttrLWI &operator=(const DmlAttrLWI &other);
     ~DmlAttrLWI() override;
 
@@ -65,18 +70,20 @@ public:
     /// The type code of the definition; 0, the code of a boolean, for an item without a definition.
     int getDmlAttrType();
 
-    // The three settings are kept as they are given: any units code is passed on to the host's services.
+    /// Sets what displayPrompt() tells.
     void setDisplayPrompt(bool displayPrompt);
+    /// Sets what displayValue() tells.
     void setDisplayValue(bool displayValue);
+    /// Sets the units code. Any code is kept as it is given and passed on to the host's services.
     void setDisplayUnits(int displayUnits);
 
 protected:
-    QVariant m_dmlAttribute;
-    QVariant m_attrValue;
-    bool m_displayPrompt;
-    bool m_displayValue;
-    int m_displayUnits;
-    ItemType_Enum m_itemType;
+    QVariant m_dmlAttribute;  ///< See dmlAttribute().
+    QVariant m_attrValue;     ///< See attrValue().
+    bool m_displayPrompt;     ///< See displayPrompt().
+    bool m_displayValue;      ///< See displayValue().
+    int m_displayUnits;       ///< See displayUnits().
+    ItemType_Enum m_itemType; ///< See itemType().
 };
 
 } // namespace Zudunmaf

@@ -9,6 +9,8 @@
 #include <QByteArray>
 #include <QStringList>
 
+#include <utility>
+
 namespace Zudunmaf
 {
 
@@ -37,7 +39,7 @@ QTableWidgetItem *FeatureAttrLWI::clone() const
 
 void FeatureAttrLWI::setDmlAttribute(QVariant dmlAttribute)
 {
-    DmlAttrLWI::setDmlAttribute(dmlAttribute);
+    DmlAttrLWI::setDmlAttribute(std::move(dmlAttribute));
     const DmlAttrDef *definition = definitionIn(m_dmlAttribute);
     if (!definition)
         return;
@@ -48,7 +50,7 @@ void FeatureAttrLWI::setDmlAttribute(QVariant dmlAttribute)
 
 void FeatureAttrLWI::setAttrValue(QVariant attrValue)
 {
-    DmlAttrLWI::setAttrValue(attrValue);
+    DmlAttrLWI::setAttrValue(std::move(attrValue));
 }
 
 QVariant FeatureAttrLWI::data(int role) const

@@ -21,6 +21,7 @@ public:
     FeatureAttrLWI();
     /// Copies share the definition and have a value of their own.
     FeatureAttrLWI(const FeatureAttrLWI &other);
+    /// Takes what a copy would take.
     FeatureAttrLWI &operator=(const FeatureAttrLWI &other);
     ~FeatureAttrLWI() override;
 
