@@ -1,12 +1,29 @@
-# Install rules and the CMake package. Every path in it is relative, so the tree can be moved after installation.
+# Install rules, the CMake package and the pkg-config files. Every path in them is relative, so the tree can be moved
+# after installation. Four components: Library, Standins, Development and Demo.
 include(CMakePackageConfigHelpers)
 
 set(zudunmaf_cmake_dir "${CMAKE_INSTALL_LIBDIR}/cmake/Zudunmaf")
 
-install(TARGETS zudunmaf_host_headers EXPORT ZudunmafHostTargets)
-install(TARGETS zudunmaf EXPORT ZudunmafTargets LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+# install_libraries(EXPORT COMPONENT TARGET...): the file to link against belongs to the development files.
+function(install_libraries export component)
+    install(TARGETS ${ARGN} EXPORT ${export}
+        LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT ${component} NAMELINK_COMPONENT Development)
+    install(EXPORT ${export} NAMESPACE Zudunmaf:: DESTINATION "${zudunmaf_cmake_dir}" COMPONENT Development)
+endfunction()
+
+function(install_development_files destination)
+    install(FILES ${ARGN} DESTINATION "${destination}" COMPONENT Development)
+endfunction()
+
+install_libraries(ZudunmafHostTargets Development zudunmaf_host_headers)
+install_libraries(ZudunmafTargets Library zudunmaf)
+configure_file("${CMAKE_CURRENT_LIST_DIR}/zudunmaf_version.h.in"
+    "${PROJECT_BINARY_DIR}/include/gdm/zudunmaf_version.h" @ONLY)
+install_development_files("${CMAKE_INSTALL_INCLUDEDIR}/zudunmaf/gdm"
+    "${PROJECT_BINARY_DIR}/include/gdm/zudunmaf_version.h")
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/code/gdm"
     DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/zudunmaf"
+    COMPONENT Development
     FILES_MATCHING
     REGEX "/gdm_qt\\.h$"
     REGEX "/(attr_records|attr_roles|dml_attr_lwi|attr_filter_lwi|feature_attr_lwi)\\.h$"
@@ -15,24 +32,33 @@ install(DIRECTORY "${PROJECT_SOURCE_DIR}/code/gdm"
     PATTERN "editing" EXCLUDE)
 
 if(NOT ZUDUNMAF_QT_MAJOR EQUAL 4)
-    install(TARGETS zudunmaf_tvx EXPORT ZudunmafTvxTargets LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
-    install(TARGETS zudunmaf_gen zudunmaf_dml EXPORT ZudunmafServicesTargets
-        LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+    install_libraries(ZudunmafTvxTargets Standins zudunmaf_tvx)
+    install_libraries(ZudunmafServicesTargets Standins zudunmaf_gen zudunmaf_dml)
     install(DIRECTORY "${PROJECT_SOURCE_DIR}/standins/"
         DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/zudunmaf"
+        COMPONENT Development
         FILES_MATCHING PATTERN "*_control.h")
-    install(EXPORT ZudunmafTvxTargets NAMESPACE Zudunmaf:: DESTINATION "${zudunmaf_cmake_dir}")
-    install(EXPORT ZudunmafServicesTargets NAMESPACE Zudunmaf:: DESTINATION "${zudunmaf_cmake_dir}")
 endif()
-install(EXPORT ZudunmafHostTargets NAMESPACE Zudunmaf:: DESTINATION "${zudunmaf_cmake_dir}")
-install(EXPORT ZudunmafTargets NAMESPACE Zudunmaf:: DESTINATION "${zudunmaf_cmake_dir}")
 
 configure_package_config_file("${CMAKE_CURRENT_LIST_DIR}/ZudunmafConfig.cmake.in"
     "${PROJECT_BINARY_DIR}/ZudunmafConfig.cmake"
     INSTALL_DESTINATION "${zudunmaf_cmake_dir}")
 write_basic_package_version_file("${PROJECT_BINARY_DIR}/ZudunmafConfigVersion.cmake"
     COMPATIBILITY SameMajorVersion)
-install(FILES
+install_development_files("${zudunmaf_cmake_dir}"
     "${PROJECT_BINARY_DIR}/ZudunmafConfig.cmake"
-    "${PROJECT_BINARY_DIR}/ZudunmafConfigVersion.cmake"
-    DESTINATION "${zudunmaf_cmake_dir}")
+    "${PROJECT_BINARY_DIR}/ZudunmafConfigVersion.cmake")
+
+# zudunmaf.pc is the library for a host of one's own; zudunmaf-standins.pc adds the stand-ins.
+file(RELATIVE_PATH zudunmaf_prefix_from_pc "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig" "${CMAKE_INSTALL_PREFIX}")
+string(REGEX REPLACE "/$" "" zudunmaf_prefix_from_pc "${zudunmaf_prefix_from_pc}")
+set(zudunmaf_pc_requires "Qt${ZUDUNMAF_QT_MAJOR}Widgets")
+set(zudunmaf_pc_files zudunmaf.pc zudunmaf-standins.pc)
+if(ZUDUNMAF_QT_MAJOR EQUAL 4)
+    set(zudunmaf_pc_requires "QtGui")
+    set(zudunmaf_pc_files zudunmaf.pc)
+endif()
+foreach(file ${zudunmaf_pc_files})
+    configure_file("${CMAKE_CURRENT_LIST_DIR}/${file}.in" "${PROJECT_BINARY_DIR}/${file}" @ONLY)
+    install_development_files("${CMAKE_INSTALL_LIBDIR}/pkgconfig" "${PROJECT_BINARY_DIR}/${file}")
+endforeach()

@@ -8,6 +8,8 @@ endif()
 option(ZUDUNMAF_BUILD_TESTS "Build the tests" ${ZUDUNMAF_TOP_LEVEL})
 option(ZUDUNMAF_BUILD_DEMO "Build the demo host" ${ZUDUNMAF_TOP_LEVEL})
 option(ZUDUNMAF_BUILD_BENCHMARKS "Build the benchmarks" OFF)
+option(ZUDUNMAF_BUILD_FUZZERS "Build the fuzzers, which takes clang++" OFF)
+option(ZUDUNMAF_PACKAGES "Install what Debian packages need, and set CPack up" OFF)
 option(ZUDUNMAF_WERROR "Treat compiler warnings as errors" OFF)
 set(ZUDUNMAF_SANITIZE "" CACHE STRING "Sanitizers to build with, such as address,undefined")
 

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# Checks the sources without running them: format, include directions, catalogues, clang-tidy and clazy. Ends with
-# a nonzero status where one of them finds something.
+# Checks the sources without running them: format, include directions, catalogues, pages, the API reference, clang-tidy
+# and clazy. Ends with a nonzero status where one of them finds something.
 #   scripts/check.sh           all of them
-#   scripts/check.sh --quick   format, include directions and catalogues
+#   scripts/check.sh --quick   all but clang-tidy and clazy
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -33,6 +33,10 @@ fi
 
 echo "== catalogues"
 scripts/extract-messages.sh --check
+
+echo "== pages and API reference"
+scripts/check-docs.sh
+scripts/docs.sh
 [ "${1:-}" = --quick ] && exit 0
 
 echo "== clang-tidy"

@@ -1,0 +1,104 @@
+"""Describes the binary interface of one built library: exported symbols, host functions asked for, virtual tables and
+layouts. Runs inside gdb, which reads the layouts from the debug information:
+
+    gdb -batch -nx -x scripts/abi_description.py LIBRARY
+
+Texts are made to be compared line by line; nothing in them depends on addresses or on where the tree was built.
+"""
+
+import re
+import subprocess
+
+import gdb
+
+# What a base library keeps behind its opaque pointer is its own business.
+OWN = re.compile(r"\b(Zudunmaf::|Tvx[A-Z])(?!.*::Private\b)")
+TYPES = [
+    "DmlAttrDef", "DmlAttrValue", "DmlAttrType", "Zudunmaf::DmlAttrRole", "Zudunmaf::EntityMask",
+    "Zudunmaf::DmlAttrLWI", "Zudunmaf::DmlAttrLWI::ItemType_Enum",
+    "Zudunmaf::AttrFilterLWI", "Zudunmaf::FeatureAttrLWI",
+    "Zudunmaf::AttributesFilterDialog", "Zudunmaf::FeatureAttributesDialog",
+    "TvxDataItem", "TvxAttributesSelectionDialog", "TvxAttributesSelectionDialog::Buttons_Enum",
+]  # fmt: skip
+
+
+def run(*command):
+    return subprocess.run(command, check=True, capture_output=True, text=True).stdout.splitlines()
+
+
+def symbols(library, *options):
+    """Lines of nm as (value, size, kind, name)."""
+    for line in run("nm", "-DCS", *options, library):
+        match = re.match(r"([0-9a-f]+)? ?([0-9a-f]+)? *([A-Za-z]) (.+)", line.strip())
+        if match:
+            yield match.groups()
+
+
+def print_symbols(library):
+    print("== exported symbols")
+    # Whether a symbol is weak depends on optimisation, not on the interface.
+    for name in sorted({name for _, _, _, name in symbols(library, "--defined-only") if OWN.search(name)}):
+        print(name)
+    print("== host functions")
+    for name in sorted({name for _, _, _, name in symbols(library, "--undefined-only")}):
+        if re.match(r"(gen|dml)__", name):
+            print(name)
+
+
+def print_vtables(library):
+    """The slots in order: a function that moves breaks every class derived by a host."""
+    entries = {}
+    for line in run("readelf", "-rCW", library):
+        words = line.split(None, 4)
+        if len(words) == 5 and words[2] == "R_X86_64_64":
+            entries[int(words[0], 16)] = re.sub(r" \+ 0$", "", words[4])
+    for value, size, _, name in sorted(symbols(library, "--defined-only"), key=lambda symbol: symbol[3]):
+        if name.startswith("vtable for ") and OWN.search(name):
+            print(f"== {name}")
+            start = int(value, 16)
+            for offset in range(0, int(size, 16), 8):
+                print(offset, entries.get(start + offset, "-"))
+
+
+def print_fields(fields, base, indent):
+    for field in fields:
+        if not hasattr(field, "bitpos"):
+            continue  # a static member
+        offset = base + field.bitpos // 8
+        size = field.type.sizeof
+        if field.name and not field.is_base_class:
+            print(f"{indent}{offset} {size} {field.type} {field.name}")
+        elif field.is_base_class:
+            print(f"{indent}{offset} base {field.type}")
+        else:
+            kind = "union" if field.type.strip_typedefs().code == gdb.TYPE_CODE_UNION else "struct"
+            print(f"{indent}{offset} {size} {kind}")
+            print_fields(field.type.fields(), offset, indent + "  ")
+
+
+def print_types():
+    for name in TYPES:
+        try:
+            kind = gdb.lookup_type(name)
+        except gdb.error:
+            continue  # another library's
+        if not kind.fields():
+            continue
+        print(f"== {name}: {kind.sizeof} bytes")
+        if kind.code == gdb.TYPE_CODE_ENUM:
+            for field in kind.fields():
+                print(field.name, field.enumval)
+        else:
+            print_fields(kind.fields(), 0, "")
+
+
+def main():
+    library = gdb.current_progspace().filename
+    dynamic = run("readelf", "-dW", library)
+    print(*(re.sub(r".*\[(.*)\].*", r"soname \1", line) for line in dynamic if "(SONAME)" in line))
+    print_symbols(library)
+    print_vtables(library)
+    print_types()
+
+
+main()

@@ -1,0 +1,11 @@
+#!/usr/bin/env bash
+# Writes the API reference of the installed headers to build/docs/html. Fails where a public class, operation or
+# constant has no comment, or a comment names what there is not.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. scripts/packages.sh
+
+install_packages doxygen
+mkdir -p build/docs
+doxygen docs/Doxyfile
+echo "build/docs/html/index.html"

@@ -1,0 +1,45 @@
+#!/usr/bin/env bash
+# Builds the Debian packages for one version of Qt in build/qtN-package/packages and has lintian read them: what it says
+# fails unless packaging/overrides names it with a reason. --try installs them on this machine, runs the demo and
+# removes them again; it needs root.
+#   scripts/packages-deb.sh [6|5] [--try]
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. scripts/packages.sh
+
+major=6
+try=
+for argument in "$@"; do
+    case "$argument" in
+        6 | 5) major=$argument ;;
+        --try) try=yes ;;
+        *)
+            echo "usage: scripts/packages-deb.sh [6|5] [--try]" >&2
+            exit 2
+            ;;
+    esac
+done
+
+# shellcheck disable=SC2046
+install_packages $(build_packages "$major") dpkg-dev file fakeroot lintian
+tree="build/qt$major-package"
+rm -rf "$tree/packages"
+cmake --preset "qt$major-package" >/dev/null
+cmake --build --preset "qt$major-package" --target package
+packages=("$tree"/packages/*.deb)
+
+echo "== lintian"
+as_user=()
+[ "$(id -u)" -ne 0 ] || as_user=(--allow-root)
+lintian "${as_user[@]}" --tag-display-limit 0 --fail-on error,warning "${packages[@]}"
+
+[ -n "$try" ] || exit 0
+echo "== try"
+as_root=()
+[ "$(id -u)" -eq 0 ] || as_root=(sudo)
+mapfile -t names < <(for package in "${packages[@]}"; do dpkg-deb --field "$package" Package; done)
+pictures=$(mktemp -d)
+trap '"${as_root[@]}" dpkg --purge "${names[@]}" >/dev/null; rm -rf "$pictures"' EXIT
+"${as_root[@]}" dpkg --install "${packages[@]}" >/dev/null
+QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 zudunmaf-demo filter --walk "$pictures"
+pkg-config --print-errors --exists "zudunmaf-standins"
