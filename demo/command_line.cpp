@@ -41,6 +41,7 @@ CommandLine::CommandLine()
     m_parser.addPositionalArgument(latin("dialog"), latin("filter or assign."), latin("filter|assign"));
     for (const TextOption &option : textOptions)
         m_parser.addOption({latin(option.name), latin(option.description), latin(option.placeholder)});
+    m_parser.addOption({latin("dark"), latin("Show the dialog in dark colours.")});
     m_parser.addOption({latin("accept"), latin("Press OK as soon as the dialog is shown; for scripts.")});
     m_parser.addOption({{latin("h"), latin("help")}, latin("Show this help.")});
     m_parser.addVersionOption();
@@ -94,6 +95,7 @@ void CommandLine::takeTexts()
     m_options.filterText = m_parser.value(latin("filter"));
     m_options.startFile = m_parser.value(latin("start"));
     m_options.walkDirectory = m_parser.value(latin("walk"));
+    m_options.dark = m_parser.isSet(latin("dark"));
     m_options.accept = m_parser.isSet(latin("accept"));
 }
 

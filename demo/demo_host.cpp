@@ -1,5 +1,6 @@
 #include "demo_host.h"
 
+#include "dark_colours.h"
 #include "dialog_widgets.h"
 #include "dml/dml_control.h"
 #include "gdm/dialogs/tvx_attributes_selection_dialog.h"
@@ -48,7 +49,7 @@ ExitCode DemoHost::run()
     if (!problem.isEmpty())
         return refuse(problem);
 
-    const std::unique_ptr<Task> task = Task::create(m_options.dialog, dml::loadedIds().first());
+    const std::unique_ptr<Task> task = Task::create(m_options.dialog, dml::loadedIds().constFirst());
     problem = prepare(*task);
     if (!problem.isEmpty())
         return refuse(problem);
@@ -61,6 +62,8 @@ ExitCode DemoHost::run()
 
 QString DemoHost::setUp()
 {
+    if (m_options.dark)
+        useDarkColours();
     if (!m_options.language.isEmpty())
         speakLanguage();
     const QString problem = readConfiguration();

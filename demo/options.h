@@ -18,6 +18,7 @@ struct Options {
     QString startFile;
     QString walkDirectory; ///< Not empty: the program itself works the dialog.
     int units = -1;        ///< Code of the display units, -1 for none.
+    bool dark = false;     ///< Light text on a dark ground, whatever the desktop says.
     bool accept = false;   ///< OK is pressed as soon as the dialog is shown.
 
     /// Whether somebody has to sit before the screen.

@@ -38,6 +38,7 @@ QString StartRows::read(const QString &fileName)
 QList<QTableWidgetItem *> StartRows::items() const
 {
     QList<QTableWidgetItem *> items;
+    items.reserve(int(m_items.size()));
     for (const std::unique_ptr<DmlAttrLWI> &item : m_items)
         items.append(item.get());
     return items;

@@ -78,6 +78,7 @@ template <size_t Length>
 QString joinWords(const Word (&words)[Length])
 {
     QStringList texts;
+    texts.reserve(int(Length));
     for (const Word &word : words)
         texts.append(QLatin1String(word.text));
     return texts.join(QStringLiteral(", "));
@@ -85,8 +86,10 @@ QString joinWords(const Word (&words)[Length])
 
 QString joinKnownUnits()
 {
+    const QVector<gen::UnitInfo> units = gen::units();
     QStringList texts;
-    for (const gen::UnitInfo &unit : gen::units())
+    texts.reserve(units.size());
+    for (const gen::UnitInfo &unit : units)
         texts.append(unit.text);
     return texts.join(QStringLiteral(", "));
 }

@@ -24,6 +24,8 @@ namespace
 {
 
 constexpr int MinimumRows = 4;
+/// What both delegates add to the height of a line.
+constexpr int DelegateMargin = 4;
 
 QLocale plainNumbers()
 {
@@ -74,6 +76,7 @@ void AttributeTable::setUpHeaders()
     verticalHeader()->hide();
     verticalHeader()->setMinimumSectionSize(1);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    fixRowHeight();
 
     QHeaderView *header = horizontalHeader();
     header->setHighlightSections(false);

@@ -123,6 +123,9 @@ void SelectionWidgets::createButtons(QDialog *dialog)
 
     buttonBox = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, dialog);
     buttonBox->setObjectName(QLatin1String("buttonBox"));
+    // Qt's own texts have no letter to press.
+    buttonBox->button(QDialogButtonBox::Ok)->setText(textOf(texts::Ok));
+    buttonBox->button(QDialogButtonBox::Cancel)->setText(textOf(texts::Cancel));
     const auto ends = buttonBox->buttons();
     for (QAbstractButton *end : ends)
         end->setFocusPolicy(Qt::TabFocus);

@@ -32,6 +32,8 @@ constexpr char UndoHint[] = "@$@#tvx@$@#GENERAL@$@#15@$@#Bring the rows removed 
 constexpr char ClearAll[] = "@$@#tvx@$@#GENERAL@$@#16@$@#Clear a&ll";
 constexpr char ClearAllHint[] =
     "@$@#tvx@$@#GENERAL@$@#17@$@#Take every chosen row away; Undo brings them back";
+constexpr char Ok[] = "@$@#tvx@$@#GENERAL@$@#18@$@#&OK";
+constexpr char Cancel[] = "@$@#tvx@$@#GENERAL@$@#19@$@#&Cancel";
 
 constexpr char NoDictionary[] = "@$@#tvx@$@#GENERAL@$@#20@$@#There is no attribute dictionary.";
 constexpr char NothingMatches[] = "@$@#tvx@$@#GENERAL@$@#21@$@#Nothing to choose from here. Clear the "

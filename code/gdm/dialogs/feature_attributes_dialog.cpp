@@ -166,7 +166,9 @@ void FeatureAttributesDialog::contextMenu_triggered(QAction *action)
         for (QTableWidgetItem *item : items) {
             FeatureAttrLWI *attribute = dynamic_cast<FeatureAttrLWI *>(item);
             const DmlAttrDef *definition = attribute ? definitionIn(attribute->dmlAttribute()) : nullptr;
-            const QVariant value = definition ? defaultValue(*definition) : QVariant();
+            if (!definition)
+                continue;
+            const QVariant value = defaultValue(*definition);
             if (value.isValid())
                 attribute->setAttrValue(value);
         }

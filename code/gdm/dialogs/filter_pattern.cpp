@@ -77,9 +77,9 @@ bool FilterPattern::matches(const char *label) const
 /// star takes one more character: no earlier star can do better, so there is nothing else to come back to.
 bool FilterPattern::matchesDirectly(const char *label) const
 {
-    const char *pattern = m_lowered.constData();
-    const char *afterStar = nullptr;
-    const char *starEnd = nullptr;
+    const char *pattern = m_lowered.constData() + 1;
+    const char *afterStar = pattern;
+    const char *starEnd = label;
     while (*label) {
         if (*pattern == '*') {
             afterStar = ++pattern;

@@ -1,0 +1,313 @@
+#include "contract_test.h"
+
+#include <QMenu>
+
+using namespace Zudunmaf;
+
+/// Both dialogs on a foreign base. Every test runs for the one and for the other.
+class DialogsTest : public ContractTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase_data()
+    {
+        QTest::addColumn<bool>("feature");
+        QTest::newRow("filter") << false;
+        QTest::newRow("feature") << true;
+    }
+    void init()
+    {
+        ContractTest::init();
+        QFETCH_GLOBAL(bool, feature);
+        m_feature = feature;
+        host().mask = feature ? int(EntityFeature) : -1;
+    }
+
+    void construction()
+    {
+        const FeatureAttributesDialog feature(-7, QApplication::activeWindow(), Qt::Tool);
+        QVERIFY(feature.windowTitle() == "Assign Attributes" && feature.windowFlags() & Qt::Tool);
+        QVERIFY(AttributesFilterDialog().windowTitle().isEmpty());
+        QCOMPARE(host().called("base ").join(' '), QString("base -7 base -1"));
+        host().dictionary << &integer("width", 5, 9, 7);
+        host().entities.clear();
+        host().calls.clear();
+        const QMetaObject &meta = *make()->metaObject();
+        QVERIFY(meta.superClass() == &TvxAttributesSelectionDialog::staticMetaObject);
+        QCOMPARE(meta.method(meta.methodOffset()).methodSignature(), "contextMenu_triggered(QAction*)");
+        QString keys, walk(m_feature ? "next 3 1 40000000" : "next 3 1 ffffffff");
+        for (const QString &call : host().called("nls "))
+            keys += call.section("@$@#", 3, 3) + ' ';
+        QCOMPARE(keys,
+                 QString(m_feature ? "1303 1318 1358 1287 1289 1277 1278 "
+                                   : "992 993 994 995 996 997 998 999 1000 1015 1055 976 978 967 968 "));
+        const QString expected =
+            "base 3, fillEntityList %1, getEntityDID, %2, %2, fillGroupsList, getEntityDID, "
+            "cfg edt_disp_attr_by_prompt, cfg edt_show_obsolete_attrs, getSelectedEntityMask, "
+            "getSelectedGroupName, getUserFilterText, getEntityDID, next 3 1 ffffffff, cmp Board Obsolete, "
+            "match width *, displayUnits, getEntityDID, next 3 1 ffffffff, fillAttributeList, "
+            "setItemDelegate, connectSignal2Slots, setCustomContextMenu, %3setHeaderTitle 0 Name, "
+            "setHeaderTitle 1 %4";
+        const QString pixmaps(m_feature ? "setButtonPixmap 0 Add.ico, setButtonPixmap 1 Delete.ico, " : "");
+        QCOMPARE(host().calls.filter(QRegularExpression("^(?!nls)")).join(", "),
+                 expected.arg(m_feature ? "1" : "9", walk, pixmaps, m_feature ? "Value" : "Condition"));
+        QCOMPARE(host().entities.join(", "),
+                 QString(m_feature ? "Feature 1073741824 int 0"
+                                   : "Component 536870912 int 0, Feature 1073741824 int 0, Layer 8 int 0, "
+                                     "Job 1 int 0, Step 2 int 0, Net 268435456 int 0, Symbol 4 int 0, "
+                                     "Wheel 64 int 0, All Entities 4294967295 uint 0"));
+    }
+
+    void groups()
+    {
+        translate("1015", "1318", "alle");
+        host().dictionary << host().dictionary << &definition(9, "a", "A", "alle");
+        for (int did : {-1, -2, 0}) { // -2 walks the groups, and no attributes
+            host().did = did;
+            host().group = "alle";
+            makeWithSome();
+            QCOMPARE(host().called("fillGroupsList").size(), did + 1 ? 1 + (did == 0) : 0);
+            QCOMPARE(host().called("fillAttributeList").size(), int(did == 0));
+        }
+        const QString found = "alle|Board|board|OBSOLETE|Obsoletes";
+        QCOMPARE(host().groups.join('|'), m_feature ? found : found + '|');
+    }
+
+    void offer()
+    {
+        const auto made = makeWithSome();
+        const auto offered = [&made](const char *group, const QString &text) {
+            host().group = group;
+            host().text = text;
+            host().calls.clear();
+            made->setDisplayUnits(2);
+            return rows();
+        };
+        QCOMPARE(rows(), QString(m_feature ? "width Layer_width older" : "width Layer_width older net"));
+        QCOMPARE(offered("BOARD", ""), QString("width Layer_width"));
+        QCOMPARE(offered("all groups", ""), QString());
+        QCOMPARE(host().called("match"), QStringList()); // mask, group and obsolete come before the text
+        QCOMPARE(offered("All Groups", "older"), QString("older"));
+        QCOMPARE(offered("All Groups", QString("ü").repeated(50)), QString());
+        QCOMPARE(host().called("match").first(), "match width " + QString("ü").repeated(32));
+        host().showObsolete = host().byPrompt = true;
+        QCOMPARE(offered("All Groups", "host:Breite"), QString("width old"));
+        QCOMPARE(host().called("prompt").first(), QString("prompt width Breite"));
+        DmlAttrLWI *item = dynamic_cast<DmlAttrLWI *>(host().top->item(0, 1));
+        QVERIFY(item->displayPrompt() && item->displayValue() && item->itemType() == m_feature + 1);
+        QCOMPARE(item->displayUnits(), m_feature ? 2 : -1);
+        host().mask = 1;
+        translate("1055", "1358", "ä");
+        QCOMPARE(offered("All Groups", ""), QString());
+        QCOMPARE(offered("ä", ""), QString("Layer_width older"));
+    }
+
+    void visibleRows()
+    {
+        host().showObsolete = host().shuffle = true;
+        const auto made = makeWithSome();
+        const QString all = rows();
+        const auto shown = [&made](const char *group, const QString &text) {
+            host().showObsolete = false; // of no account any more
+            host().group = group;
+            host().text = text;
+            host().calls.clear();
+            made->filterAttributeList();
+            return rows(true);
+        };
+        QCOMPARE(shown("All Groups", ""), all);
+        QCOMPARE(host().called("getTopListItems").join(' ') + host().calls.last(),
+                 QString("getTopListItems 0setFirstVisibleItemAsCurrent"));
+        QCOMPARE(shown("Board", ""), QString("width"));
+        QCOMPARE(shown("OBSOLETE", ""), QString("old"));
+        QCOMPARE(shown("All Groups", "WIDTH"), QString("width Layer_width"));
+        host().byPrompt = true;
+        QCOMPARE(shown("All Groups", "breite"), QString("width old"));
+        // Chosen attributes are known by their names all the same, and on offer again until the next pass.
+        appendRow(host().chosen, *host().top->item(0, 1));
+        appendRow(host().chosen, *newItem(!m_feature, pointer(host().dictionary.at(2))));
+        QCOMPARE(shown("All Groups", "breite"), QString(m_feature ? "old" : "width old"));
+        host().mask = 8;
+        made->setDisplayUnits(1);
+        QCOMPARE(rows(true), QString());
+        translate("1233", "1524", "ä");
+        host().text.clear();
+        made->setDisplayUnits(1);
+        QCOMPARE(rows(true), QString("width older"));
+        QCOMPARE(shown("All Groups", ""), QString());
+        QCOMPARE(shown("ä", ""), QString(m_feature ? "older" : "width older"));
+    }
+
+    void rowsOfOtherKindsStay()
+    {
+        const auto made = make();
+        appendRow(host().top, *newItem(m_feature, QVariant()));
+        appendRow(host().top, *newItem(m_feature, pointer(nullptr)));
+        appendRow(host().top, *newItem(!m_feature, pointer(&definition(9, "odd"))));
+        appendRow(host().top, QTableWidgetItem());
+        host().mask = 0;
+        made->filterAttributeList();
+        QCOMPARE(host().called("setTopViewRowsVisiblity"), QStringList());
+    }
+
+    void faults()
+    {
+        host().dictionary = eachType();
+        auto made = make();
+        const int whole = host().fallible, held = int(host().memory.size());
+        const QString good = host().state();
+        QSet<QString> places;
+        const auto isReportedOnce = [&places](int k, const auto &step) {
+            host().failStatus = k % 2 ? -1 : 256;
+            host().failAt = host().fallible + k;
+            host().calls.clear();
+            host().reports.clear();
+            step();
+            host().failAt = 0;
+            places << host().reports.join(' ');
+            return QRegularExpression("^code/gdm/\\S+ [1-9]\\d*$").match(host().reports.join(' ')).hasMatch();
+        };
+        for (int k = 1; k <= whole; ++k) {
+            made.reset();
+            host().entities.clear();
+            host().groups.clear();
+            QVERIFY(isReportedOnce(k, [&] { made = make(); }));
+            QCOMPARE(host().called("fill").size(), 2); // entities, and the one that did not fail
+            QCOMPARE(host().groups.isEmpty(), !rows().isEmpty());
+            QCOMPARE(host().called("setHeaderTitle").size(), 2);
+            host().entities.clear();
+            made->buildInitialLists();
+            QCOMPARE(host().state(), good);
+        }
+        for (int k = 0; k <= int(host().dictionary.size()) + 3; ++k) {
+            host().top->setRowHidden(2, true);
+            host().top->setCurrentCell(3, 1);
+            const QString before = host().state();
+            QVERIFY(isReportedOnce(qMax(k, 1),
+                                   [&] { k ? made->setDisplayUnits(2) : made->filterAttributeList(); }));
+            QCOMPARE(host().state(), before);
+            QCOMPARE(int(host().memory.size()), held);
+        }
+        made->filterAttributeList();
+        QCOMPARE(rows(true), QString("plated note colour width depth odd"));
+        QCOMPARE(int(places.size()), 5); // groups, two keys and attributes of a fill, the key of a pass
+    }
+
+    void menu()
+    {
+        const auto made = make();
+        const QList<QAction *> actions = host().menu->actions();
+        QString offered;
+        for (const QAction *action : actions)
+            offered += action->text() + action->data().toString();
+        QCOMPARE(offered, QString(m_feature ? "Edit attribute value1Set default value2"
+                                            : "Set Condition1Clear Condition2"));
+        const QByteArray set(224, 0x11);
+        const QVariant held = m_feature ? QVariant(1.5f) : pointer(set.constData());
+        std::vector<std::unique_ptr<DmlAttrLWI>> items;
+        QTableWidgetItem stranger;
+        if (m_feature)
+            host().menuItems << &stranger;
+        host().dictionary = eachType() << nullptr;
+        for (const DmlAttrDef *attribute : host().dictionary) {
+            items.push_back(newItem(m_feature, pointer(attribute)));
+            items.back()->setAttrValue(held);
+            host().menuItems << items.back().get();
+        }
+        QMetaObject::invokeMethod(made.get(), "contextMenu_triggered", Q_ARG(QAction *, nullptr));
+        host().menu->addAction("other")->setData(3);
+        host().menu->actions().last()->trigger();
+        QCOMPARE(host().called("edit"), QStringList());
+        actions[0]->trigger();
+        QCOMPARE(host().called("edit"), QStringList("editCurrentItem"));
+        actions[1]->trigger();
+        for (const auto &item : items) {
+            const auto fresh = newItem(m_feature, item->dmlAttribute());
+            if (!item->dmlAttribute().value<void *>() || (m_feature && item->getDmlAttrType() == 9))
+                fresh->setAttrValue(held);
+            QCOMPARE(item->attrValue().userType(), fresh->attrValue().userType());
+            QVERIFY(m_feature ? item->attrValue() == fresh->attrValue() : bytes(*item) == bytes(*fresh));
+        }
+    }
+
+    void conditionLines()
+    {
+        AttributesFilterDialog made;
+        const std::unique_ptr<DmlAttrLWI> fresh(made.createNewItem());
+        QVERIFY(dynamic_cast<AttrFilterLWI *>(fresh.get()) && !fresh->dmlAttribute().isValid());
+        fresh->setDmlAttribute(pointer(&integer("width", 5, 9, 7)));
+        appendRow(host().chosen, *fresh);
+        appendRow(host().chosen, QTableWidgetItem());
+        appendRow(host().chosen, *newItem(true, fresh->dmlAttribute()));
+        record(*fresh).isSet = 1;
+        appendRow(host().chosen, *fresh);
+        static_cast<DmlAttrLWI *>(appendRow(host().chosen, *fresh))->setDisplayValue(false);
+        QCOMPARE(made.getFiltersAsStringList().join('|'), QString("width|5 <= width <= 9|"));
+    }
+
+    void hooks()
+    {
+        const auto made = makeWithSome();
+        const auto other = newItem(!m_feature, pointer(host().dictionary.first()));
+        const auto unlisted = newItem(m_feature, pointer(&definition(9, "unlisted")));
+        host().calls.clear();
+        for (QTableWidgetItem *item : QList<QTableWidgetItem *>{nullptr, other.get(), unlisted.get()})
+            made->removeButtonClickedCB(item);
+        made->addButtonClickedCB(nullptr);
+        made->addButtonClickedCB(host().top->item(1, 1));
+        const std::unique_ptr<QTableWidgetItem> chosen(host().top->item(1, 1)->clone());
+        made->removeButtonClickedCB(chosen.get());
+        const QString own =
+            "findItemByAttrName unlisted, setTopViewRowsVisiblity 1 0, setFirstVisibleItemAsCurrent, "
+            "findItemByAttrName Layer_width, setTopViewRowsVisiblity 1 1, setTopViewCurrentItem 1";
+        QCOMPARE(host().calls.join(", ").remove(QRegularExpression("(add|remove)ButtonClickedCB,? ?")),
+                 m_feature ? own : QString()); // the filter dialog has the base's own
+    }
+
+private:
+    std::unique_ptr<TvxAttributesSelectionDialog> make() const
+    {
+        if (m_feature)
+            return std::make_unique<FeatureAttributesDialog>(3);
+        return std::make_unique<AttributesFilterDialog>(3);
+    }
+    std::unique_ptr<TvxAttributesSelectionDialog> makeWithSome()
+    {
+        host().dictionary << &definition(9, "width", "Breite", "Board", 0x40000008)
+                          << &definition(9, "Layer_width", "Lage", "board", 0x40000001)
+                          << &definition(9, "old", "Breite", "OBSOLETE", 0x40000000)
+                          << &definition(9, "older", "Alt", "Obsoletes", 0x7FFFFFFF)
+                          << &definition(9, "nowhere", "x", "Board", 0)
+                          << &definition(9, "net", "x", "", 0x10000000);
+        return make();
+    }
+    static std::unique_ptr<DmlAttrLWI> newItem(bool feature, const QVariant &definition)
+    {
+        std::unique_ptr<DmlAttrLWI> item;
+        feature ? item.reset(new FeatureAttrLWI) : item.reset(new AttrFilterLWI);
+        item->setDmlAttribute(definition);
+        return item;
+    }
+    /// The rows of the top view, or the visible ones of them, by name.
+    static QString rows(bool visibleOnly = false)
+    {
+        QStringList names;
+        for (int row = 0; row < host().top->rowCount(); ++row) {
+            if (!visibleOnly || !host().top->isRowHidden(row))
+                names << host().top->item(row, 1)->data(DmlAttrNameRole).toString();
+        }
+        return names.join(' ');
+    }
+    /// Translates "All Groups" at the one place of the dialog that has this number.
+    void translate(const char *filterNumber, const char *featureNumber, const char *text) const
+    {
+        const QByteArray number(m_feature ? featureNumber : filterNumber);
+        host().translations["@$@#gdm_qt@$@#GENERAL@$@#" + number + "@$@#All Groups"] = text;
+    }
+
+    bool m_feature = false;
+};
+
+QTEST_MAIN(DialogsTest)
+#include "tst_dialogs.moc"

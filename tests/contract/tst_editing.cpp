@@ -1,0 +1,252 @@
+#include "contract_test.h"
+
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QLineEdit>
+#include <QStandardItemModel>
+
+#include <cstddef>
+
+using namespace Zudunmaf;
+
+/// The delegate as a dialog hands it out, over the items of a real table. Editors are opened over column 0 of
+/// the last row and work on its item of column 1; no commit may go through the model.
+class EditingTest : public ContractTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        ContractTest::init();
+        m_dialog.reset(new AttributesFilterDialog);
+        host().calls.clear();
+    }
+    void cleanup()
+    {
+        m_dialog.reset();
+        ContractTest::cleanup();
+    }
+
+    void editorByKindAndType()
+    {
+        host().dictionary << &text("plain", "x") << eachType();
+        QString conditions, values;
+        for (const DmlAttrDef *attribute : host().dictionary) {
+            add<AttrFilterLWI>(*attribute);
+            conditions += nameOf(edit<QWidget>().get());
+            add<FeatureAttrLWI>(*attribute);
+            values += nameOf(edit<QWidget>().get());
+        }
+        QCOMPARE(conditions, QString("QLineEdit - QLineEdit QComboBox Zudunmaf::MinMaxIntEditor "
+                                     "Zudunmaf::MinMaxDoubleEditor - "));
+        QCOMPARE(values, QString("QLineEdit - QComboBox QComboBox QSpinBox QDoubleSpinBox - "));
+        QVERIFY(host().delegate->parent() == m_dialog.get());
+        const QSize plain = QStyledItemDelegate().sizeHint({}, index());
+        QCOMPARE(host().delegate->sizeHint({}, index()), plain + QSize(0, 4));
+    }
+
+    void noEditorWithoutAttribute()
+    {
+        FeatureAttrLWI none, null;
+        null.setDmlAttribute(pointer(nullptr));
+        QSpinBox box;
+        const QTableWidgetItem stranger;
+        for (const QTableWidgetItem *item : QList<const QTableWidgetItem *>{&stranger, &none, &null}) {
+            appendRow(host().chosen, *item);
+            QVERIFY(!edit<QWidget>());
+            commit(&box);
+            commit(nullptr);
+        }
+        const QStandardItemModel foreign(1, 2);
+        for (const QModelIndex &astray : {QModelIndex(), foreign.index(0, 1)})
+            QVERIFY(!host().delegate->createEditor(host().chosen, {}, astray));
+    }
+
+    void optionCondition()
+    {
+        const AttrFilterLWI *item = add<AttrFilterLWI>(option("colour", 0));
+        const auto box = edit<QComboBox>();
+        QVERIFY(!box->isEditable());
+        for (int index : {0, 2, -1}) { // opened on the first entry, though nothing was set
+            box->setCurrentIndex(index);
+            commit(box.get());
+            QCOMPARE(bytes(*item).left(20), bytesOf(0, int(DmlAttrOption), 0, int(index >= 0), index));
+            QCOMPARE(edit<QComboBox>()->currentIndex(), qMax(index, 0));
+            QCOMPARE(edit<QComboBox>()->count(), 3);
+        }
+    }
+
+    void textCondition()
+    {
+        const AttrFilterLWI *item = add<AttrFilterLWI>(text("note", "x", 3));
+        const auto line = edit<QLineEdit>();
+        for (const QString &typed :
+             {QString(" "), QString("ü").repeated(150), QString(199, 'x'), QString()}) {
+            std::memset(record(*item).text, 0x55, 200);
+            line->setText(typed);
+            commit(line.get());
+            const QByteArray head = bytesOf(0, int(DmlAttrText), 0, int(!typed.isEmpty()));
+            QCOMPARE(bytes(*item), (head + typed.toUtf8().left(199)).leftJustified(224, '\0'));
+        }
+        qstrcpy(record(*item).text, "ü");
+        QCOMPARE(edit<QLineEdit>()->text(), QString("ü"));
+    }
+
+    void rangeConditions()
+    {
+        const AttrFilterLWI *width = add<AttrFilterLWI>(integer("width", 5, 9, 7));
+        record(*width).intLow = 1;
+        record(*width).intHigh = 99;
+        auto editor = edit<QWidget>();
+        commit(editor.get());
+        QCOMPARE(width->data(DmlAttrValueRole), QVariant(QPoint(5, 9)));
+        editor->findChild<QSpinBox *>("spinBox_From")->setValue(8);
+        editor->findChild<QSpinBox *>("spinBox_To")->setValue(6);
+        commit(editor.get());
+        QCOMPARE(width->data(DmlAttrValueRole), QVariant(QPoint(6, 8)));
+        for (int units : {-1, 0, 1, 2}) { // these codes play no part
+            AttrFilterLWI *depth = add<AttrFilterLWI>(real("depth", -1, 9.5, 0));
+            depth->setDisplayUnits(units);
+            editor = edit<QWidget>();
+            QDoubleSpinBox *to = editor->findChild<QDoubleSpinBox *>("doubleSpinBox_To");
+            QCOMPARE(to->text(), QLocale().toString(9.5, 'f', 3));
+            editor->findChild<QDoubleSpinBox *>("doubleSpinBox_From")->setValue(7.1);
+            to->setValue(-0.3);
+            commit(editor.get());
+            QCOMPARE(depth->data(DmlAttrValueRole), QVariant(QPointF(double(-0.3f), double(7.1f))));
+        }
+        QCOMPARE(host().called("conv"), QStringList());
+    }
+
+    void untouchedValues()
+    {
+        const auto check = [this](const DmlAttrDef &attribute, const QVariant &held, const QVariant &stored) {
+            FeatureAttrLWI *item = add<FeatureAttrLWI>(attribute);
+            item->setAttrValue(held);
+            commit(edit<QWidget>().get());
+            QCOMPARE(item->attrValue(), stored);
+            QCOMPARE(item->attrValue().userType(), stored.userType());
+        };
+        const DmlAttrDef &note = text("note", nullptr), &choice = text("note", nullptr, 1);
+        check(integer("width", 5, 9, 7), 99, 9);
+        check(real("depth", 0, 9, 0), 1.23456f, 1.235);
+        check(note, QString(), "");
+        check(note, QString(300, 'x'), QString(300, 'x'));
+        check(choice, QString(), QString()); // an empty box leaves the value
+        check(choice, " pink ", " pink ");
+        check(choice, " red ", "red");
+        check(option("colour", -1), " deep green ", "deep green");
+        check(option("colour", -1), "Deep Green", "red");
+        check(option("colour", -1), QVariant(), QVariant());
+        QCOMPARE(host().called("conv"), QStringList());
+    }
+
+    void textWithChoices()
+    {
+        FeatureAttrLWI *item = add<FeatureAttrLWI>(text("note", "red", 1));
+        const auto box = edit<QComboBox>();
+        QVERIFY(box->currentIndex() == 0 && box->count() == 4);
+        for (int index : {0, -1}) {
+            box->setCurrentIndex(index);
+            box->setEditText("typed over " + QString::number(index));
+            commit(box.get());
+            QCOMPARE(item->attrValue().toString(), box->currentText());
+        }
+    }
+
+    void floatInDisplayUnits()
+    {
+        FeatureAttrLWI *item = add<FeatureAttrLWI>(real("depth", -1, 9, 2));
+        item->setDisplayUnits(2);
+        const auto box = edit<QDoubleSpinBox>();
+        QCOMPARE(box->text(), QLocale().toString(50.8, 'f', 3));
+        commit(box.get());
+        QCOMPARE(host().calls.join(", "), QString("convert_2 -1 1 2, convert_2 9 1 2, convert_2 2 1 2, "
+                                                  "convert null 1 2, convert_f 50.8 1 102"));
+        QCOMPARE(item->attrValue().userType(), int(QMetaType::Double));
+        QCOMPARE(item->attrValue().toFloat(), 2.0f);
+    }
+
+    void strayEditorLeavesTheItem()
+    {
+        QWidget widget;
+        QLineEdit line("stray");
+        for (const DmlAttrDef *attribute : eachType()) {
+            for (QWidget *stray : QList<QWidget *>{&widget, &line}) {
+                if (stray == &line && attribute->type == DmlAttrText)
+                    continue;
+                const AttrFilterLWI *condition = add<AttrFilterLWI>(*attribute);
+                const QByteArray primed = bytes(*condition);
+                load(stray);
+                commit(stray);
+                QCOMPARE(bytes(*condition), primed);
+                const FeatureAttrLWI *value = add<FeatureAttrLWI>(*attribute);
+                const QVariant held = value->attrValue();
+                load(stray);
+                commit(stray);
+                QCOMPARE(value->attrValue(), held);
+            }
+        }
+    }
+
+    void brokenRecords()
+    {
+        DmlAttrDef &choices = text("t", nullptr, 5), &options = option("o", 1), &negative = option("o", -7);
+        choices.optionList = options.optionList = nullptr;
+        negative.optionCount = -5;
+        QList<DmlAttrDef *> all{&choices, &options, &negative, &integer("i", 9, -9, 99), &definition(-7, "")};
+        all << &real("f", qQNaN(), qInf(), float(qQNaN()));
+        for (DmlAttrDef *broken : all) {
+            std::memset(reinterpret_cast<char *>(broken) + offsetof(DmlAttrDef, name), 'n', 65 + 65 + 66);
+            AttrFilterLWI *condition = add<AttrFilterLWI>(*broken);
+            commit(edit<QWidget>().get());
+            std::memset(static_cast<void *>(&record(*condition)), 't', 224);
+            condition->data(DmlAttrValueRole);
+            condition->toString();
+            FeatureAttrLWI *value = add<FeatureAttrLWI>(*broken);
+            value->setDisplayUnits(2);
+            commit(edit<QWidget>().get());
+            for (const DmlAttrLWI *item : QList<const DmlAttrLWI *>{condition, value})
+                QCOMPARE(item->data(137).toString() + item->data(138).toString(), QString(130, 'n'));
+            QVERIFY(value->data(Qt::ToolTipRole)
+                        .toString()
+                        .section('\n', 2, 2)
+                        .endsWith(": " + QString(66, 'n')));
+            value->valueAsString();
+        }
+    }
+
+private:
+    template <class Item>
+    static Item *add(const DmlAttrDef &definition)
+    {
+        Item item;
+        item.setDmlAttribute(pointer(&definition));
+        return static_cast<Item *>(appendRow(host().chosen, item));
+    }
+    static QModelIndex index() { return host().chosen->model()->index(host().chosen->rowCount() - 1, 0); }
+    template <class Editor>
+    static std::unique_ptr<Editor> edit()
+    {
+        QWidget *made = host().delegate->createEditor(host().chosen, {}, index());
+        load(made);
+        return std::unique_ptr<Editor>(static_cast<Editor *>(made));
+    }
+    static void load(QWidget *editor) { host().delegate->setEditorData(editor, index()); }
+    static void commit(QWidget *editor)
+    {
+        const QSignalSpy changes(host().chosen->model(), &QAbstractItemModel::dataChanged);
+        host().delegate->setModelData(editor, host().chosen->model(), index());
+        QCOMPARE(int(changes.count()), 0);
+    }
+    static QString nameOf(const QObject *made)
+    {
+        return QString(made ? made->metaObject()->className() : "-") + ' ';
+    }
+
+    std::unique_ptr<AttributesFilterDialog> m_dialog;
+};
+
+QTEST_MAIN(EditingTest)
+#include "tst_editing.moc"

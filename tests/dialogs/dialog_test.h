@@ -1,0 +1,108 @@
+#ifndef TESTS_DIALOGS_DIALOG_TEST_H
+#define TESTS_DIALOGS_DIALOG_TEST_H
+
+#include "gdm/dialogs/tvx_attributes_selection_dialog.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QtTest>
+
+#include <memory>
+
+/// A test over one of the two dialogs on the screen, driven as a user drives it: keys go to the window and
+/// find their widget by the focus, clicks by their place. Each function starts with the same dictionary and
+/// ends with no dialog, and with no Qt warning given. On offer are plated, note, colour, finish, width, depth,
+/// LongName, stackup (in the filter dialog alone) and pad_00 to pad_39.
+class DialogTest : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum Kind { Filter, Assign };
+    enum { Name = 0, Value = 1 };
+    static constexpr char LongName[] = "serial_number_that_has_a_name_of_sixty_four_letters_as_no_other";
+
+    /// A row of test data for both dialogs and each way.
+    static void addRows(std::initializer_list<const char *> ways = {""});
+    static Kind kind();
+    static QString way();
+    static QString pick(const char *inFilter, const char *inAssign);
+
+    /// Shows a dialog over dictionary `did` and waits until the keyboard is its.
+    bool open(Kind kind, int did = -1);
+    void create(Kind kind, int did = -1);
+    bool show();
+
+    void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
+    /// A tab is the Tab key.
+    void type(const QString &text) const;
+    /// Alt and the letter that the text marks; false where it marks none.
+    bool pressMnemonic(const QString &text) const;
+    void clickAt(const QWidget *widget, const QPoint &place, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
+                 Qt::MouseButton button = Qt::LeftButton) const;
+    void click(QWidget *widget) const { clickAt(widget, widget->rect().center()); }
+    void click(QTableWidget *table, const QString &attribute, int column = Name,
+               Qt::KeyboardModifiers modifiers = Qt::NoModifier,
+               Qt::MouseButton button = Qt::LeftButton) const;
+    void doubleClick(QTableWidget *table, const QString &attribute, int column = Name) const;
+    void clickHeader(const QTableWidget *table, int column) const;
+    void turnWheelOver(QWidget *widget) const;
+    void setFilter(const QString &text) const;
+    /// Takes the attributes over by clicks and Enter; the first chosen row is current then.
+    void choose(const QStringList &attributes) const;
+    /// Opens the editor of a chosen attribute by F2, types and presses Enter.
+    void enter(const QString &attribute, const QString &keys) const;
+
+    static int rowOf(const QTableWidget *table, const QString &attribute);
+    static QString nameAt(const QTableWidget *table, int row);
+    static QString currentName(const QTableWidget *table) { return nameAt(table, table->currentRow()); }
+    static QStringList visibleNames(const QTableWidget *table, bool selectedOnly = false);
+    static QStringList selectedNames(const QTableWidget *table) { return visibleNames(table, true); }
+    static QRect cellRect(const QTableWidget *table, const QString &attribute, int column);
+    QWidget *editor() const;
+    /// What the host reads of the chosen attributes: the lines of the filter dialog, the values of the other.
+    QStringList results() const;
+    QString resultOf(const QString &attribute) const { return results().value(rowOf(chosenList, attribute)); }
+    /// Every chosen record, byte by byte, or every chosen value.
+    QList<QByteArray> records() const;
+    /// What stands on the screen: nothing is painted anew for the purpose.
+    QImage screenshot(const QWidget *widget, const QRect &area) const;
+    QPushButton *standardButton(QDialogButtonBox::StandardButton which) const;
+    static QMenu *openMenu() { return qobject_cast<QMenu *>(QApplication::activePopupWidget()); }
+
+    std::unique_ptr<TvxAttributesSelectionDialog> dialog;
+    QComboBox *entityList, *groupList;
+    QLineEdit *filterText;
+    QTableWidget *topView, *chosenList;
+    QPushButton *addButton, *removeButton, *undoButton, *clearButton;
+    QLabel *offeredLabel, *chosenLabel, *description, *preview;
+    /// What happened, in order: "commit", "pass" of the filter, "+name" and "-name" of the hooks, "menu",
+    /// "accepted", "rejected".
+    QStringList events;
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+};
+
+/// main() of such a test: without a display unless one is asked for, and in English.
+#define DIALOG_TEST_MAIN(Test)                                                                               \
+    int main(int argc, char **argv)                                                                          \
+    {                                                                                                        \
+        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))                                                  \
+            qputenv("QT_QPA_PLATFORM", "offscreen");                                                         \
+        qputenv("LC_ALL", "C.UTF-8");                                                                        \
+        QApplication::setStyle(QStringLiteral("Fusion"));                                                    \
+        QApplication application(argc, argv);                                                                \
+        Test test;                                                                                           \
+        return QTest::qExec(&test, argc, argv);                                                              \
+    }
+
+#endif

@@ -1,0 +1,202 @@
+#include "dialog_test.h"
+
+#include "gdm/gdm_qt.h"
+#include "tvx/tvx_control.h"
+
+#include <QDrag>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QScrollBar>
+
+using namespace Zudunmaf;
+
+/// What goes between the two tables by other ways than the buttons, and what a rebuild does to them.
+class TransferTest : public DialogTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void rowsAreDragged_data() { addRows(); }
+    void rowsAreDragged()
+    {
+        QVERIFY(open(kind()));
+        click(topView, "note");
+        click(topView, "width", Name, Qt::ControlModifier);
+        drag(topView, "note", chosenList);
+        QCOMPARE(events, QStringList({"+note", "+width"}));
+        QCOMPARE(visibleNames(chosenList), QStringList({"note", "width"}));
+        QCOMPARE(visibleNames(topView).contains("note"), kind() == Filter);
+        drag(topView, "depth", topView);
+        drag(chosenList, "note", chosenList);
+        QCOMPARE(events.size(), 2);
+        click(chosenList, "width");
+        drag(chosenList, "width", topView);
+        QCOMPARE(events.mid(2), QStringList("-width"));
+        QVERIFY(visibleNames(topView).contains("width"));
+    }
+
+    void removedRowsComeBack_data() { addRows(); }
+    void removedRowsComeBack()
+    {
+        QVERIFY(open(kind()));
+        const QStringList names = {"note", "width", "depth", "finish"};
+        choose(names);
+        enter("note", "abc");
+        enter("width", pick("5\t9", "5"));
+        enter("depth", pick("1\t2", "1"));
+        const QList<QByteArray> entered = records();
+        click(chosenList, "width");
+        click(chosenList, "finish", Name, Qt::ControlModifier);
+        press(Qt::Key_Delete);
+        click(clearButton);
+        QVERIFY(chosenList->rowCount() == 0 && !QApplication::activeModalWidget());
+        events.clear();
+        press(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(events, QStringList({"+note", "+depth"}));
+        QCOMPARE(visibleNames(chosenList), QStringList({"note", "depth"}));
+        press(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(visibleNames(chosenList), names);
+        QCOMPARE(records(), entered);
+        QCOMPARE(selectedNames(chosenList), QStringList({"width", "finish"}));
+        QCOMPARE(visibleNames(topView).contains("width"), kind() == Filter);
+        QVERIFY(!undoButton->isEnabled());
+        // In a line of text the same keys take back what was typed.
+        click(removeButton);
+        setFilter("pad");
+        press(Qt::Key_Z, Qt::ControlModifier);
+        QVERIFY(filterText->text() != "pad");
+        QCOMPARE(chosenList->rowCount(), 2);
+    }
+
+    void secondRowOfAnAttribute_data() { addRows(); }
+    void secondRowOfAnAttribute()
+    {
+        QVERIFY(open(kind()));
+        choose({"width"});
+        enter("width", "5");
+        press(Qt::Key_Delete);
+        choose({"width"});
+        enter("width", "8");
+        press(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(results().join(';'), pick("5 <= width <= 100;8 <= width <= 100", "8"));
+    }
+
+    void hostHandsRowsIn_data() { addRows(); }
+    void hostHandsRowsIn()
+    {
+        create(kind());
+        const std::unique_ptr<QTableWidgetItem> item(dialog->findItemByAttrName("width")->clone());
+        auto &attribute = dynamic_cast<DmlAttrLWI &>(*item);
+        if (kind() == Filter) {
+            auto *condition = static_cast<DmlAttrValue *>(attribute.attrValue().value<void *>());
+            condition->isSet = 1;
+            condition->intLow = 3;
+        } else {
+            attribute.setAttrValue(33);
+        }
+        QVERIFY(tvx::addChosen(*dialog, *item));
+        QCOMPARE(tvx::addChosen(*dialog, *item), kind() == Filter);
+        QVERIFY(!tvx::addChosen(*dialog, QTableWidgetItem()));
+        QVERIFY(show());
+        QCOMPARE(results().join(';'), pick("3 <= width <= 100;3 <= width <= 100", "33"));
+        QVERIFY(!dialog->getChosenList().contains(item.get()) && !undoButton->isEnabled());
+        QVERIFY(filterText->hasFocus());
+        QCOMPARE(visibleNames(topView).contains("width"), kind() == Filter);
+        setFilter("wi");
+        QCOMPARE(visibleNames(topView).contains("width"), kind() == Filter);
+        enter("width", "4");
+        QCOMPARE(resultOf("width"), pick("4 <= width <= 100", "4"));
+    }
+
+    void changeOfUnitsKeepsTheUsersPlace_data() { addRows(); }
+    void changeOfUnitsKeepsTheUsersPlace()
+    {
+        QVERIFY(open(kind()));
+        choose({"depth", "note"});
+        enter("depth", "25.4");
+        const QList<QByteArray> before = records();
+        click(topView, "pad_25");
+        press(Qt::Key_Up);
+        const int scrolled = topView->verticalScrollBar()->value();
+        QVERIFY(scrolled > 0);
+        dialog->setDisplayUnits(0);
+        QCOMPARE(selectedNames(topView), QStringList("pad_24"));
+        QCOMPARE(currentName(topView), QString("pad_24"));
+        QCOMPARE(topView->verticalScrollBar()->value(), scrolled);
+        QVERIFY(topView->hasFocus());
+        QCOMPARE(visibleNames(chosenList), QStringList({"depth", "note"}));
+        QCOMPARE(records(), before);
+        // A row that is chosen from now on is edited in the new units.
+        click(clearButton);
+        choose({"depth"});
+        enter("depth", "2");
+        QCOMPARE(resultOf("depth"), pick("2.000 <= depth <= 2000.000", "2.000 inch"));
+        QVERIFY(kind() == Filter || records().first().startsWith("double50.79999"));
+    }
+
+    void narrowedFillIsMadeGood_data() { addRows({"text", "group", "entity"}); }
+    void narrowedFillIsMadeGood()
+    {
+        QVERIFY(open(kind()));
+        QStringList all = visibleNames(topView);
+        choose({"pad_01"});
+        const auto narrow = [&](bool narrowed) {
+            if (way() == "text")
+                filterText->setText(narrowed ? "pad" : "");
+            else if (way() == "group")
+                groupList->setCurrentText(narrowed ? "Pads" : "All Groups");
+            else
+                entityList->setCurrentIndex(narrowed ? 0 : entityList->count() - 1);
+        };
+        narrow(true);
+        dialog->setDisplayUnits(1);
+        QCOMPARE(topView->rowCount(), way() == "entity" ? 47 : 40);
+        narrow(false);
+        QCOMPARE(topView->rowCount(), int(all.size()));
+        if (kind() == Assign && way() != "entity")
+            all.removeOne("pad_01");
+        QCOMPARE(visibleNames(topView), all);
+        QCOMPARE(visibleNames(chosenList), QStringList("pad_01"));
+    }
+
+private:
+    /// Presses on a selected row of one table, moves, and lets go over the middle of the other. What the
+    /// table gives the platform to drag is dropped from here: not every platform drags at a test's word.
+    void drag(QTableWidget *from, const char *attribute, QTableWidget *to)
+    {
+        bool dropped = false;
+        const auto drop = [&] {
+            const auto *running = from->findChild<QDrag *>();
+            if (dropped || !running)
+                return false;
+            const QPoint place = to->viewport()->rect().center();
+            QDragEnterEvent enter(place, Qt::CopyAction, running->mimeData(), Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(to->viewport(), &enter);
+            QDropEvent event(place, Qt::CopyAction, running->mimeData(), Qt::LeftButton, Qt::NoModifier);
+            if (enter.isAccepted())
+                QCoreApplication::sendEvent(to->viewport(), &event);
+            return dropped = true;
+        };
+        // Where the drag has an event loop of its own, only a timer gets in.
+        QTimer::singleShot(100, this, [&] {
+            if (drop())
+                QDrag::cancel();
+        });
+        QWidget *area = from->viewport();
+        const QPoint start = cellRect(from, attribute, Name).center();
+        QTest::mousePress(area, Qt::LeftButton, Qt::NoModifier, start);
+        for (int step = 1; step < 4 && !dropped && !from->findChild<QDrag *>(); ++step) {
+            const QPoint place = start + QPoint(0, step * QApplication::startDragDistance());
+            QMouseEvent move(QEvent::MouseMove, place, area->mapToGlobal(place), Qt::NoButton, Qt::LeftButton,
+                             Qt::NoModifier);
+            QCoreApplication::sendEvent(area, &move);
+        }
+        drop();
+        QTest::mouseRelease(area, Qt::LeftButton, Qt::NoModifier, start);
+        QTest::qWait(120);
+        QVERIFY(dropped);
+    }
+};
+
+DIALOG_TEST_MAIN(TransferTest)
+#include "tst_transfer.moc"

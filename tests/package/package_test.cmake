@@ -1,0 +1,50 @@
+cmake_minimum_required(VERSION 3.16)
+
+function(run)
+    execute_process(COMMAND ${ARGN} RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE output)
+    if(NOT status EQUAL 0)
+        message(FATAL_ERROR "${ARGN}\nended with ${status}:\n${output}")
+    endif()
+    set(output "${output}" PARENT_SCOPE)
+endfunction()
+
+function(expect_line program line)
+    run(${program} ${ARGN})
+    if(NOT "\n${output}" MATCHES "\n${line}\n")
+        message(FATAL_ERROR "${program} printed no line \"${line}\" but:\n${output}")
+    endif()
+endfunction()
+
+file(REMOVE_RECURSE "${WORK}")
+run("${CMAKE_COMMAND}" --install "${BINARY}" --prefix "${WORK}/first")
+# Moved once, so that a path of the first place would show.
+file(RENAME "${WORK}/first" "${WORK}/prefix")
+
+set(flags "-DCMAKE_PREFIX_PATH=${WORK}/prefix" "-DZUDUNMAF_QT_MAJOR=${QT_MAJOR}")
+if(SANITIZE)
+    list(APPEND flags "-DCMAKE_CXX_FLAGS=-fsanitize=${SANITIZE}")
+endif()
+foreach(consumer tests/package/consumer examples/minimal_host)
+    get_filename_component(name "${consumer}" NAME)
+    run("${CMAKE_COMMAND}" -S "${SOURCE}/${consumer}" -B "${WORK}/${name}" -G "${GENERATOR}" ${flags})
+    run("${CMAKE_COMMAND}" --build "${WORK}/${name}")
+endforeach()
+
+# Without CMake: the flags of pkg-config and the compiler, with the stand-ins.
+file(GLOB_RECURSE pc_file "${WORK}/prefix/*/zudunmaf.pc")
+get_filename_component(pc_dir "${pc_file}" DIRECTORY)
+set(ENV{PKG_CONFIG_PATH} "${pc_dir}")
+run(pkg-config --cflags --libs zudunmaf-standins)
+separate_arguments(pc_flags UNIX_COMMAND "${output}")
+run(pkg-config --variable=libdir zudunmaf)
+string(STRIP "${output}" libdir)
+set(compile "${COMPILER}" -std=c++17 -fPIC -Wall -Werror)
+if(SANITIZE)
+    list(APPEND compile "-fsanitize=${SANITIZE}")
+endif()
+run(${compile} "${SOURCE}/tests/package/consumer/main.cpp" -o "${WORK}/pc_consumer" ${pc_flags}
+    "-Wl,-rpath,${libdir}")
+
+expect_line("${WORK}/consumer/consumer" "width")
+expect_line("${WORK}/pc_consumer" "width")
+expect_line("${WORK}/minimal_host/minimal_host" "5 <= width <= 9" --once)

@@ -1,0 +1,95 @@
+#include "gdm/host/gen_services.h"
+#include "gdm/host/message_keys.h"
+#include "gen/gen_control.h"
+
+#include <QtTest>
+
+#include <clocale>
+
+using namespace Zudunmaf;
+
+class TestGenMessages : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup()
+    {
+        gen::setLanguage(QString());
+        gen::setCatalogueDirectory(QString());
+        std::setlocale(LC_ALL, "C.UTF-8");
+    }
+
+    void withoutTranslation()
+    {
+        const char *const texts[][2] = {{keys::FilterHeaderName, "Name"},
+                                        {keys::TipIntegerRange, "range        : [%1..%2]"},
+                                        {"@$@#m@$@#S@$@#1@$@#a@$@#b", "a@$@#b"},
+                                        {"@$@#m@$@#S@$@#1@$@#", ""},
+                                        {"@$@#m@$@#S@$@#1", "@$@#m@$@#S@$@#1"},
+                                        {"Name", "Name"},
+                                        {"", ""},
+                                        {nullptr, ""}};
+        gen::setCatalogueDirectory("/nowhere");
+        for (const char *language : {"en", "xx", "de"}) {
+            gen::setLanguage(language);
+            for (const auto &[key, text] : texts)
+                QCOMPARE(gen__nls_nlst(key), text);
+        }
+    }
+
+    void german()
+    {
+        for (const char *locale : {"C", "C.UTF-8"}) {
+            for (const char *directory : {ZUDUNMAF_CATALOGUES, ""}) {
+                std::setlocale(LC_ALL, locale);
+                gen::setCatalogueDirectory(directory);
+                for (const char *language : {"de", "en", "xx:de", ""}) {
+                    gen::setLanguage(language);
+                    const char *expected = strstr(language, "de") ? "Bedingung löschen" : "Clear Condition";
+                    QCOMPARE(gen__nls_nlst(keys::FilterClearCondition), expected);
+                }
+                QCOMPARE(std::setlocale(LC_NUMERIC, nullptr), locale);
+            }
+        }
+    }
+
+    void germanDescriptionKeepsItsColumns()
+    {
+        gen::setLanguage("de");
+        for (const char *key :
+             {keys::TipInternalName, keys::TipDisplayName, keys::TipGroup, keys::TipBoolean, keys::TipText,
+              keys::TipTextDefault, keys::TipOption, keys::TipOptionDefault, keys::TipInteger,
+              keys::TipIntegerDefault, keys::TipIntegerRange, keys::TipFloat, keys::TipFloatDefault,
+              keys::TipFloatRange, keys::TipFloatUnits}) {
+            const QString text(gen__nls_nlst(key));
+            QVERIFY2(text != QString(key).section("@$@#", 4), key);
+            QCOMPARE(text.indexOf(": "), 13);
+        }
+    }
+
+    void languageOutlivesTheStartOfAnApplication()
+    {
+        qputenv("LC_ALL", "C");
+        gen::setLanguage("de");
+        int argc = 1;
+        char name[] = "tst", *argv[] = {name, nullptr};
+        QCoreApplication application(argc, argv);
+        QCOMPARE(gen__nls_nlst(keys::FilterHeaderCondition), "Bedingung");
+        qputenv("LC_ALL", "C.UTF-8");
+    }
+
+    void prompts()
+    {
+        gen::setLanguage("de");
+        QCOMPARE(gen__nls_nlsa_get_att_prompt("width", "Line width"), "Line width");
+        QCOMPARE(gen__nls_nlsa_get_att_prompt("width", ""), "width");
+        QCOMPARE(gen__nls_nlsa_get_att_prompt("width", nullptr), "width");
+        QCOMPARE(gen__nls_nlsa_get_att_prompt(nullptr, nullptr), "");
+        // Any text of the catalogue serves as a prompt that has a translation.
+        QCOMPARE(gen__nls_nlsa_get_att_prompt("width", keys::FilterHeaderCondition), "Bedingung");
+    }
+};
+
+QTEST_APPLESS_MAIN(TestGenMessages)
+#include "tst_gen_messages.moc"

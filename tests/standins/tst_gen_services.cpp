@@ -1,0 +1,214 @@
+#include "gdm/host/config_keys.h"
+#include "gdm/host/gen_services.h"
+#include "gen/gen_control.h"
+
+#include <QtTest>
+
+#include <cmath>
+#include <limits>
+
+using namespace Zudunmaf;
+using gen::UnitInfo;
+using gen::units;
+
+/// Comparing, configuration and units.
+class TestGenServices : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { gen::setConfigurationFile(QString()); }
+
+    void configuredValues()
+    {
+        for (const char *word : {"true", "TRUE", "yes", "On", "1", " true "})
+            check(QByteArray("edt_show_obsolete_attrs=") + word + "\n", 11);
+        for (const char *word : {"false", "False", "no", "OFF", "0"})
+            check(QByteArray("[General]\nedt_show_obsolete_attrs=") + word + "\n", 10);
+        for (const char *word : {"maybe", "2", "", "true, false", "truely"})
+            check(QByteArray("edt_show_obsolete_attrs=") + word + "\n", -1);
+        check("edt_disp_attr_by_prompt=true\n", 0);
+        check("", 0);
+        check("[edt_show_obsolete_attrs\ntrue\n", -1);
+    }
+
+    void configurationKeys()
+    {
+        QCOMPARE(read(keys::ShowObsolete), 0);
+        QCOMPARE(read(keys::DisplayByPrompt), 0);
+        QCOMPARE(read("edt_no_such_key"), -1);
+        QCOMPARE(read(nullptr), -1);
+        gen::setConfigurationFile(m_directory.path());
+        QCOMPARE(read(), -1);
+        gen::setConfigurationFile(m_directory.filePath("none.ini"));
+        QCOMPARE(read(), -1);
+    }
+
+    void configurationIsReadAnew()
+    {
+        const QString path = write("edt_show_obsolete_attrs=true\n");
+        gen::setConfigurationFile(path);
+        QCOMPARE(read(), 11);
+        write("edt_show_obsolete_attrs=false\n");
+        QCOMPARE(read(), 10);
+        write("[broken\nx\n");
+        QCOMPARE(read(), -1);
+        QVERIFY(QFile::remove(path));
+        QCOMPARE(read(), -1);
+        write("edt_show_obsolete_attrs=1\n");
+        QCOMPARE(read(), 11);
+    }
+
+    void ignoringCase()
+    {
+        QCOMPARE(gen__str_cmp_nc("OBSOLETE", "Obsolete"), 0);
+        QCOMPARE(gen__str_cmp_nc("", nullptr), 0);
+        QVERIFY(gen__str_cmp_nc("Obsolete parts", "Obsolete") != 0);
+        QVERIFY(gen__str_cmp_nc("Obs", "Obsolete") != 0);
+        QVERIFY(gen__str_cmp_nc(nullptr, "a") != 0);
+    }
+
+    void wildcards()
+    {
+        for (const QString row :
+             {"line_width WIDTH", "line_width l*w*h", "line_width n?_", "line_width ", " ", " *",
+              "line_width ??????????", "drill3 l[0-9]", "drill3 l[^0-9]", "dri3 [XR]I[1-3]", "a]b a[]]b",
+              "a-b [x-]b", "a\\b a\\b", "abab_abc ab?abc", "Überzug üBER", "aµb a?b", "a🔧b a?b"})
+            QVERIFY2(matches(row), qPrintable(row));
+        for (const QString row : {" ?", "line_width h*w", "line_width ???????????", "dri3 i[^0-9]", "a[b a[",
+                                  "a[]b []", "a[^]b [^]", "a🔧b a??b"})
+            QVERIFY2(!matches(row), qPrintable(row));
+        QVERIFY(gen__str_cmp_reg(nullptr, "*") && gen__str_cmp_reg("a", nullptr));
+        QVERIFY(!gen__str_cmp_reg(nullptr, "a"));
+    }
+
+    void manyStars()
+    {
+        // A matcher that tried every way to share the text out among the stars would not come back.
+        const QByteArray text(5000, 'a');
+        QVERIFY(!gen__str_cmp_reg(text.constData(), (QByteArray("a*").repeated(2000) + 'b').constData()));
+        QVERIFY(gen__str_cmp_reg(text.constData(), (QByteArray(20000, '*') + 'a').constData()));
+    }
+
+    void unitTextsReadBack()
+    {
+        QSet<QString> texts;
+        for (const UnitInfo &unit : units()) {
+            QVERIFY(!unit.text.isEmpty() && !unit.text.contains(' ') && !texts.contains(unit.text));
+            texts.insert(unit.text);
+            QCOMPARE(gen__torvex_cur_units_str(unit.code, -1), qPrintable(unit.text));
+            QCOMPARE(gen__torvex_get_str_units(qPrintable(unit.text)), unit.code);
+        }
+        for (const char *unknown : {"", "furlong", "MM", " mm", "mm ", static_cast<const char *>(nullptr)})
+            QCOMPARE(gen__torvex_get_str_units(unknown), -1);
+    }
+
+    void unitsConvert()
+    {
+        for (const QString row :
+             {"1 inch 25.4 mm", "1 mil 25.4 um", "-2.54 cm -1000 mil", "0 degC 32 degF", "32 degF 0 degC",
+              "273.15 K 0 degC", "212 degF 373.15 K", "4.7 kohm 4700 ohm", "180 deg 3.14159265 rad",
+              "2.2 Mohm 2.2e9 mohm", "100 nF 0.1 uF", "1 % 10000 ppm", "1.5 GHz 1500 MHz", "90 s 1.5 min"}) {
+            const QStringList parts = row.split(' ');
+            const int source = gen__torvex_get_str_units(qPrintable(parts[1]));
+            const int target = gen__torvex_get_str_units(qPrintable(parts[3]));
+            const float expected = parts[2].toFloat(), result = converted(parts[0].toFloat(), source, target);
+            QVERIFY2(std::fabs(result - expected) <= 1e-7f * std::fabs(expected), qPrintable(row));
+        }
+    }
+
+    void everyPairOfUnitsComesBack()
+    {
+        for (const UnitInfo &own : units()) {
+            for (const UnitInfo &display : units()) {
+                for (float size : {0.0f, 1e-6f, 0.1f, 25.4f, 99999.9f, 1e12f, 1e20f, Largest})
+                    QVERIFY2(comesBack(size, own, display) && comesBack(-size, own, display),
+                             qPrintable(own.text + " as " + display.text));
+            }
+        }
+    }
+
+    void codesOfNoUnit()
+    {
+        const int mm = gen__torvex_get_str_units("mm"), highest = std::numeric_limits<int>::max();
+        for (int code : {-1, -1 - highest, -2, highest, int(units().size())}) {
+            for (int other : {mm, code, -1, 1000}) {
+                QCOMPARE(converted(1.5f, code, other), 1.5f);
+                QCOMPARE(converted(1.5f, other, code), 1.5f);
+                QCOMPARE(stored(1.5f, code, other), 1.5f);
+                QCOMPARE(stored(1.5f, other, code), 1.5f);
+                QCOMPARE(gen__torvex_cur_units_str(code, other), "");
+            }
+            QCOMPARE(gen__torvex_cur_units_str(mm, code), "mm");
+        }
+    }
+
+private:
+    /// Of a text and a pattern with a blank in between.
+    static bool matches(const QString &row)
+    {
+        return gen__str_cmp_reg(qPrintable(row.section(' ', 0, 0)), qPrintable(row.section(' ', 1)));
+    }
+    /// A file of its own for each content, unless the name is given.
+    QString write(const QByteArray &content, const QString &name = "user.ini")
+    {
+        QFile file(m_directory.filePath(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+            qFatal("cannot write the test's configuration file");
+        return file.fileName();
+    }
+    /// 0 or 1 for the value, with 10 added where it came from the file; -1 for a failure.
+    static int read(const char *key = keys::ShowObsolete)
+    {
+        unsigned char value = 0xAA, origin = 0xAA;
+        return gen__cfg_get(key, &value, &origin) == 0 ? value + 10 * origin : -1;
+    }
+    /// Nor does a second look, with another file in between, find a broken file sound.
+    void check(const QByteArray &content, int expected)
+    {
+        const QString path = write(content, QString::number(++m_files));
+        for (const QString &file : {path, QString(), path}) {
+            gen::setConfigurationFile(file);
+            QVERIFY2(read() == (file.isEmpty() ? 0 : expected), content.constData());
+        }
+    }
+    static float converted(float value, int source, int target)
+    {
+        gen__torvex_units_convert_2(&value, source, target);
+        return value;
+    }
+    /// What an editor stores where it shows `value` under `displayUnits`.
+    static float stored(float value, int unitsClass, int displayUnits)
+    {
+        int code = unitsClass;
+        gen__torvex_units_convert(nullptr, &code, displayUnits);
+        gen__torvex_units_convert_f(&value, unitsClass, code);
+        return value;
+    }
+    /// Whether a value survives being shown: through an editor, and through its written unit.
+    static bool comesBack(float value, const UnitInfo &own, const UnitInfo &display)
+    {
+        const float shown = converted(value, own.code, display.code);
+        const QByteArray text = gen__torvex_cur_units_str(own.code, display.code);
+        const bool isShown = own.dimension == display.dimension;
+        if (text != (isShown ? display.text : own.text) || !std::isfinite(shown))
+            return false;
+        if (!isShown || own.code == display.code)
+            return shown == value && stored(shown, own.code, display.code) == value;
+        if (std::fabs(value) == Largest)
+            return (shown > 0) == (value > 0);
+        // What a shifted scale adds to a number takes the place of its last digits.
+        const float shift = own.dimension == "temperature" ? 460.0f : 0.0f;
+        const float tolerance = (std::fabs(value) + shift) * 2.4e-7f;
+        const float read = converted(shown, gen__torvex_get_str_units(text), own.code);
+        return std::fabs(stored(shown, own.code, display.code) - value) <= tolerance &&
+               std::fabs(read - value) <= tolerance;
+    }
+
+    static constexpr float Largest = std::numeric_limits<float>::max();
+    QTemporaryDir m_directory;
+    int m_files = 0;
+};
+
+QTEST_APPLESS_MAIN(TestGenServices)
+#include "tst_gen_services.moc"
