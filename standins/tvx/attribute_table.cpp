@@ -230,7 +230,8 @@ int AttributeTable::nextVisibleRow(int row, int step) const
 
 void AttributeTable::fixRowHeight()
 {
-    const int height = sizeHintForRow(0);
+    // Without a row there is nobody to ask, and Qt's own height is far from that of a row to come.
+    const int height = rowCount() > 0 ? sizeHintForRow(0) : fontMetrics().height() + DelegateMargin;
     if (height <= 0)
         return;
     verticalHeader()->setDefaultSectionSize(height);
