@@ -47,11 +47,19 @@ def print_symbols(library):
 
 def print_vtables(library):
     """The slots in order: a function that moves breaks every class derived by a host."""
+    # The compiler lays functions that do the same on one address: both names are told then.
+    named = {}
+    for value, _, _, name in symbols(library, "--defined-only"):
+        if value:
+            named.setdefault(int(value, 16), set()).add(name)
     entries = {}
     for line in run("readelf", "-rCW", library):
         words = line.split(None, 4)
         if len(words) == 5 and words[2] == "R_X86_64_64":
             entries[int(words[0], 16)] = re.sub(r" \+ 0$", "", words[4])
+        elif len(words) == 4 and words[2] == "R_X86_64_RELATIVE":
+            # A function that the library calls without a detour is referred to by its address.
+            entries[int(words[0], 16)] = " = ".join(sorted(named.get(int(words[3], 16), "-")))
     for value, size, _, name in sorted(symbols(library, "--defined-only"), key=lambda symbol: symbol[3]):
         if name.startswith("vtable for ") and OWN.search(name):
             print(f"== {name}")
