@@ -170,22 +170,21 @@ private Q_SLOTS:
 
     void strayEditorLeavesTheItem()
     {
+        const auto isLeftAlone = [](QWidget *stray, const DmlAttrLWI *item) {
+            const QByteArray primed = dynamic_cast<const AttrFilterLWI *>(item) ? bytes(*item) : QByteArray();
+            const QVariant held = item->attrValue();
+            load(stray);
+            commit(stray);
+            return item->attrValue() == held && (primed.isEmpty() || bytes(*item) == primed);
+        };
         QWidget widget;
         QLineEdit line("stray");
         for (const DmlAttrDef *attribute : eachType()) {
             for (QWidget *stray : QList<QWidget *>{&widget, &line}) {
                 if (stray == &line && attribute->type == DmlAttrText)
                     continue;
-                const AttrFilterLWI *condition = add<AttrFilterLWI>(*attribute);
-                const QByteArray primed = bytes(*condition);
-                load(stray);
-                commit(stray);
-                QCOMPARE(bytes(*condition), primed);
-                const FeatureAttrLWI *value = add<FeatureAttrLWI>(*attribute);
-                const QVariant held = value->attrValue();
-                load(stray);
-                commit(stray);
-                QCOMPARE(value->attrValue(), held);
+                QVERIFY(isLeftAlone(stray, add<AttrFilterLWI>(*attribute)));
+                QVERIFY(isLeftAlone(stray, add<FeatureAttrLWI>(*attribute)));
             }
         }
     }

@@ -35,12 +35,9 @@ private Q_SLOTS:
         for (const char *label : {"\\*ba", "\\a", "\\*a", "\\\\*a", "ba", "a*]b", "[a", "ab", "*", "5", ""})
             host().dictionary << &definition(9, label, label);
         AttributesFilterDialog dialog;
-        const QString stars(20, '*');
-        for (const QString text :
-             {"\\*a", "\\**a", "\\***a", "\\\\**a", "*\\*", "[\\**a]", "[#-**-a]", "[%a", "[%]b"})
-            compare(dialog, QString(text).replace('%', stars), false);
-        for (const QString text : {"\\%a", "[a]%b", "%[^b]%", "a%[]b]", "a[%", "]%b", "[^%]%"})
-            compare(dialog, QString(text).replace('%', stars), true);
+        for (const QString text : {"\\*a", "\\**a", "\\***a", "\\\\**a", "*\\*", "[\\**a]", "[#-**-a]", "[%a",
+                                   "[%]b", "\\%a", "[a]%b", "%[^b]%", "a%[]b]", "a[%", "]%b", "[^%]%"})
+            compare(dialog, QString(text).replace('%', QString(20, '*')), text.size() % 2);
     }
 
     void manyStarsEnd()

@@ -3,6 +3,7 @@
 #include "gdm/host/gen_services.h"
 #include "gdm/items/attr_records.h"
 #include "gdm/items/attr_roles.h"
+#include "json_table.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -34,25 +35,19 @@ QString names(int did, unsigned int mask = EntityAll)
     return all;
 }
 
-/// JSON that is written with apostrophes.
-QByteArray quoted(QByteArray json)
+QJsonObject flag(const char *name, const QJsonValue &entities = "all")
 {
-    return json.replace('\'', '"');
+    return {{"name", name}, {"type", "boolean"}, {"default", true}, {"entities", entities}};
 }
 
-/// A file of one dictionary, or of more where `attributes` closes the first.
-QByteArray file(int id, const QByteArray &attributes)
+/// A file of dictionaries with these attributes, numbered from `firstId`.
+QByteArray file(int firstId, const QList<QJsonArray> &dictionaries)
 {
-    return quoted("{'dictionaries': [{'id': " + QByteArray::number(id) + ", 'attributes': [" + attributes +
-                  "]}]}");
+    QJsonArray all;
+    for (const QJsonArray &attributes : dictionaries)
+        all << QJsonObject{{"id", firstId + int(all.size())}, {"attributes", attributes}};
+    return QJsonDocument(QJsonObject{{"dictionaries", all}}).toJson();
 }
-
-QByteArray flag(const QByteArray &name, const QByteArray &entities = "'all'")
-{
-    return "{'name': '" + name + "', 'type': 'boolean', 'default': true, 'entities': " + entities + "}";
-}
-
-const char NextDictionary[] = "]}, {'id': 2, 'attributes': [";
 
 /// All that a definition holds, as one text.
 QString written(const DmlAttrDef &record)
@@ -77,66 +72,6 @@ QString written(const DmlAttrDef &record)
     return (parts << gen__torvex_cur_units_str(record.unitsClass, -1)).join('|');
 }
 
-/// The same of one attribute of a file, or why it was refused.
-QString loaded(const QByteArray &attribute)
-{
-    QString error;
-    dml::unloadAll();
-    return dml::loadJson(file(3, "{" + attribute + "}"), "one", &error) ? written(*walk(3).constFirst())
-                                                                        : error;
-}
-
-// 65 bytes in 33 characters.
-#define LONG_TEXT "xµµµµµµµµµµµµµµµµµµµµµµµµµµµµµµµµ"
-
-/// Faults of a file, and what the message has to hold, each piece between bars.
-const char *const fileFaults[][2] = {
-    {"", "line 1, column 1: expected JSON"},
-    {"{\n 'ä': 1,\n  ]", "line 3, column 3: expected JSON"},
-    {"{'dictionaries': []}\n\n  x", "line 3, column 3|garbage"},
-    {"[]", "expected an object, found a list"},
-    {"{'dictionaries': [{}], 'more': 1}", "dictionaries, found 'more'"},
-    {"{}", "field 'dictionaries'|found nothing"},
-    {"{'dictionaries': []}", "field 'dictionaries'|at least one|found []"},
-    {"{'dictionaries': [5]}", "dictionary #1: expected an object, found 5"},
-    {"{'dictionaries': [{'id': -1, 'attributes': []}]}", "dictionary #1, field 'id'|from 0|found -1"},
-    {"{'dictionaries': [{'id': 1, 'attributes': [], 'x': 0}]}", "id, title, attributes|'x'"},
-    {"{'dictionaries': [{'id': 4, 'attributes': []}, {'id': 4, 'attributes': []}]}", "#2|of its own|found 4"},
-    {"{'dictionaries': [{'id': 4, 'attributes': [null]}]}", "attribute #1: expected an object, found null"},
-    {"{'dictionaries': [{'id': 4, 'attributes': []}, {'id': 8, 'attributes': []}]}",
-     "#2|'id'|not loaded yet"},
-};
-
-/// The same of the second attribute of a dictionary, which may give its name, type and entities anew: of a field that
-/// stands twice, the last counts.
-const char *const attributeFaults[][2] = {
-    {"'name': ''", "field 'name'|found ''"},
-    {"'name': '" LONG_TEXT "'", "field 'name'|1 to 64 bytes|found 'xµ"},
-    {"'prompt': '" LONG_TEXT "'", "'a', field 'prompt'|0 to 64 bytes"},
-    {"'group': 'g" LONG_TEXT "'", "'a', field 'group'|0 to 65 bytes"},
-    {"'name': 'first'", "'first', field 'name'|of its own"},
-    {"'name': 'a\\u0000b'", "field 'name'|without NUL"},
-    {"'default': 'a\\u0000b'", "field 'default'|without NUL, or null"},
-    {"'type': 'colour'", "'type'|boolean, text, option, integer, float, found 'colour'"},
-    {"'entities': 'layer'", "field 'entities'|a list or 'all', found 'layer'"},
-    {"'entities': ['net', 'board']", "'entities'|job, step|found 'board'"},
-    {"'entities': ['net', 'net']", "'entities'|each once|found 'net'"},
-    {"'min': 1", "'a': expected|choices, found 'min'"},
-    {"'type': 'boolean', 'default': 1", "'default': expected true or false, found 1"},
-    {"'choices': ['a', 2]", "field 'choices'|found 2"},
-    {"'type': 'option'", "field 'options'|at least one entry, found nothing"},
-    {"'type': 'option', 'options': ['b', 'c', 'b']", "'options'|each once, found 'b'"},
-    {"'type': 'option', 'options': ['b'], 'default': 'c'", "'default'|the options|found 'c'"},
-    {"'type': 'integer', 'min': 1, 'max': 2", "field 'default'|found nothing"},
-    {"'type': 'integer', 'min': 1.5, 'max': 2, 'default': 2", "'min'|whole number|found 1.5"},
-    {"'type': 'integer', 'min': 1, 'max': 2147483648, 'default': 2", "'max'|found 2147483648"},
-    {"'type': 'integer', 'min': 9, 'max': 5, 'default': 7", "'max'|'min', which is 9, found 5"},
-    {"'type': 'integer', 'min': 5, 'max': 9, 'default': 4", "'default'|from 5 to 9, found 4"},
-    {"'type': 'float', 'min': 0.2, 'max': 0.1, 'default': 0.1", "'max'|which is 0.2, found 0.1"},
-    {"'type': 'float', 'min': 0, 'max': 1e39, 'default': 0", "'max'|single precision"},
-    {"'type': 'float', 'min': 0, 'max': 1, 'default': 0, 'units': 'ell'", "'units'|mil|found 'ell'"},
-};
-
 } // namespace
 
 class TestDml : public QObject
@@ -146,54 +81,55 @@ class TestDml : public QObject
 private Q_SLOTS:
     void cleanup() { dml::unloadAll(); }
 
-    void records()
+    void attributesAreRead_data()
     {
-        QByteArray head = "'name': 'fitted', 'type': 'boolean', 'default': true, 'entities': ";
-        QCOMPARE(loaded(head + "['job', 'step', 'symbol', 'layer']"), QString("0|fitted|fitted||f|1|"));
-        QCOMPARE(loaded(head + "['wheel', 'net', 'component', 'feature']"),
-                 QString("0|fitted|fitted||70000040|1|"));
-        const QByteArray most = QByteArray("µ").repeated(32);
-        QCOMPARE(loaded("'type': 'text', 'entities': [], 'name': '" + most +
-                        "', 'prompt': '表面処理', 'group': 'g" + most +
-                        "', 'choices': ['tin', '', 'µm'], 'default': 'löten'"),
-                 QString("1|" + most + "|表面処理|g" + most + "|0|löten3|tin||µm|"));
-        QCOMPARE(loaded("'type': 'text', 'entities': [], 'name': 'n', 'default': null"),
-                 QString("1|n|n||0|none0|"));
-        head = "'name': 'color', 'type': 'option', 'entities': 'all', 'options': ['red', 'grün']";
-        QCOMPARE(loaded(head), QString("2|color|color||ffffffff|-1|red|grün|"));
-        QCOMPARE(loaded(head + ", 'default': 'grün'"), QString("2|color|color||ffffffff|1|red|grün|"));
-        QCOMPARE(loaded("'name': 'width', 'type': 'integer', 'entities': ['layer'], 'default': 7.0, "
-                        "'min': -2147483648, 'max': 2147483647"),
-                 QString("3|width|width||8|7 in -2147483648..2147483647|"));
-        // 0.7 is below 0.7 once it is single precision, and still at its limit.
-        head = "'name': 'gap', 'type': 'float', 'entities': [], 'default': 0.7, 'min': 0.7, 'max': 2.5";
-        QCOMPARE(loaded(head), QString("4|gap|gap||0|1 in 0.7..2.5|"));
-        QCOMPARE(loaded(head + ", 'units': 'mil'"), QString("4|gap|gap||0|1 in 0.7..2.5|mil"));
+        QTest::addColumn<QJsonObject>("attribute");
+        QTest::addColumn<QString>("reads");
+        for (const QJsonValue row : jsonTable("read_attributes.json")["attributes"].toArray())
+            QTest::newRow(qPrintable(row["case"].toString()))
+                << row["fields"].toObject() << row["reads"].toString();
+    }
+    void attributesAreRead()
+    {
+        QFETCH(QJsonObject, attribute);
+        QString error;
+        QVERIFY2(dml::loadJson(file(3, {QJsonArray{attribute}}), "one", &error), qPrintable(error));
+        QTEST(written(*walk(3).constFirst()), "reads");
     }
 
-    void refusals()
+    void wrongFilesAreRefused_data()
     {
-        QVERIFY(dml::loadJson(file(8, flag("kept")), "before"));
-        const Definitions before = walk(8);
-        const auto check = [&before](const QByteArray &json, QString pieces) {
-            QString error;
-            QVERIFY2(!dml::loadJson(json, "boards.json", &error), json.constData());
-            QVERIFY2(error.startsWith("boards.json: ") && !error.contains('\n'), qPrintable(error));
-            for (const QString &piece : pieces.replace('\'', '"').split('|'))
-                QVERIFY2(error.contains(piece), qPrintable(error + " lacks " + piece));
-            QVERIFY(dml::loadedIds() == QVector<int>{8} && walk(8) == before);
-        };
-        for (const auto &[json, pieces] : fileFaults)
-            check(quoted(json), pieces);
-        for (const auto &[fields, pieces] : attributeFaults) {
-            const QByteArray second =
-                QByteArray("{'name': 'a', 'entities': [], 'type': 'text', ") + fields + "}";
-            check(file(1, NextDictionary + flag("first") + "," + second),
-                  QString("dictionary #2, attribute #2|") + pieces);
+        QTest::addColumn<QByteArray>("json");
+        QTest::addColumn<QStringList>("says");
+        const QJsonObject table = jsonTable("refused_dictionaries.json");
+        for (const QJsonValue row : table["files"].toArray()) {
+            const QByteArray json = QJsonDocument::fromVariant(row["file"].toVariant()).toJson();
+            QTest::newRow(qPrintable(row["case"].toString()))
+                << (row["file"].isString() ? row["file"].toString().toUtf8() : json) << textsOf(row["says"]);
         }
-        for (const char *missing : {"name", "type", "entities"})
-            check(file(1, flag("first") + "," + flag("a").replace(QByteArray(missing) + "'", "group'")),
-                  QString("attribute #2|field '%1'|found nothing").arg(missing));
+        for (const QJsonValue row : table["attributes"].toArray()) {
+            QJsonObject attribute{{"name", "a"}, {"type", "text"}, {"entities", QJsonArray()}};
+            attribute.remove(row["without"].toString());
+            const QJsonObject fields = row["fields"].toObject();
+            for (auto field = fields.begin(); field != fields.end(); ++field)
+                attribute[field.key()] = field.value();
+            QTest::newRow(qPrintable(row["case"].toString()))
+                << file(1, {QJsonArray(), QJsonArray{flag("first"), attribute}})
+                << (textsOf(row["says"]) << "dictionary #2, attribute #2");
+        }
+    }
+    void wrongFilesAreRefused()
+    {
+        QFETCH(QByteArray, json);
+        QFETCH(QStringList, says);
+        QVERIFY(dml::loadJson(file(8, {QJsonArray{flag("kept")}}), "before"));
+        const Definitions before = walk(8);
+        QString error;
+        QVERIFY(!dml::loadJson(json, "boards.json", &error));
+        QVERIFY2(error.startsWith("boards.json: ") && !error.contains('\n'), qPrintable(error));
+        for (QString &piece : says)
+            QVERIFY2(error.contains(piece.replace('\'', '"')), qPrintable(error + " lacks " + piece));
+        QVERIFY(dml::loadedIds() == QVector<int>{8} && walk(8) == before);
     }
 
     void filesComeAndGo()
@@ -207,8 +143,7 @@ private Q_SLOTS:
 
         QFile json(path);
         QVERIFY(json.open(QIODevice::WriteOnly));
-        json.write("\xEF\xBB\xBF" +
-                   file(1, NextDictionary).replace(R"("id": 1)", R"("id": 1, "title": "Größe")"));
+        json.write("\xEF\xBB\xBF" + file(1, {{}, {}}).replace(R"("id": 1)", R"("id": 1, "title": "Größe")"));
         json.close();
         QVERIFY2(dml::loadFile(path, &error), qPrintable(error));
         QCOMPARE(dml::title(1), QString("Größe"));
@@ -219,19 +154,19 @@ private Q_SLOTS:
 
     void walksInOrderOfTheFile()
     {
-        const QByteArray first = flag("z", "['layer', 'net']") + "," + flag("a", "[]") + "," +
-                                 flag("m", "['net']") + "," + flag("b");
-        QVERIFY(dml::loadJson(file(0, first + NextDictionary + flag("other")), "two"));
+        const QJsonArray layer{"layer", "net"}, net{"net"};
+        const QJsonArray several{flag("z", layer), flag("a", QJsonArray()), flag("m", net), flag("b")};
+        QVERIFY(dml::loadJson(file(0, {several, QJsonArray{flag("other")}}), "two"));
         QCOMPARE(names(0), QString("z a m b "));
         QCOMPARE(names(0, EntityNet), QString("z m b "));
         QCOMPARE(names(0, EntityLayer | EntityJob), QString("z b "));
         QCOMPARE(names(0, 0), QString());
-        QCOMPARE(names(2), QString("other "));
+        QCOMPARE(names(1), QString("other "));
     }
 
     void walkFails()
     {
-        QVERIFY(dml::loadJson(file(0, flag("only")), "one"));
+        QVERIFY(dml::loadJson(file(0, {QJsonArray{flag("only")}}), "one"));
         int cursor = 0;
         DmlAttrDef *definition = nullptr;
         QVERIFY(dml__atr_next(1, 1, EntityAll, &cursor, &definition) != 0);
@@ -249,32 +184,18 @@ private Q_SLOTS:
 
     void definitionsStayWhereTheyAre()
     {
-        const QByteArray attribute =
-            "{'name': 'note', 'type': 'text', 'entities': [], 'choices': ['a', 'b'], "
-            "'default': 'a text too long to be kept inside of a small string'}";
-        QVERIFY(dml::loadJson(file(0, attribute), "kept"));
+        const QJsonArray attributes{QJsonObject{{"name", "note"},
+                                                {"type", "text"},
+                                                {"entities", "all"},
+                                                {"choices", QJsonArray{"a", "b"}},
+                                                {"default", "too long to be kept inside of a small string"}}};
+        QVERIFY(dml::loadJson(file(0, {attributes}), "kept"));
         const Definitions kept = walk(0);
         const QString before = written(*kept.first());
-        QVERIFY(dml::loadJson(file(1, attribute + NextDictionary + attribute), "others"));
+        QVERIFY(dml::loadJson(file(1, {attributes, attributes}), "others"));
         QVERIFY(dml::unload(1));
         QCOMPARE(walk(0), kept);
         QCOMPARE(written(*kept.first()), before);
-    }
-
-    void shippedDictionaryIsVaried()
-    {
-        QString error;
-        QVERIFY2(dml::loadFile(ZUDUNMAF_DEMO_DICTIONARY, &error), qPrintable(error));
-        QSet<QString> groups;
-        QSet<int> units, layerTypes, featureTypes;
-        for (const DmlAttrDef *definition : walk(0)) {
-            groups << definition->group;
-            units << (definition->type == DmlAttrFloat ? definition->unitsClass : -1);
-            (definition->entityMask & EntityLayer ? layerTypes : featureTypes) << definition->type;
-        }
-        QVERIFY(walk(0).size() >= 80 && groups.size() >= 8 && groups.contains("Obsolete") &&
-                units.size() >= 6);
-        QVERIFY(layerTypes.size() == 5 && featureTypes.size() == 5);
     }
 };
 

@@ -84,12 +84,6 @@ void Dialog::fillEntityList(const QList<TvxDataItem *> &items)
     }
 }
 
-void Dialog::fillGroupsList(const QStringList &groups)
-{
-    host().note("fillGroupsList");
-    host().groups = groups;
-}
-
 void Dialog::fillAttributeList(const Items &items)
 {
     host().note("fillAttributeList");
@@ -107,12 +101,6 @@ Items Dialog::getTopListItems(bool visibleOnly) const
     return items;
 }
 
-void Dialog::setFirstVisibleItemAsCurrent()
-{
-    host().note("setFirstVisibleItemAsCurrent");
-    host().top->setCurrentCell(-1, -1);
-}
-
 QTableWidgetItem *Dialog::findItemByAttrName(const QString &name)
 {
     host().note("findItemByAttrName", name);
@@ -123,66 +111,35 @@ QTableWidgetItem *Dialog::findItemByAttrName(const QString &name)
     return nullptr;
 }
 
-void Dialog::setTopViewRowsVisiblity(int row, bool visible)
-{
-    host().note("setTopViewRowsVisiblity", row, visible);
-    host().top->setRowHidden(row, !visible);
-}
-
-void Dialog::setTopViewCurrentItem(QTableWidgetItem *item)
-{
-    host().note("setTopViewCurrentItem", item->row());
-}
-
-bool Dialog::setButtonPixmap(Buttons_Enum button, const QString &name)
-{
-    host().note("setButtonPixmap", button, name);
-    return false;
-}
-
-void Dialog::setItemDelegate(QStyledItemDelegate *delegate)
-{
-    host().note("setItemDelegate");
-    host().delegate = delegate;
-}
-
-void Dialog::setCustomContextMenu(QMenu *menu)
-{
-    host().note("setCustomContextMenu");
-    host().menu = menu;
-}
-
-void Dialog::setDisplayUnits(int units)
-{
-    host().units = units;
-}
-
-void Dialog::setHeaderTitle(int column, const QString &title)
-{
-    host().note("setHeaderTitle", column, title);
-}
-
-void Dialog::closeEvent(QCloseEvent *event)
-{
-    QDialog::closeEvent(event);
-}
-
-/// An operation that only notes its call, and perhaps answers.
-#define NOTED(type, operation, answer)                                                                       \
+/// An operation that writes its call down as `noted` says, and otherwise does no more than `effect`.
+#define NOTED_AS(noted, type, operation, effect)                                                             \
     type Dialog::operation                                                                                   \
     {                                                                                                        \
-        host().note(__func__);                                                                               \
-        return answer;                                                                                       \
+        host().note noted;                                                                                   \
+        effect;                                                                                              \
     }
+#define NOTED(type, operation, effect) NOTED_AS((__func__), type, operation, effect)
 
+NOTED(void, fillGroupsList(const QStringList &groups), host().groups = groups)
 NOTED(void, addButtonClickedCB(QTableWidgetItem *), )
 NOTED(void, removeButtonClickedCB(QTableWidgetItem *), )
 NOTED(void, connectSignal2Slots(), )
 NOTED(void, editCurrentItem(), )
-NOTED(int, getEntityDID() const, host().did)
-NOTED(int, getSelectedEntityMask() const, host().mask)
-NOTED(QString, getSelectedGroupName() const, host().group)
-NOTED(QString, getUserFilterText(), host().text)
-NOTED(int, displayUnits(), host().units)
-NOTED(Items, getChosenList() const, rowItems(host().chosen))
-NOTED(Items, getItemsForContextMenuCallback(), host().menuItems)
+NOTED(void, closeEvent(QCloseEvent *event), QDialog::closeEvent(event))
+NOTED(void, setFirstVisibleItemAsCurrent(), host().top->setCurrentCell(-1, -1))
+NOTED(void, setItemDelegate(QStyledItemDelegate *delegate), host().delegate = delegate)
+NOTED(void, setCustomContextMenu(QMenu *menu), host().menu = menu)
+NOTED(int, getEntityDID() const, return host().did)
+NOTED(int, getSelectedEntityMask() const, return host().mask)
+NOTED(QString, getSelectedGroupName() const, return host().group)
+NOTED(QString, getUserFilterText(), return host().text)
+NOTED(int, displayUnits(), return host().units)
+NOTED(Items, getChosenList() const, return rowItems(host().chosen))
+NOTED(Items, getItemsForContextMenuCallback(), return host().menuItems)
+NOTED_AS((__func__, row, on), void, setTopViewRowsVisiblity(int row, bool on),
+         host().top->setRowHidden(row, !on))
+NOTED_AS((__func__, item->row()), void, setTopViewCurrentItem(QTableWidgetItem *item), )
+NOTED_AS((__func__, which, name), bool, setButtonPixmap(Buttons_Enum which, const QString &name),
+         return false)
+NOTED_AS((__func__, column, title), void, setHeaderTitle(int column, const QString &title), )
+NOTED_AS((__func__, units), void, setDisplayUnits(int units), host().units = units)
