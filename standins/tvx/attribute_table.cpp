@@ -24,8 +24,6 @@ namespace
 {
 
 constexpr int MinimumRows = 4;
-/// What both delegates add to the height of a line.
-constexpr int DelegateMargin = 4;
 
 QLocale plainNumbers()
 {
@@ -68,7 +66,6 @@ AttributeTable::AttributeTable(QWidget *parent)
     setDropIndicatorShown(false);
     setHorizontalScrollMode(ScrollPerPixel);
     setUpHeaders();
-    connect(this, &QTableWidget::doubleClicked, this, &AttributeTable::rowsActivated);
 }
 
 void AttributeTable::setUpHeaders()
@@ -84,14 +81,14 @@ void AttributeTable::setUpHeaders()
     header->setStretchLastSection(true);
     alignHeader();
     // The view selects a whole column at a press on its header; here the press sorts.
-    disconnect(header, SIGNAL(sectionPressed(int)), this, nullptr);
-    disconnect(header, SIGNAL(sectionEntered(int)), this, nullptr);
+    disconnect(header, &QHeaderView::sectionPressed, this, nullptr);
+    disconnect(header, &QHeaderView::sectionEntered, this, nullptr);
     connect(header, &QHeaderView::sectionClicked, this, &AttributeTable::sortByClick);
     connect(header, &QHeaderView::sectionResized, this, [this](int column, int, int width) {
         if (column != NameColumn || m_applyingWidth)
             return;
-        m_nameWidth = width;
-        Q_EMIT nameWidthChanged(width);
+        setNameWidth(boundedNameWidth(width));
+        Q_EMIT nameWidthChanged(m_nameWidth);
     });
 }
 
@@ -108,6 +105,11 @@ void AttributeTable::setEmptyText(const QString &text)
         return;
     m_emptyText = text;
     viewport()->update();
+}
+
+QString AttributeTable::shownEmptyText() const
+{
+    return visibleRowCount() > 0 ? QString() : m_emptyText;
 }
 
 void AttributeTable::setDragTypes(const QString &own, const QString &accepted)
@@ -183,13 +185,25 @@ void AttributeTable::setMinimumValueWidth(int width)
     applyNameWidth();
 }
 
+void AttributeTable::setEditorWidth(int width)
+{
+    m_editorWidth = width;
+    applyNameWidth();
+}
+
+int AttributeTable::boundedNameWidth(int width) const
+{
+    // Not the viewport's, so that a scroll bar of one table leaves the columns of both in one line.
+    const int available = this->width();
+    const int left = available - std::max(m_minimumValueWidth, m_editorWidth);
+    const int narrowest = available / 4;
+    return std::clamp(width, narrowest, std::max(narrowest, std::min(available * 6 / 10, left)));
+}
+
 void AttributeTable::applyNameWidth()
 {
-    const int available = width();
-    const int narrowest = available / 4;
-    const int widest = std::max(narrowest, std::min(available * 6 / 10, available - m_minimumValueWidth));
     m_applyingWidth = true;
-    horizontalHeader()->resizeSection(NameColumn, std::clamp(m_nameWidth, narrowest, widest));
+    horizontalHeader()->resizeSection(NameColumn, boundedNameWidth(m_nameWidth));
     m_applyingWidth = false;
 }
 
@@ -209,12 +223,19 @@ QSize AttributeTable::sizeHint() const
 
 void AttributeTable::keyboardSearch(const QString &search)
 {
+    const bool goesOn =
+        m_sinceTyped.isValid() && !m_sinceTyped.hasExpired(QApplication::keyboardInputInterval());
+    m_sinceTyped.start();
+    m_typed = goesOn ? m_typed + search : search;
+    // One letter again and again walks the rows; a text that grows may stay on the present one.
+    const bool walks = !m_typed.isEmpty() && m_typed.count(m_typed[0], Qt::CaseInsensitive) == m_typed.size();
+    const QString text = walks ? m_typed.left(1) : m_typed;
     const int rows = rowCount();
-    const int start = std::max(currentRow(), 0);
-    for (int step = 1; step <= rows; ++step) {
+    const int start = std::max(currentRow() + (walks ? 1 : 0), 0);
+    for (int step = 0; step < rows; ++step) {
         const int row = (start + step) % rows;
         const QTableWidgetItem *label = isRowHidden(row) ? nullptr : item(row, NameColumn);
-        if (label && label->text().startsWith(search, Qt::CaseInsensitive)) {
+        if (label && label->text().startsWith(text, Qt::CaseInsensitive)) {
             makeRowCurrent(row);
             return;
         }
@@ -234,7 +255,13 @@ void AttributeTable::fixRowHeight()
     const int height = rowCount() > 0 ? sizeHintForRow(0) : fontMetrics().height() + DelegateMargin;
     if (height <= 0)
         return;
-    verticalHeader()->setDefaultSectionSize(height);
+    QHeaderView *header = verticalHeader();
+    header->setDefaultSectionSize(height);
+    // Passed over by that, a hidden row would come back as high as it was.
+    for (int row = 0; header->sectionsHidden() && row < rowCount(); ++row) {
+        if (isRowHidden(row))
+            header->resizeSection(row, height);
+    }
     updateGeometry();
 }
 
@@ -362,8 +389,6 @@ void AttributeTable::keyPressEvent(QKeyEvent *event)
     const bool plain = !(event->modifiers() & ~Qt::KeypadModifier);
     if (event->matches(QKeySequence::Copy)) {
         copySelectedRows();
-    } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        Q_EMIT rowsActivated();
     } else if (plain && (event->key() == Qt::Key_Home || event->key() == Qt::Key_End)) {
         // By rows, these two lead to the first and the last row and not to the ends of the present one.
         makeRowCurrent(event->key() == Qt::Key_Home ? nextVisibleRow(0, 1)
@@ -396,13 +421,14 @@ QString AttributeTable::copyLine(int row) const
 void AttributeTable::paintEvent(QPaintEvent *event)
 {
     QTableWidget::paintEvent(event);
-    if (m_emptyText.isEmpty() || visibleRowCount() > 0)
+    const QString text = shownEmptyText();
+    if (text.isEmpty())
         return;
     QPainter painter(viewport());
     painter.setPen(palette().color(QPalette::PlaceholderText));
     const int margin = fontMetrics().height();
     painter.drawText(viewport()->rect().adjusted(margin, 0, -margin, 0), Qt::AlignCenter | Qt::TextWordWrap,
-                     m_emptyText);
+                     text);
 }
 
 void AttributeTable::resizeEvent(QResizeEvent *event)

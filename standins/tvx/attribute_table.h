@@ -3,6 +3,7 @@
 
 #include "tvx/row_order.h"
 
+#include <QElapsedTimer>
 #include <QSignalBlocker>
 #include <QTableWidget>
 #include <QVector>
@@ -24,11 +25,15 @@ class AttributeTable : public QTableWidget
 
 public:
     enum Column { NameColumn = 0, ValueColumn = 1, ColumnCount = 2 };
+    /// What the delegates of both tables add to the height of a line.
+    static constexpr int DelegateMargin = 4;
 
     explicit AttributeTable(QWidget *parent);
 
     /// The text in the middle of the table while no row is to be seen.
     void setEmptyText(const QString &text);
+    /// That text while it is to be seen, else an empty one.
+    QString shownEmptyText() const;
 
     /// The media type that drags of this table carry, and the one that it takes. The data is the address of
     /// the window as a decimal number: rows stay in their dialog.
@@ -49,18 +54,17 @@ public:
     /// Makes the row current and the only one selected; out of range, no row is.
     void makeRowCurrent(int row);
 
-    /// Width of the name column; the other column has the rest.
+    /// Width of the name column, as far as the other one leaves it that much; the other has the rest.
     void setNameWidth(int width);
     /// The width that the value column keeps while the table is wide enough for it.
     void setMinimumValueWidth(int width);
 
     QSize minimumSizeHint() const override;
     QSize sizeHint() const override;
+    /// Goes to the next visible row whose name begins with what was typed, this text included.
     void keyboardSearch(const QString &search) override;
 
 Q_SIGNALS:
-    /// Enter was pressed, or a row clicked twice.
-    void rowsActivated();
     /// Rows of the other table were dropped here.
     void rowsDropped();
     /// The user has changed the width of the name column.
@@ -82,6 +86,8 @@ protected:
 
     /// Takes the height of a row from the delegate, once for all rows.
     void fixRowHeight();
+    /// While an editor needs more than the minimum, the value column keeps this width; 0 for no editor.
+    void setEditorWidth(int width);
     /// Hides or shows a row without the look-up that makes a pass over all rows quadratic.
     void setRowShown(int row, bool shown);
     /// Lets the items from this row on know their places again, after rows above them have come or gone. An
@@ -89,7 +95,9 @@ protected:
     void renewPlaces(int first);
     /// Called after the rows have changed places.
     virtual void rowsReordered() {}
-    /// Brings the rows into the order that the header shows, after rows have come or gone.
+    /// Brings the rows into the order that the header shows.
+    void reorder();
+    /// The same where that is not the order in which they came.
     void restoreOrder();
     RowOrder &rowOrder() { return m_order; }
 
@@ -107,8 +115,8 @@ private:
     void setUpHeaders();
     void alignHeader();
     void sortByClick(int column);
-    void reorder();
     void placeRows(const QVector<int> &order);
+    int boundedNameWidth(int width) const;
     void applyNameWidth();
     void copySelectedRows() const;
     QString copyLine(int row) const;
@@ -121,7 +129,10 @@ private:
     RowOrder m_order;
     int m_nameWidth = 0;
     int m_minimumValueWidth = 0;
+    int m_editorWidth = 0;
     bool m_applyingWidth = false;
+    QString m_typed;
+    QElapsedTimer m_sinceTyped;
 };
 
 } // namespace tvx

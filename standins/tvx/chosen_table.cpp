@@ -5,10 +5,10 @@
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QContextMenuEvent>
-#include <QHeaderView>
 #include <QKeyEvent>
 
 #include <algorithm>
+#include <utility>
 
 namespace Zudunmaf
 {
@@ -28,47 +28,64 @@ ChosenTable::~ChosenTable()
     disconnect(qApp, nullptr, this, nullptr);
 }
 
-void ChosenTable::insertRows(int row, const QVector<RowItems> &rows)
+void ChosenTable::appendRows(std::vector<Row> rows)
 {
-    if (rows.isEmpty())
-        return;
-    const bool first = rowCount() == 0;
-    const int place = row < 0 || rowOrder().isSorted() ? rowCount() : std::min(row, rowCount());
-    model()->insertRows(place, static_cast<int>(rows.size()));
-    {
-        const SilentChange change(this);
-        for (int i = 0; i < rows.size(); ++i) {
-            setItem(place + i, NameColumn, rows[i].name);
-            setItem(place + i, ValueColumn, rows[i].value);
-        }
-    }
-    if (first)
-        fixRowHeight();
-    renewPlaces(place + static_cast<int>(rows.size()));
+    putBehind(std::move(rows));
     restoreOrder();
 }
 
-QVector<ChosenTable::RowItems> ChosenTable::takeRows(const QVector<int> &rows)
+void ChosenTable::restoreRows(std::vector<Row> rows)
 {
-    QVector<RowItems> taken;
-    taken.reserve(rows.size());
+    QVector<int> places;
+    for (const Row &row : rows)
+        places.append(row.place);
+    putBehind(std::move(rows));
+    rowOrder().rowsReturned(rowCount(), places);
+    reorder();
+}
+
+void ChosenTable::putBehind(std::vector<Row> rows)
+{
+    const int first = rowCount();
+    model()->insertRows(first, static_cast<int>(rows.size()));
     {
         const SilentChange change(this);
-        for (int row : rows)
-            taken.append(RowItems{takeItem(row, NameColumn), takeItem(row, ValueColumn)});
+        int place = first;
+        for (Row &row : rows) {
+            setItem(place, NameColumn, row.name.release());
+            setItem(place++, ValueColumn, row.value.release());
+        }
     }
+    if (first == 0)
+        fixRowHeight();
+}
+
+std::vector<ChosenTable::Row> ChosenTable::takeRows(const QVector<int> &rows)
+{
+    const QVector<int> places = rowOrder().placesOf(rows);
+    std::vector<Row> taken(rows.size());
+    {
+        const SilentChange change(this);
+        for (int i = 0; i < rows.size(); ++i) {
+            Row &row = taken[static_cast<std::size_t>(i)];
+            row.name.reset(takeItem(rows[i], NameColumn));
+            row.value.reset(takeItem(rows[i], ValueColumn));
+            row.place = places[i];
+        }
+    }
+    rowOrder().rowsRemoved(rows);
     // From the end, and neighbours together: each removal moves all rows below it.
     for (auto last = rows.size() - 1; last >= 0;) {
         auto first = last;
         while (first > 0 && rows[first - 1] == rows[first] - 1)
             --first;
-        const int count = static_cast<int>(last - first + 1);
-        rowOrder().rowsRemoved(rows[first], count);
-        model()->removeRows(rows[first], count);
+        model()->removeRows(rows[first], static_cast<int>(last - first + 1));
         last = first - 1;
     }
     if (!rows.isEmpty())
         renewPlaces(rows.first());
+    if (rowOrder().isSorted())
+        std::sort(taken.begin(), taken.end(), [](const Row &a, const Row &b) { return a.place < b.place; });
     return taken;
 }
 
@@ -130,11 +147,7 @@ void ChosenTable::prepareEditor(int row)
 /// Two spin boxes with wide limits need more than the column may have.
 void ChosenTable::makeRoomFor(const QWidget *editor)
 {
-    const int missing = editor->minimumSizeHint().width() - columnWidth(ValueColumn);
-    if (missing <= 0)
-        return;
-    const int narrowest = fontMetrics().averageCharWidth() * 8;
-    horizontalHeader()->resizeSection(NameColumn, std::max(narrowest, columnWidth(NameColumn) - missing));
+    setEditorWidth(editor->minimumSizeHint().width() + width() - viewport()->width());
     updateEditorGeometries();
 }
 
@@ -162,8 +175,10 @@ void ChosenTable::dropEditing()
 void ChosenTable::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
 {
     const bool hadFocus = editor && (editor->hasFocus() || editor->isAncestorOf(QApplication::focusWidget()));
-    if (editor == m_editor)
+    if (editor == m_editor) {
         m_editor = nullptr;
+        setEditorWidth(0);
+    }
     // Tab ends the edit and opens no other, which would store a condition that nobody entered.
     const bool moves =
         hint == QAbstractItemDelegate::EditNextItem || hint == QAbstractItemDelegate::EditPreviousItem;
@@ -196,7 +211,9 @@ void ChosenTable::keyPressEvent(QKeyEvent *event)
     if (event->key() == Qt::Key_Delete) {
         Q_EMIT removalRequested();
     } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        editRow(currentRow());
+        // Held down, it would open and close the editor in turn.
+        if (!event->isAutoRepeat())
+            editRow(currentRow());
     } else if (event->key() == Qt::Key_Menu ||
                (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)) {
         requestMenuAtCurrentRow();
@@ -213,14 +230,8 @@ void ChosenTable::contextMenuEvent(QContextMenuEvent *event)
         return;
     }
     const QTableWidgetItem *clicked = itemAt(viewport()->mapFromGlobal(event->globalPos()));
-    if (!clicked)
-        return;
-    finishEditing();
-    if (!selectionModel()->isRowSelected(clicked->row(), QModelIndex()))
-        makeRowCurrent(clicked->row());
-    else
-        setCurrentCell(clicked->row(), NameColumn, QItemSelectionModel::NoUpdate);
-    Q_EMIT menuRequested(event->globalPos());
+    if (clicked)
+        requestMenu(clicked->row(), event->globalPos());
 }
 
 void ChosenTable::requestMenuAtCurrentRow()
@@ -228,10 +239,20 @@ void ChosenTable::requestMenuAtCurrentRow()
     const QTableWidgetItem *current = item(currentRow(), NameColumn);
     if (!current)
         return;
-    finishEditing();
     scrollToItem(current);
     // Below the row, so that its value can still be read.
-    Q_EMIT menuRequested(viewport()->mapToGlobal(visualItemRect(current).bottomLeft()));
+    requestMenu(current->row(), viewport()->mapToGlobal(visualItemRect(current).bottomLeft()));
+}
+
+/// The menu acts on the selected rows, so this one is made one of them.
+void ChosenTable::requestMenu(int row, const QPoint &globalPosition)
+{
+    finishEditing();
+    if (selectionModel()->isRowSelected(row, QModelIndex()))
+        setCurrentCell(row, NameColumn, QItemSelectionModel::NoUpdate);
+    else
+        makeRowCurrent(row);
+    Q_EMIT menuRequested(globalPosition);
 }
 
 } // namespace tvx

@@ -5,6 +5,9 @@
 
 #include <QPointer>
 
+#include <memory>
+#include <vector>
+
 namespace Zudunmaf
 {
 namespace tvx
@@ -18,21 +21,23 @@ class ChosenTable : public AttributeTable
     Q_OBJECT
 
 public:
-    /// The two items of a row, or null ones.
-    struct RowItems {
-        QTableWidgetItem *name;
-        QTableWidgetItem *value;
+    /// A row that stands in no table: its two items, and its place in the order in which the rows came.
+    struct Row {
+        std::unique_ptr<QTableWidgetItem> name;
+        std::unique_ptr<QTableWidgetItem> value;
+        int place;
     };
 
     explicit ChosenTable(QWidget *parent);
     ~ChosenTable() override;
 
-    /// Puts rows behind the others (`row` -1) or before a row, and takes the items over. A number behind the
-    /// last row means the end; so does any number while the rows are sorted.
-    void insertRows(int row, const QVector<RowItems> &rows);
-    /// Takes rows out and hands their items to the caller, in the order of the rows. The numbers are
-    /// ascending.
-    QVector<RowItems> takeRows(const QVector<int> &rows);
+    /// Puts rows behind the others, wherever the order by a header then shows them. Their places are not
+    /// looked at.
+    void appendRows(std::vector<Row> rows);
+    /// Takes rows out, whose numbers are ascending. They are handed out in the order in which they came.
+    std::vector<Row> takeRows(const QVector<int> &rows);
+    /// Brings rows back that takeRows() has handed out, to their places among the others.
+    void restoreRows(std::vector<Row> rows);
     /// Makes the rows of these value items the selected ones, the first of them current, and scrolls to them.
     void selectItems(const QVector<QTableWidgetItem *> &items);
 
@@ -60,9 +65,11 @@ protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
 
 private:
+    void putBehind(std::vector<Row> rows);
     void prepareEditor(int row);
     void makeRoomFor(const QWidget *editor);
     void requestMenuAtCurrentRow();
+    void requestMenu(int row, const QPoint &globalPosition);
     void followFocus(const QWidget *old, const QWidget *now);
 
     QPointer<QWidget> m_editor;

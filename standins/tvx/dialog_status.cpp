@@ -81,6 +81,14 @@ QString limitsWithin(const QWidget *editor)
     return box ? limitsOf(*box) : QString();
 }
 
+/// Left alone, the keyboard would go on to the next button, which may do the opposite.
+void setEnabled(QPushButton *button, bool enabled, QWidget *table)
+{
+    if (!enabled && button->window()->focusWidget() == button)
+        table->setFocus();
+    button->setEnabled(enabled);
+}
+
 void setText(QLabel *label, const QString &text)
 {
     if (label->text() != text)
@@ -117,18 +125,23 @@ void DialogStatus::updateCounts() const
 
 void DialogStatus::updateButtons() const
 {
-    m_widgets.addButton->setEnabled(m_widgets.topView->hasVisibleSelection());
-    m_widgets.removeButton->setEnabled(m_widgets.chosenList->hasVisibleSelection());
-    m_widgets.undoButton->setEnabled(m_transfer.canUndoRemoval());
-    m_widgets.clearButton->setEnabled(m_widgets.chosenList->rowCount() > 0);
+    TopTable *top = m_widgets.topView;
+    ChosenTable *chosen = m_widgets.chosenList;
+    setEnabled(m_widgets.addButton, top->hasVisibleSelection(), top);
+    setEnabled(m_widgets.removeButton, chosen->hasVisibleSelection(), chosen);
+    setEnabled(m_widgets.undoButton, m_transfer.canUndoRemoval(), chosen);
+    setEnabled(m_widgets.clearButton, chosen->rowCount() > 0, chosen);
 }
 
 void DialogStatus::updateTexts() const
 {
-    m_widgets.topView->setEmptyText(offerText());
-    setText(m_widgets.description, describedText());
+    TopTable *top = m_widgets.topView;
+    ChosenTable *chosen = m_widgets.chosenList;
+    top->setEmptyText(offerText());
+    top->setAccessibleDescription(top->shownEmptyText());
+    chosen->setAccessibleDescription(chosen->shownEmptyText());
 
-    const ChosenTable *chosen = m_widgets.chosenList;
+    setText(m_widgets.description, describedText());
     const QTableWidgetItem *current = chosen->rowItem(chosen->currentRow());
     const QString line = current ? current->data(DmlAttrFilterTextRole).toString() : QString();
     setText(m_widgets.preview, line.isEmpty() ? QString() : textOf(texts::PreviewLine).arg(line));

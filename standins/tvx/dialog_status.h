@@ -15,7 +15,8 @@ class RowTransfer;
 class SelectionWidgets;
 
 /// Brings everything that depends on the state of the dialog up to date: counts, which buttons can be
-/// pressed, the texts in tables without rows, description and preview. It reads and never changes that state.
+/// pressed, the texts in tables without rows, description and preview. It reads that state and changes
+/// nothing of it, but that the keyboard goes from a button that cannot be pressed any more to its table.
 /// What it is made of must outlive it.
 class DialogStatus
 {

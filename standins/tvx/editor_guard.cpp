@@ -19,14 +19,13 @@ namespace tvx
 EditorGuard::EditorGuard(QWidget *editor, const QString &name)
     : QObject(editor)
 {
+    // An editor that takes the keyboard itself does so for all its parts.
+    auto candidates = editor->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
     if (editor->focusPolicy() & Qt::TabFocus)
-        m_widgets.append(editor);
-    const auto children = editor->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
-    for (QWidget *child : children) {
-        if (m_widgets.isEmpty() || m_widgets.first() != editor) {
-            if (child->focusPolicy() & Qt::TabFocus)
-                m_widgets.append(child);
-        }
+        candidates = {editor};
+    for (QWidget *widget : std::as_const(candidates)) {
+        if (widget->focusPolicy() & Qt::TabFocus)
+            m_widgets.append(widget);
     }
     for (QWidget *widget : std::as_const(m_widgets))
         widget->installEventFilter(this);

@@ -14,9 +14,6 @@ namespace tvx
 namespace
 {
 
-/// What the chosen table's delegate adds to the height of a row.
-constexpr int ExtraHeight = 4;
-
 QColor mixed(const QColor &front, const QColor &back, qreal share)
 {
     return QColor::fromRgbF(front.redF() * share + back.redF() * (1 - share),
@@ -110,7 +107,7 @@ void MatchHighlightDelegate::paintText(QPainter *painter, const QStyleOptionView
 
 QSize MatchHighlightDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
-    return QStyledItemDelegate::sizeHint(option, index) + QSize(0, ExtraHeight);
+    return QStyledItemDelegate::sizeHint(option, index) + QSize(0, AttributeTable::DelegateMargin);
 }
 
 } // namespace tvx

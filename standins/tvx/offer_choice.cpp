@@ -37,7 +37,6 @@ void OfferChoice::setEntities(const QList<TvxDataItem *> &items)
 void OfferChoice::setGroups(const QStringList &groups)
 {
     const QSignalBlocker blocker(m_groupList);
-    m_groups = groups;
     m_groupList->clear();
     m_groupList->addItems(groups);
     m_groupList->setCurrentIndex(groups.isEmpty() ? -1 : 0);
@@ -65,7 +64,7 @@ int OfferChoice::mask() const
 
 QString OfferChoice::group() const
 {
-    return m_groups.value(m_groupList->currentIndex());
+    return m_groupList->itemText(m_groupList->currentIndex());
 }
 
 QString OfferChoice::text() const

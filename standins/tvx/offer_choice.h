@@ -62,7 +62,6 @@ private:
     QComboBox *m_groupList;
     QLineEdit *m_filterText;
     std::vector<std::unique_ptr<TvxDataItem>> m_entities;
-    QStringList m_groups;
     State m_atLastFill{};
     bool m_lastFillNarrowed = false;
 };

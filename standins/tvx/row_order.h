@@ -25,13 +25,19 @@ public:
 
     /// Where each row is to come from: the present number of the row that goes to place 0, 1, and so on. Rows
     /// of equal text keep their present order; empty texts stand last when ascending, numbers before texts
-    /// and by value. The caller puts the rows into this order.
+    /// and by value, texts as the user's language has it, with numbers in them by value. The caller puts the rows into this order.
     QVector<int> arrange(int rowCount, const std::function<QString(int row)> &textOfRow);
+
+    /// The places of rows in the order in which they came, counted from 0.
+    QVector<int> placesOf(const QVector<int> &rows) const;
 
     /// All rows were replaced; the column stays.
     void rowsReplaced();
-    /// Rows were taken out. Rows that are appended need no call.
-    void rowsRemoved(int first, int count);
+    /// These rows, ascending, were taken out. Rows that are appended need no call.
+    void rowsRemoved(const QVector<int> &rows);
+    /// The last of now `rowCount` rows have come back to these places, ascending, which placesOf() gave. They
+    /// stand there at the next arrange(); where fewer rows are left, behind the others.
+    void rowsReturned(int rowCount, const QVector<int> &places);
 
 private:
     void numberRows(int rowCount);
@@ -40,9 +46,8 @@ private:
 
     int m_column = -1;
     Qt::SortOrder m_direction = Qt::AscendingOrder;
-    /// Each row's place in the order of arrival. Empty while the rows stand in that order.
+    /// Each row's place in the order of arrival, without gaps. Empty while the rows stand in that order.
     QVector<int> m_arrival;
-    int m_nextArrival = 0;
 };
 
 } // namespace tvx

@@ -4,9 +4,8 @@
 #include "gdm/items/attr_roles.h"
 #include "tvx/top_table.h"
 
-#include <QSet>
-
 #include <algorithm>
+#include <memory>
 #include <numeric>
 #include <utility>
 
@@ -23,25 +22,17 @@ QString nameOf(const QTableWidgetItem &item)
     return item.data(DmlAttrNameRole).toString();
 }
 
-ChosenTable::RowItems copiesOf(const QTableWidgetItem &item)
+ChosenTable::Row copyOf(const QTableWidgetItem &item)
 {
-    return {item.clone(), item.clone()};
+    return {std::unique_ptr<QTableWidgetItem>(item.clone()), std::unique_ptr<QTableWidgetItem>(item.clone()),
+            -1};
 }
 
-void destroy(const QVector<ChosenTable::RowItems> &items)
-{
-    for (const ChosenTable::RowItems &row : items) {
-        delete row.name;
-        delete row.value;
-    }
-}
-
-QVector<QTableWidgetItem *> valuesOf(const QVector<ChosenTable::RowItems> &rows)
+QVector<QTableWidgetItem *> valuesOf(const std::vector<ChosenTable::Row> &rows)
 {
     QVector<QTableWidgetItem *> values;
-    values.reserve(rows.size());
-    for (const ChosenTable::RowItems &row : rows)
-        values.append(row.value);
+    for (const ChosenTable::Row &row : rows)
+        values.append(row.value.get());
     return values;
 }
 
@@ -56,49 +47,57 @@ RowTransfer::RowTransfer(TvxAttributesSelectionDialog *dialog, TopTable *top, Ch
 {
 }
 
-RowTransfer::~RowTransfer()
-{
-    for (const Removal &removal : m_removals)
-        destroy(removal.items);
-}
-
 void RowTransfer::addSelected()
 {
     m_chosen->finishEditing();
     // All items first: a hook changes the selection of the top view.
-    QVector<QTableWidgetItem *> offered;
-    QVector<ChosenTable::RowItems> copies;
-    const QVector<int> rows = m_top->selectedVisibleRows();
-    for (int row : rows) {
-        offered.append(m_top->rowItem(row));
-        copies.append(copiesOf(*offered.last()));
-    }
-    if (offered.isEmpty())
+    const std::vector<Offered> offers = selectedOffers();
+    if (offers.empty())
         return;
+    const QSet<QString> taken = namesOfValues();
+    std::vector<ChosenTable::Row> copies;
+    for (const Offered &offer : offers) {
+        if (!taken.contains(offer.name))
+            copies.push_back(copyOf(*offer.item));
+    }
+    const QVector<QTableWidgetItem *> values = valuesOf(copies);
     {
         const TopTable::Pass pass(m_top);
-        m_chosen->insertRows(-1, copies);
-        for (QTableWidgetItem *item : std::as_const(offered))
-            announceAdded(item);
+        m_chosen->appendRows(std::move(copies));
+        reportAdded(offers);
     }
-    m_chosen->selectItems(valuesOf(copies));
+    m_chosen->selectItems(values);
     Q_EMIT transferred();
 }
 
-void RowTransfer::announceAdded(QTableWidgetItem *offered)
+std::vector<RowTransfer::Offered> RowTransfer::selectedOffers() const
 {
-    const bool shown = !m_top->isRowHidden(offered->row());
-    m_dialog->addButtonClickedCB(offered);
-    if (shown && m_top->isRowHidden(offered->row()))
-        m_addedRowsLeave = true;
+    std::vector<Offered> offers;
+    const QVector<int> rows = m_top->selectedVisibleRows();
+    offers.reserve(static_cast<std::size_t>(rows.size()));
+    for (int row : rows) {
+        QTableWidgetItem *item = m_top->rowItem(row);
+        offers.push_back({item, nameOf(*item)});
+    }
+    return offers;
 }
 
-void RowTransfer::announceAdded(const QVector<QTableWidgetItem *> &values)
+void RowTransfer::reportAdded(const std::vector<Offered> &offers)
 {
-    for (const QTableWidgetItem *value : values) {
-        if (QTableWidgetItem *offered = m_top->findByName(nameOf(*value)))
-            announceAdded(offered);
+    const int fills = m_top->fillCount();
+    for (const Offered &offer : offers) {
+        // A hook that has the rows built anew takes the items away.
+        if (m_top->fillCount() == fills)
+            m_dialog->addButtonClickedCB(offer.item);
+        else
+            reportAdded(offer.name);
     }
+}
+
+void RowTransfer::reportAdded(const QString &name)
+{
+    if (QTableWidgetItem *item = m_top->findByName(name))
+        m_dialog->addButtonClickedCB(item);
 }
 
 void RowTransfer::removeSelected()
@@ -118,14 +117,16 @@ void RowTransfer::remove(const QVector<int> &rows)
     m_chosen->finishEditing();
     if (rows.isEmpty())
         return;
+    m_isRemoving = true;
     {
         const TopTable::Pass pass(m_top);
         for (int row : rows)
             m_dialog->removeButtonClickedCB(m_chosen->rowItem(row));
     }
-    m_removals.push_back({rows, m_chosen->takeRows(rows)});
+    m_removals.push_back(m_chosen->takeRows(rows));
     const int below = rows.last() - static_cast<int>(rows.size()) + 1;
     m_chosen->makeRowCurrent(std::min(below, m_chosen->rowCount() - 1));
+    m_isRemoving = false;
     Q_EMIT transferred();
 }
 
@@ -134,75 +135,51 @@ void RowTransfer::undoRemoval()
     m_chosen->finishEditing();
     if (!canUndoRemoval())
         return;
-    Removal removal = takeLastRemoval();
-    if (m_addedRowsLeave)
-        dropChosenAgain(&removal);
-    insert(removal);
-    const QVector<QTableWidgetItem *> values = valuesOf(removal.items);
+    std::vector<ChosenTable::Row> rows = std::move(m_removals.back());
+    m_removals.pop_back();
+    const QSet<QString> taken = namesOfValues();
+    const auto isTaken = [&taken](const ChosenTable::Row &row) { return taken.contains(nameOf(*row.value)); };
+    rows.erase(std::remove_if(rows.begin(), rows.end(), isTaken), rows.end());
+
+    const QVector<QTableWidgetItem *> values = valuesOf(rows);
+    m_chosen->restoreRows(std::move(rows));
     {
         const TopTable::Pass pass(m_top);
-        announceAdded(values);
+        for (const QTableWidgetItem *value : values)
+            reportAdded(nameOf(*value));
     }
     m_chosen->selectItems(values);
     Q_EMIT transferred();
 }
 
-RowTransfer::Removal RowTransfer::takeLastRemoval()
-{
-    Removal removal = std::move(m_removals.back());
-    m_removals.pop_back();
-    return removal;
-}
-
-void RowTransfer::dropChosenAgain(Removal *removal) const
-{
-    QSet<QString> chosen;
-    const QList<QTableWidgetItem *> items = m_chosen->rowItems(false);
-    for (const QTableWidgetItem *item : items)
-        chosen.insert(nameOf(*item));
-
-    Removal kept;
-    for (int i = 0; i < removal->rows.size(); ++i) {
-        if (chosen.contains(nameOf(*removal->items[i].value))) {
-            destroy({removal->items[i]});
-        } else {
-            kept.rows.append(removal->rows[i]);
-            kept.items.append(removal->items[i]);
-        }
-    }
-    *removal = kept;
-}
-
-/// Ascending, so that each row finds the rows above it back in their places; neighbours go in together.
-void RowTransfer::insert(const Removal &removal)
-{
-    for (int first = 0; first < removal.rows.size();) {
-        int next = first + 1;
-        while (next < removal.rows.size() && removal.rows[next] == removal.rows[next - 1] + 1)
-            ++next;
-        m_chosen->insertRows(removal.rows[first], removal.items.mid(first, next - first));
-        first = next;
-    }
-}
-
 bool RowTransfer::addCopyOf(const QTableWidgetItem &item)
 {
     const QString name = nameOf(item);
-    if (name.isEmpty() || (m_addedRowsLeave && isChosen(name)))
+    const bool isAttribute = !name.isEmpty() && item.data(DmlAttrDefRole).value<void *>();
+    if (!isAttribute || namesOfValues().contains(name))
         return false;
     m_chosen->finishEditing();
-    m_chosen->insertRows(-1, {copiesOf(item)});
-    if (QTableWidgetItem *offered = m_top->findByName(name))
-        announceAdded(offered);
+    std::vector<ChosenTable::Row> copies;
+    copies.push_back(copyOf(item));
+    m_chosen->appendRows(std::move(copies));
+    reportAdded(name);
     Q_EMIT transferred();
     return true;
 }
 
-bool RowTransfer::isChosen(const QString &name) const
+/// The names of the chosen attributes that have values. A dialog has rows of one kind, and the first tells which.
+QSet<QString> RowTransfer::namesOfValues() const
 {
+    QSet<QString> names;
+    const QTableWidgetItem *first = m_chosen->rowItem(0);
+    if (!first || first->data(DmlAttrFilterTextRole).isValid())
+        return names;
     const QList<QTableWidgetItem *> items = m_chosen->rowItems(false);
-    return std::any_of(items.begin(), items.end(),
-                       [&name](const QTableWidgetItem *item) { return nameOf(*item) == name; });
+    for (const QTableWidgetItem *item : items)
+        names.insert(nameOf(*item));
+    // Items of another class have none, and are all different.
+    names.remove(QString());
+    return names;
 }
 
 } // namespace tvx

@@ -3,6 +3,8 @@
 
 #include "tvx/chosen_table.h"
 
+#include <QSet>
+
 #include <vector>
 
 class TvxAttributesSelectionDialog;
@@ -16,25 +18,30 @@ class TopTable;
 
 /// Moves attributes between the two tables, calls the dialog's hooks, and keeps what was taken away until it
 /// is brought back or the dialog ends. Each command ends an open edit first. Hidden rows are never moved.
+///
+/// An attribute takes any number of conditions, which are the items with a filter text, but one value: a row
+/// with a second one is not made.
 class RowTransfer : public QObject
 {
     Q_OBJECT
 
 public:
     RowTransfer(TvxAttributesSelectionDialog *dialog, TopTable *top, ChosenTable *chosen, QObject *parent);
-    ~RowTransfer() override;
 
+    /// A row of which no copy is taken, as its attribute has a value already, is reported to the hook as well,
+    /// so that it leaves the offer like the others.
     void addSelected();
     void removeSelected();
     void removeAll();
+    /// While rows go, nothing is selected for a moment, which is not to be shown; transferred() comes after.
+    bool isRemoving() const { return m_isRemoving; }
     bool canUndoRemoval() const { return !m_removals.empty(); }
-    /// Brings the rows removed last back to their places, with what was entered. An attribute that has been
-    /// chosen again meanwhile stays as it is, where the dialog takes chosen attributes off the offer.
+    /// Brings the rows removed last back to their places, with what was entered. A value that has been chosen
+    /// again meanwhile stays as it is.
     void undoRemoval();
 
     /// Puts a copy of the item behind the chosen rows, as addSelected() would; no editing, no selection.
-    /// False where the item has no attribute, or has one that is chosen already and is therefore off the
-    /// offer.
+    /// False where the item has no attribute, or a second value of one.
     bool addCopyOf(const QTableWidgetItem &item);
 
 Q_SIGNALS:
@@ -42,25 +49,22 @@ Q_SIGNALS:
     void transferred();
 
 private:
-    struct Removal {
-        QVector<int> rows;
-        QVector<ChosenTable::RowItems> items;
+    struct Offered {
+        QTableWidgetItem *item;
+        QString name;
     };
 
+    std::vector<Offered> selectedOffers() const;
+    void reportAdded(const std::vector<Offered> &offers);
+    void reportAdded(const QString &name);
     void remove(const QVector<int> &rows);
-    Removal takeLastRemoval();
-    void dropChosenAgain(Removal *removal) const;
-    void insert(const Removal &removal);
-    void announceAdded(QTableWidgetItem *offered);
-    void announceAdded(const QVector<QTableWidgetItem *> &values);
-    bool isChosen(const QString &name) const;
+    QSet<QString> namesOfValues() const;
 
     TvxAttributesSelectionDialog *m_dialog;
     TopTable *m_top;
     ChosenTable *m_chosen;
-    std::vector<Removal> m_removals;
-    /// A hook has hidden the row of an attribute: each attribute can be chosen once.
-    bool m_addedRowsLeave = false;
+    std::vector<std::vector<ChosenTable::Row>> m_removals;
+    bool m_isRemoving = false;
 };
 
 } // namespace tvx

@@ -4,7 +4,6 @@
 #include "tvx/row_transfer.h"
 #include "tvx/top_table.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -67,6 +66,9 @@ void SelectionController::connectButtons()
     connect(m_widgets.clearButton, &QPushButton::clicked, m_transfer, &RowTransfer::removeAll);
     connect(m_widgets.buttonBox, &QDialogButtonBox::accepted, this, &SelectionController::acceptDialog);
     connect(m_widgets.buttonBox, &QDialogButtonBox::rejected, this, &SelectionController::rejectDialog);
+    // For a host that ends the dialog by its slots, and connects to these signals later.
+    connect(m_dialog, &QDialog::accepted, this, [this] { m_widgets.chosenList->finishEditing(); });
+    connect(m_dialog, &QDialog::rejected, this, [this] { m_widgets.chosenList->dropEditing(); });
 }
 
 void SelectionController::connectTables()
@@ -79,8 +81,11 @@ void SelectionController::connectTables()
     connect(top, &TopTable::rowsDropped, m_transfer, &RowTransfer::removeSelected);
     connect(chosen, &ChosenTable::menuRequested, this, &SelectionController::showContextMenu);
 
-    connect(top, &TopTable::nameWidthChanged, this, &SelectionController::followNameWidth);
-    connect(chosen, &ChosenTable::nameWidthChanged, this, &SelectionController::followNameWidth);
+    connect(top, &TopTable::nameWidthChanged, this,
+            [this, chosen](int width) { followNameWidth(chosen, width); });
+    connect(chosen, &ChosenTable::nameWidthChanged, this,
+            [this, top](int width) { followNameWidth(top, width); });
+    connect(top, &TopTable::rowsHiddenOrShown, this, &SelectionController::refresh);
     connect(top, &TopTable::itemSelectionChanged, this, &SelectionController::refresh);
     connect(top, &TopTable::currentItemChanged, this, &SelectionController::refresh);
     connect(chosen, &ChosenTable::itemSelectionChanged, this, &SelectionController::refresh);
@@ -123,12 +128,25 @@ void SelectionController::fillTopView(const QList<QTableWidgetItem *> &items)
 {
     m_widgets.topView->fill(items);
     m_choice.rememberFill();
-    if (!m_nameWidthIsUsers) {
-        const int width = m_widgets.topView->wantedNameWidth();
-        m_widgets.topView->setNameWidth(width);
-        m_widgets.chosenList->setNameWidth(width);
-    }
+    fitNameWidth();
     refresh();
+}
+
+/// The columns of the two tables stand in one line.
+void SelectionController::followNameWidth(AttributeTable *table, int width)
+{
+    m_nameWidthIsUsers = true;
+    table->setNameWidth(width);
+}
+
+/// As the names want it, until the user has other wishes.
+void SelectionController::fitNameWidth()
+{
+    if (m_nameWidthIsUsers)
+        return;
+    const int width = m_widgets.topView->wantedNameWidth();
+    m_widgets.topView->setNameWidth(width);
+    m_widgets.chosenList->setNameWidth(width);
 }
 
 void SelectionController::offerChanged()
@@ -144,30 +162,19 @@ void SelectionController::offerChanged()
     refresh();
 }
 
-/// The columns of the two tables stand in one line.
-void SelectionController::followNameWidth(int width)
-{
-    m_nameWidthIsUsers = true;
-    if (sender() == m_widgets.topView)
-        m_widgets.chosenList->setNameWidth(width);
-    else
-        m_widgets.topView->setNameWidth(width);
-}
-
 void SelectionController::setContextMenu(QMenu *menu)
 {
+    if (m_contextMenu)
+        disconnect(m_contextMenu, nullptr, this, nullptr);
     m_contextMenu = menu;
     if (!menu)
         return;
-    // From the actions and not from the menu: its own signal reaches the subclass, which is connected later,
-    // last.
-    const auto actions = menu->actions();
-    for (QAction *action : actions) {
-        connect(action, &QAction::triggered, this, [this] {
-            m_widgets.chosenList->viewport()->update();
-            refresh();
-        });
-    }
+    const auto showChanges = [this] {
+        m_widgets.chosenList->viewport()->update();
+        refresh();
+    };
+    // Queued: the subclass, which is connected later, acts first.
+    connect(menu, &QMenu::triggered, this, showChanges, Qt::QueuedConnection);
 }
 
 void SelectionController::showContextMenu(const QPoint &globalPosition)
@@ -201,6 +208,8 @@ bool SelectionController::eventFilter(QObject *watched, QEvent *event)
         const int key = static_cast<QKeyEvent *>(event)->key();
         return key == Qt::Key_Return || key == Qt::Key_Enter;
     }
+    if (watched == m_dialog && event->type() == QEvent::FontChange)
+        fitNameWidth();
     if (watched == m_dialog && (event->type() == QEvent::FontChange || event->type() == QEvent::Resize))
         m_widgets.fitToDialog();
     return QObject::eventFilter(watched, event);
@@ -209,6 +218,11 @@ bool SelectionController::eventFilter(QObject *watched, QEvent *event)
 /// One focus for typing and walking: the keys that a line of text has no use for act on the top view.
 bool SelectionController::filterKey(QKeyEvent *event)
 {
+    QLineEdit *text = m_widgets.filterText;
+    if (event->matches(QKeySequence::Undo) && !text->isUndoAvailable()) {
+        m_transfer->undoRemoval();
+        return true;
+    }
     switch (event->key()) {
     case Qt::Key_Up:
     case Qt::Key_Down:
@@ -218,12 +232,16 @@ bool SelectionController::filterKey(QKeyEvent *event)
         return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        m_transfer->addSelected();
+        if (!event->isAutoRepeat()) {
+            m_transfer->addSelected();
+            // The next search replaces this one.
+            text->selectAll();
+        }
         return true;
     case Qt::Key_Escape:
-        if (m_widgets.filterText->text().isEmpty())
+        if (text->text().isEmpty())
             return false;
-        m_widgets.filterText->clear();
+        text->clear();
         return true;
     default:
         return false;
@@ -232,7 +250,7 @@ bool SelectionController::filterKey(QKeyEvent *event)
 
 void SelectionController::refresh()
 {
-    if (m_connected)
+    if (m_connected && !m_transfer->isRemoving())
         m_status.update();
 }
 

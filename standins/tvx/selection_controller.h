@@ -19,6 +19,7 @@ namespace Zudunmaf
 namespace tvx
 {
 
+class AttributeTable;
 class RowTransfer;
 
 /// All that the base dialog holds and does, behind its declaration. It is the receiver of every connection
@@ -64,7 +65,8 @@ private:
     void acceptDialog();
     void rejectDialog();
     void offerChanged();
-    void followNameWidth(int width);
+    void fitNameWidth();
+    void followNameWidth(AttributeTable *table, int width);
     void showContextMenu(const QPoint &globalPosition);
     bool filterKey(QKeyEvent *event);
     void refresh();

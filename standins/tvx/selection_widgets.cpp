@@ -1,5 +1,6 @@
 #include "tvx/selection_widgets.h"
 
+#include "gdm/host/message_keys.h"
 #include "tvx/button_picture.h"
 #include "tvx/chosen_table.h"
 #include "tvx/top_table.h"
@@ -15,6 +16,8 @@
 #include <QScreen>
 #include <QSplitter>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace Zudunmaf
 {
@@ -214,8 +217,11 @@ void SelectionWidgets::fitToDialog()
     description->setFixedHeight((ample ? 3 : 2) * metrics.lineSpacing());
     preview->setFixedHeight(2 * metrics.lineSpacing());
     // Two spin boxes with their labels, each wide enough for the longest whole number.
-    const int rangeWidth = metrics.horizontalAdvance(QLatin1String("From: To:")) +
-                           2 * metrics.horizontalAdvance(QLatin1String("-2147483648")) + 7 * metrics.height();
+    const auto widthOf = [&metrics](const char *key) { return metrics.horizontalAdvance(textOf(key)); };
+    const int labels = std::max(widthOf(keys::IntRangeFrom) + widthOf(keys::IntRangeTo),
+                                widthOf(keys::FloatRangeFrom) + widthOf(keys::FloatRangeTo));
+    const int rangeWidth =
+        labels + 2 * metrics.horizontalAdvance(QLatin1String("-2147483648")) + 7 * metrics.height();
     topView->setMinimumValueWidth(rangeWidth);
     chosenList->setMinimumValueWidth(rangeWidth);
 }

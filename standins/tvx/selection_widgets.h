@@ -4,12 +4,10 @@
 class QComboBox;
 class QDialog;
 class QDialogButtonBox;
-class QHBoxLayout;
 class QLabel;
 class QLayout;
 class QLineEdit;
 class QPushButton;
-class QString;
 class QWidget;
 
 namespace Zudunmaf

@@ -4,6 +4,7 @@
 #include "tvx/match_highlight_delegate.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -43,6 +44,7 @@ TopTable::TopTable(QWidget *parent)
     , m_delegate(new MatchHighlightDelegate(this))
 {
     setItemDelegate(m_delegate);
+    connect(this, &QTableWidget::doubleClicked, this, &TopTable::rowsActivated);
 }
 
 void TopTable::fill(const QList<QTableWidgetItem *> &items)
@@ -52,6 +54,7 @@ void TopTable::fill(const QList<QTableWidgetItem *> &items)
     const int scrolled = verticalScrollBar()->value();
     const Pass pass(this);
 
+    ++m_fills;
     m_request = Request::None;
     // Rows that are used again would stay hidden.
     setRowCount(0);
@@ -91,6 +94,18 @@ void TopTable::setRowVisible(int row, bool visible)
     setRowShown(row, visible);
     if (visible)
         m_firstVisibleBound = std::min(m_firstVisibleBound, row);
+    if (m_passes == 0 && !m_announcing)
+        announceHiddenOrShown();
+}
+
+void TopTable::announceHiddenOrShown()
+{
+    m_announcing = true;
+    const auto announce = [this] {
+        m_announcing = false;
+        Q_EMIT rowsHiddenOrShown();
+    };
+    QMetaObject::invokeMethod(this, announce, Qt::QueuedConnection);
 }
 
 int TopTable::firstVisibleRow()
@@ -152,6 +167,23 @@ int TopTable::wantedNameWidth() const
             longest = text;
     }
     return fontMetrics().horizontalAdvance(longest) + 2 * fontMetrics().height();
+}
+
+void TopTable::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+        AttributeTable::keyPressEvent(event);
+    else if (!event->isAutoRepeat())
+        Q_EMIT rowsActivated();
+}
+
+/// The view takes two clicks of any button for a double-click.
+void TopTable::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        AttributeTable::mouseDoubleClickEvent(event);
+    else
+        mousePressEvent(event);
 }
 
 void TopTable::rowsReordered()

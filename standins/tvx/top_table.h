@@ -36,6 +36,8 @@ public:
     /// Replaces the rows by two clones of each item, all visible. The current attribute stays current where
     /// it is among them, without scrolling; else the first row is.
     void fill(const QList<QTableWidgetItem *> &items);
+    /// How often fill() was called: an item that was asked for before the last time is gone.
+    int fillCount() const { return m_fills; }
     /// The items that stand for the rows, hidden ones too, in row order.
     QList<QTableWidgetItem *> allItems() const;
     /// Shows or hides a row; out of range, nothing happens.
@@ -49,7 +51,15 @@ public:
     /// A width that holds the names, measured on a sample of the rows.
     int wantedNameWidth() const;
 
+Q_SIGNALS:
+    /// Enter was pressed, or a row clicked twice.
+    void rowsActivated();
+    /// Rows were hidden or shown outside of any pass. Comes once for all of them, from the event loop.
+    void rowsHiddenOrShown();
+
 protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void rowsReordered() override;
 
 private:
@@ -57,6 +67,7 @@ private:
     void forgetRowNumbers();
     int firstVisibleRow();
     void endPass();
+    void announceHiddenOrShown();
 
     MatchHighlightDelegate *m_delegate;
     /// Kept, since every key in the filter asks for it.
@@ -66,6 +77,8 @@ private:
     /// No row before this one is visible.
     int m_firstVisibleBound = 0;
     int m_passes = 0;
+    int m_fills = 0;
+    bool m_announcing = false;
     enum class Request { None, FirstVisible, Row } m_request = Request::None;
     int m_requestedRow = -1;
 };

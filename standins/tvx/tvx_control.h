@@ -18,8 +18,9 @@ namespace tvx
 /// the top view, if there is one: in "Assign Attributes" that row leaves the top view.
 ///
 /// The item is of the dialog's own class and holds a definition, whether made with createNewItem() or cloned
-/// from what findItemByAttrName() gives. False, and nothing added, where it names no attribute, or where that
-/// attribute is chosen already in a dialog that takes each one once.
+/// from what findItemByAttrName() gives. False, and nothing added, where it names no attribute or holds no
+/// definition, or where it holds a value and the attribute has one in the list already. Conditions on one
+/// attribute may be several.
 GDM_EXPORT bool addChosen(TvxAttributesSelectionDialog &dialog, const QTableWidgetItem &item);
 
 } // namespace tvx

@@ -4,6 +4,7 @@
 #include "gdm/gdm_qt.h"
 #include "gen/gen_control.h"
 
+#include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QScreen>
 #include <QStyledItemDelegate>
@@ -13,18 +14,6 @@ using namespace Zudunmaf;
 
 namespace
 {
-
-constexpr char Named[] = R"(
-{"name":"plated","group":"Holes","type":"boolean","entities":"all","default":true},
-{"name":"note","prompt":"Note","group":"Texts","type":"text","entities":"all","default":"none"},
-{"name":"colour","group":"Texts","type":"text","entities":"all","default":"blue","choices":["red","green"]},
-{"name":"finish","group":"Board","type":"option","entities":"all","default":"matt","options":["matt","gloss"]},
-{"name":"width","prompt":"Width of it","type":"integer","entities":"all","default":7,"min":1,"max":100},
-{"name":"depth","type":"float","entities":"all","default":0.5,"min":-100,"max":2000,"units":"mm"},
-{"name":"%1","type":"integer","entities":"all","default":0,"min":-2147483648,"max":2147483647},
-{"name":"stackup","group":"Board","type":"text","entities":["layer"]})";
-constexpr char Pad[] =
-    R"(,{"name":"pad_%1","group":"Pads","type":"integer","entities":"all","default":%2,"min":0,"max":9})";
 
 QtMessageHandler g_forward = nullptr;
 QStringList g_warnings;
@@ -42,14 +31,13 @@ void watchMessages(QtMsgType type, const QMessageLogContext &context, const QStr
 class CommitWatch : public QStyledItemDelegate
 {
 public:
-    using Option = QStyleOptionViewItem;
-    CommitWatch(QAbstractItemDelegate *inner, QStringList *events, QObject *parent)
-        : QStyledItemDelegate(parent)
+    explicit CommitWatch(QAbstractItemDelegate *inner)
+        : QStyledItemDelegate(inner)
         , m_inner(inner)
-        , m_events(events)
     {
     }
-    QWidget *createEditor(QWidget *parent, const Option &option, const QModelIndex &index) const override
+    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                          const QModelIndex &index) const override
     {
         return m_inner->createEditor(parent, option, index);
     }
@@ -59,17 +47,16 @@ public:
     }
     void setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const override
     {
-        *m_events << QStringLiteral("commit");
+        DialogTest::events << "commit";
         m_inner->setModelData(editor, model, index);
     }
-    QSize sizeHint(const Option &option, const QModelIndex &index) const override
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
         return m_inner->sizeHint(option, index);
     }
 
 private:
     QAbstractItemDelegate *m_inner;
-    QStringList *m_events;
 };
 
 /// A dialog that notes what its base calls.
@@ -77,20 +64,18 @@ template <class Dialog>
 class Watched : public Dialog
 {
 public:
-    Watched(int did, QStringList *events)
-        : Dialog(did)
-        , m_events(events)
-    {
-    }
+    using Dialog::Dialog;
     void filterAttributeList() override
     {
-        *m_events << QStringLiteral("pass");
+        DialogTest::events << "pass";
         Dialog::filterAttributeList();
     }
     void addButtonClickedCB(QTableWidgetItem *item) override
     {
         note('+', "topView", *item);
         Dialog::addButtonClickedCB(item);
+        if (DialogTest::afterAdding)
+            DialogTest::afterAdding();
     }
     void removeButtonClickedCB(QTableWidgetItem *item) override
     {
@@ -103,34 +88,48 @@ private:
     void note(char sign, const char *table, const QTableWidgetItem &item)
     {
         const bool there = item.tableWidget() && item.tableWidget()->objectName() == QLatin1String(table);
-        *m_events << QLatin1Char(there ? sign : '!') + item.data(DmlAttrNameRole).toString();
+        DialogTest::events << QLatin1Char(there ? sign : '!') + item.data(DmlAttrNameRole).toString();
     }
-
-    QStringList *m_events;
 };
 
+template <class Widget>
+void find(const QDialog &dialog, std::initializer_list<std::pair<const char *, Widget **>> widgets)
+{
+    for (const auto &[name, widget] : widgets) {
+        *widget = dialog.findChild<Widget *>(QLatin1String(name));
+        if (!*widget)
+            qFatal("the dialog has no %s", name);
+    }
+}
+
 } // namespace
+
+void DialogTest::initTestCase_data()
+{
+    QTest::addColumn<bool>("inFilter");
+    QTest::newRow("filter") << true;
+    QTest::newRow("assign") << false;
+}
 
 void DialogTest::initTestCase()
 {
     g_forward = qInstallMessageHandler(watchMessages);
+    QApplication::setStyle(QStringLiteral("Fusion"));
     gen::setCatalogueDirectory(QStringLiteral(ZUDUNMAF_CATALOGUES));
 }
 
 void DialogTest::init()
 {
-    QString attributes = QString(Named).arg(LongName);
-    for (int i = 0; i < 40; ++i)
-        attributes += QString(Pad).arg(i, 2, 10, QLatin1Char('0')).arg(i % 3);
-    const QString json = R"({"dictionaries":[{"id":0,"attributes":[)" + attributes + "]}]}";
     QString error;
-    QVERIFY2(dml::loadJson(json.toUtf8(), QStringLiteral("inline"), &error), qPrintable(error));
-    events.clear();
+    QVERIFY2(dml::loadFile(QStringLiteral(ZUDUNMAF_DICTIONARY), &error), qPrintable(error));
     g_warnings.clear();
+    QVERIFY(open());
+    events.clear();
 }
 
 void DialogTest::cleanup()
 {
+    afterAdding = nullptr;
     dialog.reset();
     dml::unloadAll();
     gen::setLanguage(QString());
@@ -138,20 +137,22 @@ void DialogTest::cleanup()
     QCOMPARE(g_warnings, QStringList());
 }
 
-void DialogTest::addRows(std::initializer_list<const char *> ways)
+bool DialogTest::inFilter()
 {
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QString>("way");
-    for (const char *way : ways) {
-        QTest::addRow("filter %s", way) << int(Filter) << way;
-        QTest::addRow("assign %s", way) << int(Assign) << way;
-    }
+    QFETCH_GLOBAL(bool, inFilter);
+    return inFilter;
 }
 
-DialogTest::Kind DialogTest::kind()
+QString DialogTest::pick(const char *ofFilter, const char *ofAssign)
 {
-    QFETCH(int, kind);
-    return Kind(kind);
+    return QLatin1String(inFilter() ? ofFilter : ofAssign);
+}
+
+void DialogTest::addWays(std::initializer_list<const char *> ways)
+{
+    QTest::addColumn<QString>("way");
+    for (const char *way : ways)
+        QTest::newRow(way) << way;
 }
 
 QString DialogTest::way()
@@ -160,36 +161,24 @@ QString DialogTest::way()
     return way;
 }
 
-QString DialogTest::pick(const char *inFilter, const char *inAssign)
+void DialogTest::create(int did)
 {
-    return QLatin1String(kind() == Filter ? inFilter : inAssign);
-}
-
-void DialogTest::create(Kind kind, int did)
-{
-    if (kind == Filter)
-        dialog = std::make_unique<Watched<AttributesFilterDialog>>(did, &events);
+    dialog.reset();
+    if (inFilter())
+        dialog = std::make_unique<Watched<AttributesFilterDialog>>(did);
     else
-        dialog = std::make_unique<Watched<FeatureAttributesDialog>>(did, &events);
-    const auto find = [this](const char *name, auto *widget) {
-        *widget = dialog->findChild<std::remove_pointer_t<decltype(widget)>>(QLatin1String(name));
-        if (!*widget)
-            qFatal("the dialog has no %s", name);
-    };
-    find("entityList", &entityList);
-    find("groupList", &groupList);
-    find("filterText", &filterText);
-    find("topView", &topView);
-    find("chosenList", &chosenList);
-    find("addButton", &addButton);
-    find("removeButton", &removeButton);
-    find("undoButton", &undoButton);
-    find("clearButton", &clearButton);
-    find("offeredLabel", &offeredLabel);
-    find("chosenLabel", &chosenLabel);
-    find("description", &description);
-    find("preview", &preview);
-    dialog->setItemDelegate(new CommitWatch(chosenList->itemDelegate(), &events, dialog.get()));
+        dialog = std::make_unique<Watched<FeatureAttributesDialog>>(did);
+    find<QComboBox>(*dialog, {{"entityList", &entityList}, {"groupList", &groupList}});
+    find<QLineEdit>(*dialog, {{"filterText", &filterText}});
+    find<QTableWidget>(*dialog, {{"topView", &topView}, {"chosenList", &chosenList}});
+    find<QPushButton>(*dialog, {{"addButton", &addButton}, {"removeButton", &removeButton}});
+    find<QPushButton>(*dialog, {{"undoButton", &undoButton}, {"clearButton", &clearButton}});
+    find<QLabel>(*dialog, {{"offeredLabel", &offeredLabel}, {"chosenLabel", &chosenLabel}});
+    find<QLabel>(*dialog, {{"description", &description}, {"preview", &preview}});
+    const auto *standardButtons = dialog->findChild<QDialogButtonBox *>();
+    okButton = standardButtons->button(QDialogButtonBox::Ok);
+    cancelButton = standardButtons->button(QDialogButtonBox::Cancel);
+    dialog->setItemDelegate(new CommitWatch(chosenList->itemDelegate()));
     connect(dialog.get(), &QDialog::accepted, this, [this] { events << "accepted"; });
     connect(dialog.get(), &QDialog::rejected, this, [this] { events << "rejected"; });
     auto *menu = dialog->findChild<QMenu *>(QString(), Qt::FindDirectChildrenOnly);
@@ -203,9 +192,9 @@ bool DialogTest::show()
     return QTest::qWaitForWindowActive(dialog.get()) && QApplication::focusWidget();
 }
 
-bool DialogTest::open(Kind kind, int did)
+bool DialogTest::open(int did)
 {
-    create(kind, did);
+    create(did);
     return show();
 }
 
@@ -218,28 +207,17 @@ void DialogTest::press(int key, Qt::KeyboardModifiers modifiers) const
     QCoreApplication::processEvents();
 }
 
-void DialogTest::type(const QString &text) const
+void DialogTest::press(std::initializer_list<int> keys) const
 {
-    for (const QChar c : text) {
-        if (c == QLatin1Char('\t'))
-            press(Qt::Key_Tab);
-        else
-            QTest::keyClick(dialog->windowHandle(), c.toLatin1());
-    }
-    QCoreApplication::processEvents();
+    for (int key : keys)
+        press(key);
 }
 
-bool DialogTest::pressMnemonic(const QString &text) const
+void DialogTest::type(const QString &text) const
 {
-    const QString letter = QKeySequence::mnemonic(text).toString(QKeySequence::PortableText).right(1);
-    if (letter.isEmpty())
-        return false;
-    press(letter.at(0).unicode(), Qt::AltModifier);
-    // A button stays down for a moment before it counts as clicked.
-    return QTest::qWaitFor([this] {
-        const auto buttons = dialog->findChildren<QPushButton *>();
-        return std::none_of(buttons.begin(), buttons.end(), [](auto *button) { return button->isDown(); });
-    });
+    for (const QChar c : text)
+        QTest::keyClick(dialog->windowHandle(), c.toLatin1());
+    QCoreApplication::processEvents();
 }
 
 void DialogTest::clickAt(const QWidget *widget, const QPoint &place, Qt::KeyboardModifiers modifiers,
@@ -268,14 +246,6 @@ void DialogTest::clickHeader(const QTableWidget *table, int column) const
 {
     const QHeaderView *header = table->horizontalHeader();
     clickAt(header->viewport(), QPoint(header->sectionViewportPosition(column) + 20, header->height() / 2));
-}
-
-void DialogTest::turnWheelOver(QWidget *widget) const
-{
-    const QPoint place = widget->rect().center();
-    QWheelEvent event(place, widget->mapToGlobal(place), QPoint(), QPoint(0, -120), Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(widget, &event);
 }
 
 void DialogTest::setFilter(const QString &text) const
@@ -369,12 +339,5 @@ QImage DialogTest::screenshot(const QWidget *widget, const QRect &area) const
 {
     QTest::qWait(20);
     const QRect place(widget->mapTo(dialog.get(), area.topLeft()), area.size());
-    return dialog->screen()
-        ->grabWindow(dialog->winId(), place.x(), place.y(), place.width(), place.height())
-        .toImage();
-}
-
-QPushButton *DialogTest::standardButton(QDialogButtonBox::StandardButton which) const
-{
-    return dialog->findChild<QDialogButtonBox *>()->button(which);
+    return dialog->screen()->grabWindow(dialog->winId()).toImage().copy(place);
 }

@@ -5,7 +5,6 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -13,37 +12,38 @@
 #include <QTableWidget>
 #include <QtTest>
 
+#include <functional>
 #include <memory>
 
-/// A test over one of the two dialogs on the screen, driven as a user drives it: keys go to the window and
-/// find their widget by the focus, clicks by their place. Each function starts with the same dictionary and
-/// ends with no dialog, and with no Qt warning given. On offer are plated, note, colour, finish, width, depth,
-/// LongName, stackup (in the filter dialog alone) and pad_00 to pad_39.
+/// A test over each of the two dialogs in turn, driven as a user drives it: keys go to the window and find
+/// their widget by the focus, clicks by their place. Each function starts with the dialog on the screen and
+/// nothing chosen, and ends with no Qt warning given. On offer are the attributes of dictionary.json: plated,
+/// note, colour, finish, width, depth, LongName, stackup (in the filter dialog alone) and pad_00 to pad_39.
 class DialogTest : public QObject
 {
     Q_OBJECT
 
 public:
-    enum Kind { Filter, Assign };
     enum { Name = 0, Value = 1 };
     static constexpr char LongName[] = "serial_number_that_has_a_name_of_sixty_four_letters_as_no_other";
 
-    /// A row of test data for both dialogs and each way.
-    static void addRows(std::initializer_list<const char *> ways = {""});
-    static Kind kind();
+    /// Whether this is the turn of the filter dialog, and what of two texts belongs to the turn.
+    static bool inFilter();
+    static QString pick(const char *ofFilter, const char *ofAssign);
+    /// A row of test data for each way, and the way of the row.
+    static void addWays(std::initializer_list<const char *> ways);
     static QString way();
-    static QString pick(const char *inFilter, const char *inAssign);
 
-    /// Shows a dialog over dictionary `did` and waits until the keyboard is its.
-    bool open(Kind kind, int did = -1);
-    void create(Kind kind, int did = -1);
+    /// Another dialog in place of the one that is there, over dictionary `did`; open() also shows it and
+    /// waits until the keyboard is its.
+    void create(int did = -1);
+    bool open(int did = -1);
     bool show();
 
     void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
+    void press(std::initializer_list<int> keys) const;
     /// A tab is the Tab key.
     void type(const QString &text) const;
-    /// Alt and the letter that the text marks; false where it marks none.
-    bool pressMnemonic(const QString &text) const;
     void clickAt(const QWidget *widget, const QPoint &place, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
                  Qt::MouseButton button = Qt::LeftButton) const;
     void click(QWidget *widget) const { clickAt(widget, widget->rect().center()); }
@@ -52,7 +52,6 @@ public:
                Qt::MouseButton button = Qt::LeftButton) const;
     void doubleClick(QTableWidget *table, const QString &attribute, int column = Name) const;
     void clickHeader(const QTableWidget *table, int column) const;
-    void turnWheelOver(QWidget *widget) const;
     void setFilter(const QString &text) const;
     /// Takes the attributes over by clicks and Enter; the first chosen row is current then.
     void choose(const QStringList &attributes) const;
@@ -73,36 +72,24 @@ public:
     QList<QByteArray> records() const;
     /// What stands on the screen: nothing is painted anew for the purpose.
     QImage screenshot(const QWidget *widget, const QRect &area) const;
-    QPushButton *standardButton(QDialogButtonBox::StandardButton which) const;
-    static QMenu *openMenu() { return qobject_cast<QMenu *>(QApplication::activePopupWidget()); }
 
     std::unique_ptr<TvxAttributesSelectionDialog> dialog;
     QComboBox *entityList, *groupList;
     QLineEdit *filterText;
     QTableWidget *topView, *chosenList;
-    QPushButton *addButton, *removeButton, *undoButton, *clearButton;
+    QPushButton *addButton, *removeButton, *undoButton, *clearButton, *okButton, *cancelButton;
     QLabel *offeredLabel, *chosenLabel, *description, *preview;
     /// What happened, in order: "commit", "pass" of the filter, "+name" and "-name" of the hooks, "menu",
     /// "accepted", "rejected".
-    QStringList events;
+    static inline QStringList events;
+    /// Runs at the end of the add hook, until the test function ends.
+    static inline std::function<void()> afterAdding;
 
 private Q_SLOTS:
+    void initTestCase_data();
     void initTestCase();
     void init();
     void cleanup();
 };
-
-/// main() of such a test: without a display unless one is asked for, and in English.
-#define DIALOG_TEST_MAIN(Test)                                                                               \
-    int main(int argc, char **argv)                                                                          \
-    {                                                                                                        \
-        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))                                                  \
-            qputenv("QT_QPA_PLATFORM", "offscreen");                                                         \
-        qputenv("LC_ALL", "C.UTF-8");                                                                        \
-        QApplication::setStyle(QStringLiteral("Fusion"));                                                    \
-        QApplication application(argc, argv);                                                                \
-        Test test;                                                                                           \
-        return QTest::qExec(&test, argc, argv);                                                              \
-    }
 
 #endif
