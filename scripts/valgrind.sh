@@ -1,0 +1,46 @@
+#!/usr/bin/env bash
+# Runs the test programs, and a short stream of the monkey, under valgrind's memcheck. Reads and jumps on what was never
+# set, reads and writes out of bounds, and memory that nothing points to any more count as faults, and so does what the
+# tests themselves find. Nothing is suppressed.
+#   scripts/valgrind.sh              all of them
+#   scripts/valgrind.sh contract     those whose name has the word in it
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. scripts/packages.sh
+
+# shellcheck disable=SC2046
+install_packages valgrind python3 $(build_packages 6)
+build=build/qt6-dev
+cmake --preset qt6-dev >/dev/null
+cmake --build --preset qt6-dev
+
+export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
+# Qt Test ends a function after five minutes, which are few here.
+export QTEST_FUNCTION_TIMEOUT=3600000
+# The code that PCRE makes for a regular expression reads past the end of a text, within its block, on purpose.
+export QT_ENABLE_REGEXP_JIT=0
+memcheck="valgrind --quiet --error-exitcode=9 --leak-check=full --show-leak-kinds=definite,possible"
+memcheck+=" --errors-for-leak-kinds=definite,possible --num-callers=40"
+
+status=0
+mkdir -p "$build/valgrind"
+for program in "$build"/tests/{standins,contract,dialogs}/*; do
+    name=$(basename "$program")
+    if ! [ -f "$program" ] || ! [ -x "$program" ] || [[ $name != *${1:-}* ]]; then
+        continue
+    fi
+    SECONDS=0
+    log=$build/valgrind/$name.log
+    if $memcheck "$program" >"$log" 2>&1; then
+        echo "$name: nothing found, $SECONDS seconds"
+    else
+        grep -aE '^(==|FAIL|QFATAL)' -A 3 "$log" | head -n 60 || true
+        echo "$name: the rest is in $log"
+        status=1
+    fi
+done
+if [[ monkey == *${1:-}* ]]; then
+    python3 tests/monkey/monkey.py "$build/tests/monkey/zudunmaf_monkey" --under "$memcheck" --seed 1 --events 500 ||
+        status=1
+fi
+exit $status

@@ -1,0 +1,295 @@
+// Works both dialogs over the stand-ins by the events on the standard input, each a line of three numbers: what is done,
+// and two numbers from which follows where. Looks after each whether all that must always hold still does, and ends
+// with status 1 where it does not. The same lines do the same in every process. monkey.py writes them.
+#include "dml/dml_control.h"
+#include "gdm/gdm_qt.h"
+#include "gen/gen_control.h"
+#include "tvx/tvx_control.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QMenu>
+#include <QMimeData>
+#include <QSet>
+#include <QTableWidget>
+#include <QTimer>
+#include <QtTest>
+
+#include <algorithm>
+#include <iostream>
+#include <malloc.h>
+#include <memory>
+#include <unistd.h>
+
+using namespace Zudunmaf;
+
+static constexpr unsigned SecondsPerEvent = 60;
+
+static QString s_warning;
+
+class Monkey
+{
+public:
+    Monkey()
+    {
+        // Armed before each event, so that it also ends a menu that holds its opener in a loop of its own.
+        QObject::connect(&m_popupTimer, &QTimer::timeout, &m_popupTimer, [this] { workPopup(); });
+        renew(0);
+    }
+
+    void perform(unsigned kind, unsigned a, unsigned b)
+    {
+        m_popupChoice = b / 64;
+        m_popupTimer.start(0);
+        if (!m_dialog->isVisible() || !m_dialog->isActiveWindow()) {
+            m_dialog->show();
+            m_dialog->activateWindow();
+            (void)QTest::qWaitForWindowActive(m_dialog.get());
+        }
+        m_filtered = false;
+        if (kind < 50)
+            press(a % 12, b);
+        else if (kind < 84)
+            click(kind, a, b);
+        else if (kind < 88)
+            sendToTable(a, b);
+        else if (kind < 99)
+            callHost(a % 11, b);
+        else
+            renew(b);
+        // A button that was pressed by its letter is let go a tenth of a second later.
+        (void)QTest::qWaitFor([this] {
+            const auto buttons = m_dialog->findChildren<QAbstractButton *>();
+            return std::none_of(buttons.begin(), buttons.end(),
+                                [](const auto *button) { return button->isDown(); });
+        });
+        QCoreApplication::processEvents();
+        workPopup();
+        m_popupTimer.stop();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    /// Tells in one line what does not hold; empty where all does.
+    QString fault() const
+    {
+        QString fault = s_warning;
+        QSet<const void *> records;
+        for (int cell = 0; fault.isEmpty() && cell < 2 * (rowsOf(0) + rowsOf(1)); ++cell) {
+            const bool chosen = cell / 2 >= rowsOf(0);
+            const int row = cell / 2 - (chosen ? rowsOf(0) : 0);
+            const auto *item = dynamic_cast<const DmlAttrLWI *>(table(chosen)->item(row, cell % 2));
+            if (!item || item->row() != row || item->column() != cell % 2 || !isSound(*item))
+                return QString("row %1 of %2 is broken").arg(row).arg(table(chosen)->objectName());
+            const QVariant value = item->attrValue();
+            const void *record = value.userType() == QMetaType::VoidStar ? value.value<void *>() : item;
+            if (records.contains(record))
+                return QString("row %1 of %2 shares its record").arg(row).arg(table(chosen)->objectName());
+            records.insert(record);
+        }
+        for (int row = 0; fault.isEmpty() && row < rowsOf(1); ++row)
+            fault = faultOfChosen(row);
+        return fault;
+    }
+
+private:
+    /// A fresh dialog takes the place of the present one, or is opened beside it. The number tells which dialog it is,
+    /// over which dictionary, and whether the host loads that anew before.
+    void renew(unsigned number)
+    {
+        m_beside = number % 5 == 4 ? std::move(m_dialog) : nullptr;
+        m_dialog.reset();
+        if (!m_beside && number % 7 == 0) {
+            dml::unloadAll();
+            dml::loadFile(ZUDUNMAF_DICTIONARY);
+        }
+        const int dictionary = number % 31 == 30 ? 99 : -1;
+        m_dialog.reset(new AttributesFilterDialog(dictionary));
+        if (number % 2)
+            m_dialog.reset(new FeatureAttributesDialog(dictionary));
+        QObject::connect(m_dialog->findChild<QMenu *>(), &QMenu::triggered, &m_popupTimer, [this] {
+            if (m_popupChoice % 5)
+                return;
+            // A host that is done with the dialog at an action of its menu.
+            m_dialog->close();
+            m_dialog.release()->deleteLater();
+            renew(4 + m_popupChoice % 2);
+        });
+    }
+
+    void press(unsigned kind, unsigned which)
+    {
+        static const std::string typed = "ae_*?[]\\-0123459.,  ", withControl = "zacvfhe ",
+                                 withAlt = "arluge";
+        static const Qt::Key keys[] = {Qt::Key_Tab,  Qt::Key_Backtab,  Qt::Key_Up,     Qt::Key_Down,
+                                       Qt::Key_Down, Qt::Key_Home,     Qt::Key_End,    Qt::Key_PageDown,
+                                       Qt::Key_F2,   Qt::Key_Return,   Qt::Key_Escape, Qt::Key_Delete,
+                                       Qt::Key_Menu, Qt::Key_Backspace};
+        QWindow *window = m_dialog->windowHandle();
+        if (kind < 3)
+            QTest::keyClick(window, typed[which % typed.size()]);
+        else if (kind < 5)
+            QTest::keyClick(window, withControl[which % withControl.size()], Qt::ControlModifier);
+        else if (kind < 6)
+            QTest::keyClick(window, withAlt[which % withAlt.size()], Qt::AltModifier);
+        else
+            QTest::keyClick(window, keys[which % std::size(keys)],
+                            kind < 7 ? Qt::ShiftModifier : Qt::NoModifier);
+    }
+
+    /// On a cell of a table, or on a place of any widget.
+    void click(unsigned kind, unsigned a, unsigned b)
+    {
+        QTableWidget *cells = table(a);
+        const auto *item = cells->item(int(b % unsigned(rowsOf(a) + 1)), a % 4 / 2);
+        const QList<QWidget *> all = m_dialog->findChildren<QWidget *>();
+        const QWidget *widget = all.at(int(a % unsigned(all.size())));
+        QPoint place(int(b % 997) % qMax(1, widget->width()), int(b / 997) % qMax(1, widget->height()));
+        if (kind % 2 && item && !cells->isRowHidden(item->row())) {
+            cells->scrollToItem(item);
+            widget = cells->viewport();
+            place = cells->visualItemRect(item).center();
+        }
+        if (!widget->isVisible() || widget->window() != m_dialog.get())
+            return;
+        place = widget->mapTo(m_dialog.get(), place);
+        const Qt::KeyboardModifiers modifiers[] = {Qt::NoModifier, Qt::ControlModifier, Qt::ShiftModifier};
+        QTest::mouseClick(m_dialog->windowHandle(), kind % 6 ? Qt::LeftButton : Qt::RightButton,
+                          modifiers[a / 4 % 3], place);
+        if (kind % 3 == 1 && m_dialog->isVisible())
+            QTest::mouseDClick(m_dialog->windowHandle(), Qt::LeftButton, Qt::NoModifier, place);
+    }
+
+    /// A turn of the wheel, and rows that are dropped: of this dialog, of the one beside it or of none.
+    void sendToTable(unsigned a, unsigned b)
+    {
+        QWidget *target = table(a)->viewport();
+        QWidget *focus = a % 3 ? QApplication::focusWidget() : nullptr;
+        QWheelEvent wheel(QPointF(3, 3), QPointF(3, 3), QPoint(), QPoint(0, b % 2 ? 120 : -120), Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(focus ? focus : target, &wheel);
+        const TvxAttributesSelectionDialog *source = b % 5 ? m_dialog.get() : m_beside.get();
+        QMimeData rows;
+        rows.setData(b % 2 ? "application/x-zudunmaf-offered-rows" : "application/x-zudunmaf-chosen-rows",
+                     QByteArray::number(reinterpret_cast<quintptr>(source)));
+        QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &rows, Qt::LeftButton, Qt::NoModifier);
+        QDropEvent drop(QPointF(9, 9), Qt::CopyAction, &rows, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(target, &enter);
+        QCoreApplication::sendEvent(target, &drop);
+    }
+
+    /// What a host may do at any time, and hooks that a base calls late, twice or with an item of another class.
+    void callHost(unsigned what, unsigned number)
+    {
+        const auto rows = m_dialog->getTopListItems(false);
+        const int row = int(number % unsigned(rows.size() + 2)) - 1;
+        QTableWidgetItem foreign;
+        QTableWidgetItem *item = number % 8 ? rows.value(row) : &foreign;
+        switch (what) {
+        case 0:
+            return m_dialog->setDisplayUnits(int(number % unsigned(gen::units().size() + 3)) - 1);
+        case 1:
+            return m_dialog->buildInitialLists();
+        case 2:
+            return m_dialog->setTopViewRowsVisiblity(row, number % 3);
+        case 3:
+            return void(item && tvx::addChosen(*m_dialog, *item));
+        case 4:
+            return m_dialog->setTopViewCurrentItem(rows.value(row));
+        case 5:
+            return void(m_dialog->close());
+        case 6:
+            return number % 3 ? m_dialog->addButtonClickedCB(item) : m_dialog->removeButtonClickedCB(item);
+        case 7:
+            return m_beside ? m_beside.swap(m_dialog) : void();
+        default:
+            m_dialog->filterAttributeList();
+            m_filtered = true;
+        }
+    }
+
+    /// Does one thing in an open list or menu, and never leaves one open.
+    void workPopup()
+    {
+        if (QWidget *popup = QApplication::activePopupWidget()) {
+            QTest::keyClick(popup, m_popupChoice % 2 ? Qt::Key_Down : Qt::Key_End);
+            if (QApplication::activePopupWidget() == popup)
+                QTest::keyClick(popup, m_popupChoice % 3 ? Qt::Key_Return : Qt::Key_Escape);
+        }
+        while (QWidget *left = QApplication::activePopupWidget())
+            left->close();
+    }
+
+    QTableWidget *table(unsigned number) const
+    {
+        return m_dialog->findChild<QTableWidget *>(number % 2 ? "chosenList" : "topView");
+    }
+    int rowsOf(unsigned number) const { return table(number)->rowCount(); }
+
+    /// Ranges in order, and whole numbers within their limits.
+    static bool isSound(const DmlAttrLWI &item)
+    {
+        const auto &definition = *static_cast<const DmlAttrDef *>(item.dmlAttribute().value<void *>());
+        const QVariant value = item.data(DmlAttrValueRole);
+        if (value.userType() == QMetaType::Int)
+            return value.toInt() >= definition.intMin && value.toInt() <= definition.intMax;
+        return value.toPointF().x() <= value.toPointF().y();
+    }
+
+    /// Lines match cells, and a pass takes what is chosen in "Assign Attributes" off the offer.
+    QString faultOfChosen(int row) const
+    {
+        const auto *filter = dynamic_cast<const AttributesFilterDialog *>(m_dialog.get());
+        const auto *item = static_cast<const DmlAttrLWI *>(m_dialog->getChosenList().value(row));
+        const QString label = table(1)->item(row, 0)->text();
+        const QString shown = item->text();
+        QString line = shown;
+        if (filter && shown.isEmpty())
+            line = label;
+        else if (filter && item->data(DmlAttrTypeRole).toInt() >= DmlAttrInteger)
+            line.replace(" to ", " <= " + label + " <= ");
+        else if (filter)
+            line.prepend(label + " = ");
+        if (line != (filter ? filter->getFiltersAsStringList().value(row) : item->valueAsString()))
+            return QString("row %1 shows \"%2\" and gives another line").arg(row).arg(shown);
+
+        const QString name = item->data(DmlAttrNameRole).toString();
+        const QTableWidgetItem *offered = m_dialog->findItemByAttrName(name);
+        if (!filter && m_filtered && offered && !table(0)->isRowHidden(offered->row()))
+            return name + " is chosen and still on offer";
+        return QString();
+    }
+
+    std::unique_ptr<TvxAttributesSelectionDialog> m_dialog, m_beside;
+    bool m_filtered = false;
+    QTimer m_popupTimer;
+    unsigned m_popupChoice = 0;
+};
+
+/// Each event is told before it is done: what was told when the process ends is the stream up to the fault. With it
+/// goes what the process holds by then, bytes and open files.
+int main(int argc, char **argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("LC_ALL", "C.UTF-8");
+    qputenv("QT_HASH_SEED", "0");
+    const QApplication application(argc, argv);
+    QApplication::setKeyboardInputInterval(SecondsPerEvent * 1000);
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
+        // What the platform without a display says of itself tells nothing of the dialogs.
+        if (type != QtDebugMsg && type != QtInfoMsg && !text.startsWith("This plugin does not support "))
+            s_warning = text;
+    });
+    Monkey monkey;
+    for (unsigned kind, a, b; std::cin >> kind >> a >> b;) {
+        std::cout << kind << ' ' << a << ' ' << b << ' ' << mallinfo2().uordblks << ' '
+                  << QDir("/proc/self/fd").count() << std::endl;
+        alarm(SecondsPerEvent);
+        monkey.perform(kind, a, b);
+        if (!monkey.fault().isEmpty()) {
+            std::cerr << qPrintable(monkey.fault()) << std::endl;
+            return 1;
+        }
+    }
+}
