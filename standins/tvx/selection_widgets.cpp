@@ -2,11 +2,12 @@
 
 #include "gdm/host/message_keys.h"
 #include "tvx/button_picture.h"
+#include "tvx/choice_list.h"
 #include "tvx/chosen_table.h"
+#include "tvx/text_lines.h"
 #include "tvx/top_table.h"
 #include "tvx/tvx_texts.h"
 
-#include <QComboBox>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QGuiApplication>
@@ -51,31 +52,11 @@ QPushButton *button(QDialog *dialog, const char *objectName, const char *text, c
     return button;
 }
 
-QComboBox *list(QDialog *dialog, const char *objectName, const char *spokenName)
-{
-    QComboBox *list = named(new QComboBox(dialog), objectName, spokenName);
-    list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    list->setMinimumContentsLength(12);
-    list->setMaxVisibleItems(20);
-    return list;
-}
-
 QLabel *label(const char *text, QWidget *buddy)
 {
     auto *label = new QLabel(textOf(text), buddy->parentWidget());
     label->setBuddy(buddy);
     return label;
-}
-
-QLabel *textLine(QDialog *dialog, const char *objectName, const char *spokenName)
-{
-    QLabel *line = named(new QLabel(dialog), objectName, spokenName);
-    line->setTextFormat(Qt::PlainText);
-    line->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    line->setWordWrap(true);
-    line->setAlignment(Qt::AlignLeading | Qt::AlignTop);
-    line->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    return line;
 }
 
 } // namespace
@@ -99,8 +80,8 @@ SelectionWidgets::SelectionWidgets(QDialog *dialog)
 
 void SelectionWidgets::createChoice(QDialog *dialog)
 {
-    entityList = list(dialog, "entityList", texts::Entity);
-    groupList = list(dialog, "groupList", texts::Group);
+    entityList = named(new ChoiceList(dialog), "entityList", texts::Entity);
+    groupList = named(new ChoiceList(dialog), "groupList", texts::Group);
     filterText = named(new QLineEdit(dialog), "filterText", texts::Filter);
     filterText->setPlaceholderText(textOf(texts::FilterHint));
     filterText->setClearButtonEnabled(true);
@@ -136,8 +117,8 @@ void SelectionWidgets::createButtons(QDialog *dialog)
 
 void SelectionWidgets::createTexts(QDialog *dialog)
 {
-    description = textLine(dialog, "description", texts::Description);
-    preview = textLine(dialog, "preview", texts::Preview);
+    description = named(new TextLines(dialog), "description", texts::Description);
+    preview = named(new TextLines(dialog), "preview", texts::Preview);
     preview->setAlignment(Qt::AlignLeading | Qt::AlignVCenter);
     offeredLabel = label(texts::Offered, topView);
     offeredLabel->setObjectName(QLatin1String("offeredLabel"));

@@ -58,12 +58,10 @@ void TopTable::fill(const QList<QTableWidgetItem *> &items)
     m_request = Request::None;
     // Rows that are used again would stay hidden.
     setRowCount(0);
-    forgetRowNumbers();
     rowOrder().rowsReplaced();
     placeClones(items);
     fixRowHeight();
     restoreOrder();
-    forgetRowNumbers();
 
     const QTableWidgetItem *found = name.isNull() ? nullptr : findByName(name);
     const bool autoScroll = hasAutoScroll();
@@ -82,9 +80,13 @@ void TopTable::placeClones(const QList<QTableWidgetItem *> &items)
     // closer they lie together.
     for (const int column : {NameColumn, ValueColumn}) {
         int row = 0;
-        for (const QTableWidgetItem *item : items)
-            setItem(row++, column, item->clone());
+        m_items.clear(); // in the end it holds those of column 1
+        for (const QTableWidgetItem *item : items) {
+            m_items.append(item->clone());
+            setItem(row++, column, m_items.last());
+        }
     }
+    forgetRowNumbers();
 }
 
 void TopTable::setRowVisible(int row, bool visible)
@@ -188,6 +190,7 @@ void TopTable::mouseDoubleClickEvent(QMouseEvent *event)
 
 void TopTable::rowsReordered()
 {
+    m_items = rowItems(false);
     forgetRowNumbers();
 }
 
@@ -198,7 +201,6 @@ QList<QTableWidgetItem *> TopTable::allItems() const
 
 void TopTable::forgetRowNumbers()
 {
-    m_items = rowItems(false);
     m_rowOfName.clear();
     m_namesKnown = false;
     m_firstVisibleBound = 0;

@@ -11,6 +11,16 @@ char lowered(char character)
     return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
 }
 
+/// Where in the label a match of the rest of a pattern can begin at the earliest.
+const char *earliestStart(const char *label, const char *pattern)
+{
+    if (*pattern == '?' || *pattern == '*')
+        return label;
+    while (*label && lowered(*label) != *pattern)
+        ++label;
+    return label;
+}
+
 bool isAscii(const char *text)
 {
     unsigned char bits = 0;
@@ -77,21 +87,21 @@ bool FilterPattern::matches(const char *label) const
 /// star takes one more character: no earlier star can do better, so there is nothing else to come back to.
 bool FilterPattern::matchesDirectly(const char *label) const
 {
-    const char *pattern = m_lowered.constData() + 1;
+    const char *pattern = m_lowered.constData();
     const char *afterStar = pattern;
     const char *starEnd = label;
     while (*label) {
         if (*pattern == '*') {
             afterStar = ++pattern;
-            starEnd = label;
             if (!*pattern)
                 return true;
+            label = starEnd = earliestStart(label, pattern);
         } else if (*pattern == '?' || *pattern == lowered(*label)) {
             ++pattern;
             ++label;
         } else {
             pattern = afterStar;
-            label = ++starEnd;
+            label = starEnd = earliestStart(starEnd + 1, pattern);
         }
     }
     while (*pattern == '*')

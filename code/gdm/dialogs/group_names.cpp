@@ -14,7 +14,12 @@ GroupNames::GroupNames(const QString &firstRow)
 
 void GroupNames::add(const DmlAttrDef &definition)
 {
-    const QString group = fieldString(definition.group);
+    // A dictionary has many attributes and few groups: most are told by their bytes, which takes no QString. Bytes
+    // that differ may still read alike, where they are no text in the encoding.
+    const FieldText<sizeof definition.group> bytes(definition.group);
+    if (!m_seenBytes.insert(bytes.bytes()).second)
+        return;
+    const QString group = bytes.toString();
     if (m_seen.contains(group))
         return;
     m_seen.insert(group);

@@ -5,6 +5,9 @@
 #include <QString>
 #include <QStringList>
 
+#include <string>
+#include <unordered_set>
+
 struct DmlAttrDef;
 
 namespace Zudunmaf
@@ -23,6 +26,7 @@ public:
 private:
     QStringList m_names;
     QSet<QString> m_seen;
+    std::unordered_set<std::string> m_seenBytes;
 };
 
 } // namespace Zudunmaf

@@ -51,17 +51,21 @@ QString chosenText(const DmlAttrDef &definition, const DmlAttrValue &condition)
 } // namespace
 
 AttrFilterLWI::AttrFilterLWI()
+    : AttrFilterLWI(DmlAttrValue())
+{
+}
+
+AttrFilterLWI::AttrFilterLWI(const DmlAttrValue &condition)
     : DmlAttrLWI(ItemType_AttrFilter)
 {
-    takeRecord();
+    takeRecord(condition);
     setFlags(flags() | Qt::ItemIsEditable);
 }
 
 AttrFilterLWI::AttrFilterLWI(const AttrFilterLWI &other)
     : DmlAttrLWI(other)
 {
-    takeRecord();
-    std::memcpy(record(), other.record(), sizeof(DmlAttrValue));
+    takeRecord(*other.record());
 }
 
 AttrFilterLWI &AttrFilterLWI::operator=(const AttrFilterLWI &other)
@@ -79,10 +83,10 @@ AttrFilterLWI::~AttrFilterLWI()
         gen__mem_free(condition, 1, __FILE__, __LINE__);
 }
 
-void AttrFilterLWI::takeRecord()
+void AttrFilterLWI::takeRecord(const DmlAttrValue &condition)
 {
-    void *memory = gen__mem_malloc(sizeof(DmlAttrValue), 1, __FILE__, __LINE__);
-    std::memset(memory, 0, sizeof(DmlAttrValue));
+    void *memory = gen__mem_malloc(sizeof condition, 1, __FILE__, __LINE__);
+    std::memcpy(memory, &condition, sizeof condition);
     m_attrValue = variantOfRecord(memory);
 }
 
@@ -93,11 +97,12 @@ DmlAttrValue *AttrFilterLWI::record() const
 
 QTableWidgetItem *AttrFilterLWI::clone() const
 {
-    AttrFilterLWI *copy = new AttrFilterLWI;
-    copy->setDisplayValue(true);
-    copy->setDmlAttribute(m_dmlAttribute);
-    copy->setAttrValue(m_attrValue);
-    copy->setDisplayPrompt(m_displayPrompt);
+    // Past the setters, which would prime the record only for the condition to be written over it: a base dialog
+    // clones each row of a dictionary twice.
+    AttrFilterLWI *copy = new AttrFilterLWI(*record());
+    copy->m_dmlAttribute = m_dmlAttribute;
+    copy->m_displayPrompt = m_displayPrompt;
+    copy->m_displayValue = true;
     return copy;
 }
 

@@ -51,7 +51,8 @@ public:
     void setValueFromString(const QString &text) override;
 
 private:
-    void takeRecord();
+    explicit AttrFilterLWI(const DmlAttrValue &condition);
+    void takeRecord(const DmlAttrValue &condition);
     DmlAttrValue *record() const;
     bool isShown() const;
     QVariant conditionValue(const DmlAttrDef &definition) const;

@@ -28,12 +28,13 @@ FeatureAttrLWI::~FeatureAttrLWI() = default;
 
 QTableWidgetItem *FeatureAttrLWI::clone() const
 {
+    // Past setDmlAttribute(), which would make a default value only for this one to be written over it.
     FeatureAttrLWI *copy = new FeatureAttrLWI;
-    copy->setDisplayValue(true);
-    copy->setDmlAttribute(m_dmlAttribute);
-    copy->setAttrValue(m_attrValue);
-    copy->setDisplayPrompt(m_displayPrompt);
-    copy->setDisplayUnits(m_displayUnits);
+    copy->m_dmlAttribute = m_dmlAttribute;
+    copy->m_attrValue = m_attrValue;
+    copy->m_displayPrompt = m_displayPrompt;
+    copy->m_displayUnits = m_displayUnits;
+    copy->m_displayValue = true;
     return copy;
 }
 
