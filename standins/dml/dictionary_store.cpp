@@ -37,6 +37,7 @@ Dictionary *DictionaryStore::find(int did) const
 QVector<int> DictionaryStore::ids() const
 {
     QVector<int> ids;
+    ids.reserve(int(m_dictionaries.size()));
     for (const auto &entry : m_dictionaries)
         ids.append(entry.first);
     return ids;
