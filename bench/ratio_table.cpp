@@ -1,5 +1,6 @@
 #include "ratio_table.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 
@@ -56,9 +57,15 @@ void RatioTable::ReportRuns(const std::vector<Run> &runs)
         const std::size_t work = name.find('/');
         const std::size_t subject = name.find('/', work + 1);
         const std::size_t size = name.find('/', subject + 1);
-        if (run.aggregate_name == "median" || run.run_type == Run::RT_Iteration)
-            m_figures[name.substr(0, size)] = run.GetAdjustedRealTime();
+        if (run.run_type == Run::RT_Iteration)
+            keepLowest(name.substr(0, size), run.GetAdjustedRealTime());
     }
+}
+
+void RatioTable::keepLowest(const std::string &name, double figure)
+{
+    const auto kept = m_figures.emplace(name, figure).first;
+    kept->second = std::min(kept->second, figure);
 }
 
 double RatioTable::figure(const std::string &name) const

@@ -9,8 +9,8 @@
 namespace Zudunmaf::bench
 {
 
-/// Reports runs as the console does and keeps their times, so that the table of ratios can be printed behind
-/// them. A run is named WORK/SUBJECT/SIZE.
+/// Reports runs as the console does and keeps the lowest time of each work, so that the table of ratios can be
+/// printed behind them: what else the machine does only ever adds to a time. A run is named WORK/SUBJECT/SIZE.
 class RatioTable : public benchmark::ConsoleReporter
 {
 public:
@@ -23,6 +23,7 @@ public:
     bool print() const;
 
 private:
+    void keepLowest(const std::string &name, double figure);
     double figure(const std::string &name) const;
     bool printRow(const std::string &title, const std::string &above, const std::string &below,
                   double goal) const;

@@ -49,4 +49,4 @@ echo "== clazy"
 checks=level0,level1,detaching-member,qt-keywords,reserve-candidates
 checks+=,no-connect-3arg-lambda,no-range-loop-reference,no-overloaded-signal,no-fully-qualified-moc-types
 printf '%s\n' "${units[@]}" | xargs -P 2 -n 4 clazy-standalone -p build/qt6-dev -checks="$checks" \
-    -extra-arg=-Werror 2>/dev/null
+    -extra-arg=-Werror 2>&1 | { grep -E 'error:|warning:' || true; }

@@ -146,7 +146,7 @@ QVector<int> AttributeTable::selectedVisibleRows() const
         }
     }
     std::sort(rows.begin(), rows.end());
-    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    rows.resize(static_cast<int>(std::unique(rows.begin(), rows.end()) - rows.begin()));
     return rows;
 }
 
@@ -228,7 +228,8 @@ void AttributeTable::keyboardSearch(const QString &search)
     m_sinceTyped.start();
     m_typed = goesOn ? m_typed + search : search;
     // One letter again and again walks the rows; a text that grows may stay on the present one.
-    const bool walks = !m_typed.isEmpty() && m_typed.count(m_typed[0], Qt::CaseInsensitive) == m_typed.size();
+    const bool walks =
+        !m_typed.isEmpty() && m_typed.count(m_typed.at(0), Qt::CaseInsensitive) == m_typed.size();
     const QString text = walks ? m_typed.left(1) : m_typed;
     const int rows = rowCount();
     const int start = std::max(currentRow() + (walks ? 1 : 0), 0);
@@ -402,6 +403,7 @@ void AttributeTable::copySelectedRows() const
 {
     QStringList lines;
     const QVector<int> rows = selectedVisibleRows();
+    lines.reserve(rows.size());
     for (int row : rows)
         lines.append(copyLine(row));
     if (!lines.isEmpty())

@@ -37,6 +37,7 @@ void ChosenTable::appendRows(std::vector<Row> rows)
 void ChosenTable::restoreRows(std::vector<Row> rows)
 {
     QVector<int> places;
+    places.reserve(static_cast<int>(rows.size()));
     for (const Row &row : rows)
         places.append(row.place);
     putBehind(std::move(rows));

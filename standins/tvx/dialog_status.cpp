@@ -21,7 +21,11 @@ namespace tvx
 namespace
 {
 
-const QLatin1String Separator("  \xb7  ");
+/// A middle dot between blanks.
+QString separator()
+{
+    return QStringLiteral("  \u00b7  ");
+}
 
 QString typeText(int type)
 {
@@ -48,6 +52,7 @@ QString descriptionOf(const QTableWidgetItem &item)
     QStringList parts;
     const QStringList lines = item.toolTip().split(QLatin1Char('\n'));
     if (lines.size() > 1) {
+        parts.reserve(lines.size());
         for (const QString &line : lines)
             parts.append(line.simplified());
     } else {
@@ -57,7 +62,7 @@ QString descriptionOf(const QTableWidgetItem &item)
             parts.removeFirst();
     }
     parts.removeAll(QString());
-    return parts.join(Separator);
+    return parts.join(separator());
 }
 
 QString limitsOf(const QSpinBox &box)
@@ -164,7 +169,7 @@ QString DialogStatus::describedText() const
     if (!current)
         return QString();
     const QString limits = limitsOfEditor();
-    return descriptionOf(*current) + (limits.isEmpty() ? QString() : Separator + limits);
+    return descriptionOf(*current) + (limits.isEmpty() ? QString() : separator() + limits);
 }
 
 QString DialogStatus::limitsOfEditor() const

@@ -50,10 +50,10 @@ void EditorGuard::nameWidgets(QWidget *editor, const QString &name)
 
 void EditorGuard::focusFirst()
 {
-    if (m_widgets.isEmpty() || m_widgets.first() == parent())
+    if (m_widgets.isEmpty() || m_widgets.constFirst() == parent())
         return;
-    m_widgets.first()->setFocus(Qt::TabFocusReason);
-    if (auto *box = qobject_cast<QAbstractSpinBox *>(m_widgets.first()))
+    m_widgets.constFirst()->setFocus(Qt::TabFocusReason);
+    if (auto *box = qobject_cast<QAbstractSpinBox *>(m_widgets.constFirst()))
         box->selectAll();
 }
 
@@ -72,8 +72,8 @@ bool EditorGuard::eventFilter(QObject *watched, QEvent *event)
 
 bool EditorGuard::filterKey(QWidget *widget, QKeyEvent *event)
 {
-    const bool leaves = (event->key() == Qt::Key_Tab && widget == m_widgets.last()) ||
-                        (event->key() == Qt::Key_Backtab && widget == m_widgets.first());
+    const bool leaves = (event->key() == Qt::Key_Tab && widget == m_widgets.constLast()) ||
+                        (event->key() == Qt::Key_Backtab && widget == m_widgets.constFirst());
     if (leaves) {
         Q_EMIT left();
         return true;

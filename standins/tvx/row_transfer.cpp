@@ -31,6 +31,7 @@ ChosenTable::Row copyOf(const QTableWidgetItem &item)
 QVector<QTableWidgetItem *> valuesOf(const std::vector<ChosenTable::Row> &rows)
 {
     QVector<QTableWidgetItem *> values;
+    values.reserve(static_cast<int>(rows.size()));
     for (const ChosenTable::Row &row : rows)
         values.append(row.value.get());
     return values;

@@ -188,6 +188,7 @@ QList<QTableWidgetItem *> SelectionController::contextMenuItems() const
     const ChosenTable *chosen = m_widgets.chosenList;
     QList<QTableWidgetItem *> items;
     const QVector<int> rows = chosen->selectedVisibleRows();
+    items.reserve(rows.size());
     for (int row : rows)
         items.append(chosen->rowItem(row));
     QTableWidgetItem *current = chosen->rowItem(chosen->currentRow());

@@ -83,7 +83,7 @@ void TopTable::placeClones(const QList<QTableWidgetItem *> &items)
         m_items.clear(); // in the end it holds those of column 1
         for (const QTableWidgetItem *item : items) {
             m_items.append(item->clone());
-            setItem(row++, column, m_items.last());
+            setItem(row++, column, m_items.constLast());
         }
     }
     forgetRowNumbers();
