@@ -13,13 +13,13 @@
 #include "tvx/tvx_control.h"
 #include "walk.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QLibraryInfo>
 #include <QLineEdit>
 #include <QLocale>
+#include <QPushButton>
 
 namespace Zudunmaf::demo
 {

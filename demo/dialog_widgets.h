@@ -3,30 +3,39 @@
 
 #include <QString>
 
-class QAbstractButton;
 class QComboBox;
 class QDialog;
+class QLabel;
 class QLineEdit;
+class QPushButton;
 class QTableWidget;
 
 namespace Zudunmaf::demo
 {
 
-/// The widgets of the base dialog, found by their object names. They are the dialog's.
+/// The widgets of the base dialog, found by their object names. They are the dialog's; without one, all are null.
 struct DialogWidgets {
+    DialogWidgets() = default;
     explicit DialogWidgets(const QDialog &dialog);
 
     /// The object name of the first widget that the dialog lacks; empty where it lacks none.
     QString missing() const;
 
-    QComboBox *entityList;
-    QComboBox *groupList;
-    QLineEdit *filterText;
-    QTableWidget *topView;
-    QTableWidget *chosenList;
-    QAbstractButton *addButton;
-    QAbstractButton *removeButton;
-    QAbstractButton *okButton;
+    QComboBox *entityList = nullptr;
+    QComboBox *groupList = nullptr;
+    QLineEdit *filterText = nullptr;
+    QTableWidget *topView = nullptr;
+    QTableWidget *chosenList = nullptr;
+    QPushButton *addButton = nullptr;
+    QPushButton *removeButton = nullptr;
+    QPushButton *undoButton = nullptr;
+    QPushButton *clearButton = nullptr;
+    QPushButton *okButton = nullptr;
+    QPushButton *cancelButton = nullptr;
+    QLabel *offeredLabel = nullptr;
+    QLabel *chosenLabel = nullptr;
+    QLabel *description = nullptr;
+    QLabel *preview = nullptr;
 };
 
 } // namespace Zudunmaf::demo

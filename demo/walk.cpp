@@ -1,14 +1,13 @@
 #include "walk.h"
 
 #include "gdm/dialogs/tvx_attributes_selection_dialog.h"
-#include "gdm/items/attr_roles.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPushButton>
 #include <QTableWidget>
 
 namespace Zudunmaf::demo
@@ -16,7 +15,6 @@ namespace Zudunmaf::demo
 
 Walk::Walk(TvxAttributesSelectionDialog &dialog, const QString &pictureDirectory)
     : m_dialog(dialog)
-    , m_widgets(dialog)
     , m_user(dialog)
     , m_pictureDirectory(pictureDirectory)
 {
@@ -63,61 +61,57 @@ void Walk::open()
 {
     if (!expect(m_user.open(), QStringLiteral("an active window")))
         return;
-    expect(m_widgets.filterText->hasFocus(), QStringLiteral("the focus in the filter text"));
-    expect(m_widgets.topView->rowCount() > 0, QStringLiteral("attributes on offer"));
+    expect(m_user.filterText->hasFocus(), QStringLiteral("the focus in the filter text"));
+    expect(m_user.topView->rowCount() > 0, QStringLiteral("attributes on offer"));
 }
 
 void Walk::pressOk()
 {
-    expect(m_user.pushButton(*m_widgets.okButton) && !m_dialog.isVisible() &&
+    expect(m_user.pushButton(*m_user.okButton) && !m_dialog.isVisible() &&
                m_dialog.result() == QDialog::Accepted,
            QStringLiteral("OK to accept the dialog"));
 }
 
 void Walk::chooseEntity(int row)
 {
-    if (!expect(m_user.goTo(*m_widgets.entityList), QStringLiteral("the focus in the entity list")))
+    if (!expect(m_user.goTo(*m_user.entityList), QStringLiteral("the focus in the entity list")))
         return;
     m_user.press(Qt::Key_Home);
     for (int step = 0; step < row; ++step)
         m_user.press(Qt::Key_Down);
-    expect(m_widgets.entityList->currentIndex() == row, QStringLiteral("entity row %1").arg(row));
+    expect(m_user.entityList->currentIndex() == row, QStringLiteral("entity row %1").arg(row));
 }
 
 void Walk::typeFilter(const QString &text)
 {
-    if (!expect(m_user.goTo(*m_widgets.filterText), QStringLiteral("the focus in the filter text")))
-        return;
-    m_user.press(Qt::Key_A, Qt::ControlModifier);
-    m_user.press(Qt::Key_Delete);
-    m_user.type(text);
-    expect(m_widgets.filterText->text() == text, QStringLiteral("the filter text '%1'").arg(text));
+    m_user.setFilter(text);
+    expect(m_user.filterText->text() == text, QStringLiteral("the filter text '%1'").arg(text));
 }
 
 void Walk::add(const QString &name, Way way)
 {
     typeFilter(name);
-    if (!goToRow(*m_widgets.topView, name))
+    if (!goToRow(*m_user.topView, name))
         return;
     switch (way) {
     case Way::Mnemonic:
-        expect(m_user.pushButton(*m_widgets.addButton), QStringLiteral("the add button to come up again"));
+        expect(m_user.pushButton(*m_user.addButton), QStringLiteral("the add button to come up again"));
         break;
     case Way::Enter:
         m_user.press(Qt::Key_Return);
         break;
     case Way::DoubleClick:
-        m_user.doubleClick(*m_widgets.topView, *m_widgets.topView->currentItem());
+        m_user.doubleClick(m_user.topView, name);
         break;
     }
-    const int row = rowOf(*m_widgets.chosenList, name);
-    expect(row >= 0 && row == m_widgets.chosenList->rowCount() - 1,
+    const int row = DialogUser::rowOf(m_user.chosenList, name);
+    expect(row >= 0 && row == m_user.chosenList->rowCount() - 1,
            QStringLiteral("'%1' as the last chosen attribute").arg(name));
 }
 
 void Walk::openEditor(const QString &name)
 {
-    if (!goToRow(*m_widgets.chosenList, name))
+    if (!goToRow(*m_user.chosenList, name))
         return;
     m_user.press(Qt::Key_F2);
     expect(isEditing(), QStringLiteral("an editor with the focus for '%1'").arg(name));
@@ -140,7 +134,7 @@ void Walk::edit(const QString &name, const QString &keys, const QString &expecte
 
 void Walk::resetByMenu(const QString &name, const QString &expected)
 {
-    if (!goToRow(*m_widgets.chosenList, name))
+    if (!goToRow(*m_user.chosenList, name))
         return;
     const bool opened = m_user.useContextMenu([this](QMenu &menu) {
         const QAction *reset = menu.actions().value(1);
@@ -158,7 +152,7 @@ void Walk::resetByMenu(const QString &name, const QString &expected)
 
 bool Walk::goToRow(QTableWidget &table, const QString &name)
 {
-    const int row = rowOf(table, name);
+    const int row = DialogUser::rowOf(&table, name);
     if (!expect(row >= 0 && !table.isRowHidden(row), QStringLiteral("a row '%1'").arg(name)) ||
         !expect(m_user.goTo(table), QStringLiteral("the focus in %1").arg(table.objectName())))
         return false;
@@ -170,22 +164,13 @@ bool Walk::goToRow(QTableWidget &table, const QString &name)
 
 bool Walk::isEditing() const
 {
-    return m_widgets.chosenList->viewport()->isAncestorOf(QApplication::focusWidget());
-}
-
-int Walk::rowOf(const QTableWidget &table, const QString &name)
-{
-    for (int row = 0; row < table.rowCount(); ++row) {
-        const QTableWidgetItem *item = table.item(row, 1);
-        if (item && item->data(DmlAttrNameRole).toString() == name)
-            return row;
-    }
-    return -1;
+    return m_user.chosenList->viewport()->isAncestorOf(QApplication::focusWidget());
 }
 
 QString Walk::cellText(const QString &name) const
 {
-    const QTableWidgetItem *item = m_widgets.chosenList->item(rowOf(*m_widgets.chosenList, name), 1);
+    const int row = DialogUser::rowOf(m_user.chosenList, name);
+    const QTableWidgetItem *item = m_user.chosenList->item(row, 1);
     return item ? item->text() : QString();
 }
 

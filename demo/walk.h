@@ -2,7 +2,6 @@
 #define DEMO_WALK_H
 
 #include "dialog_user.h"
-#include "dialog_widgets.h"
 
 #include <QString>
 
@@ -41,8 +40,7 @@ protected:
     void savePicture(const QString &name);
 
     TvxAttributesSelectionDialog &dialog() { return m_dialog; }
-    const DialogWidgets &widgets() const { return m_widgets; }
-    DialogUser &user() { return m_user; }
+    const DialogUser &user() const { return m_user; }
 
     // What the steps are made of.
     void chooseEntity(int row);
@@ -60,7 +58,6 @@ protected:
 
     bool goToRow(QTableWidget &table, const QString &name);
     bool isEditing() const;
-    static int rowOf(const QTableWidget &table, const QString &name);
     QString cellText(const QString &name) const;
 
 private:
@@ -69,7 +66,6 @@ private:
     void playStep(const QString &name, const std::function<void()> &act);
 
     TvxAttributesSelectionDialog &m_dialog;
-    DialogWidgets m_widgets;
     DialogUser m_user;
     QString m_pictureDirectory;
     QString m_step;

@@ -43,7 +43,7 @@ std::vector<Walk::Step> WalkOfAssign::steps()
 
 void WalkOfAssign::tryBoolean()
 {
-    if (!goToRow(*widgets().chosenList, Boolean))
+    if (!goToRow(*user().chosenList, Boolean))
         return;
     user().press(Qt::Key_F2);
     expect(!isEditing(), QStringLiteral("no editor for a boolean"));
@@ -51,12 +51,14 @@ void WalkOfAssign::tryBoolean()
 
 void WalkOfAssign::removeBoolean()
 {
-    if (!goToRow(*widgets().chosenList, Boolean))
+    if (!goToRow(*user().chosenList, Boolean))
         return;
     user().press(Qt::Key_Delete);
-    const QTableWidget &offer = *widgets().topView;
-    expect(rowOf(*widgets().chosenList, Boolean) == -1, QStringLiteral("'%1' to be removed").arg(Boolean));
-    expect(!offer.isRowHidden(rowOf(offer, Boolean)), QStringLiteral("'%1' on offer again").arg(Boolean));
+    const QTableWidget *offer = user().topView;
+    expect(DialogUser::rowOf(user().chosenList, Boolean) == -1,
+           QStringLiteral("'%1' to be removed").arg(Boolean));
+    expect(!offer->isRowHidden(DialogUser::rowOf(offer, Boolean)),
+           QStringLiteral("'%1' on offer again").arg(Boolean));
 }
 
 void WalkOfAssign::changeUnits()

@@ -36,17 +36,19 @@ std::vector<Walk::Step> WalkOfFilter::steps()
 void WalkOfFilter::chooseLayer()
 {
     constexpr char notOfLayers[] = "vertex_count";
-    const QTableWidget &offer = *widgets().topView;
+    const QTableWidget *offer = user().topView;
     chooseEntity(LayerRow);
-    expect(!offer.isRowHidden(rowOf(offer, Range)) && offer.isRowHidden(rowOf(offer, notOfLayers)),
+    expect(!offer->isRowHidden(DialogUser::rowOf(offer, Range)) &&
+               offer->isRowHidden(DialogUser::rowOf(offer, notOfLayers)),
            QStringLiteral("the attributes of layers alone"));
 }
 
 void WalkOfFilter::filterByPart()
 {
-    const QTableWidget &offer = *widgets().topView;
+    const QTableWidget *offer = user().topView;
     typeFilter(QStringLiteral("wid"));
-    expect(!offer.isRowHidden(rowOf(offer, Range)) && offer.isRowHidden(rowOf(offer, Option)),
+    expect(!offer->isRowHidden(DialogUser::rowOf(offer, Range)) &&
+               offer->isRowHidden(DialogUser::rowOf(offer, Option)),
            QStringLiteral("the attributes with 'wid' in their names alone"));
 }
 

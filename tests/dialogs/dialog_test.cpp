@@ -4,11 +4,8 @@
 #include "gdm/gdm_qt.h"
 #include "gen/gen_control.h"
 
-#include <QDialogButtonBox>
-#include <QHeaderView>
 #include <QScreen>
 #include <QStyledItemDelegate>
-#include <QWindow>
 
 using namespace Zudunmaf;
 
@@ -92,16 +89,6 @@ private:
     }
 };
 
-template <class Widget>
-void find(const QDialog &dialog, std::initializer_list<std::pair<const char *, Widget **>> widgets)
-{
-    for (const auto &[name, widget] : widgets) {
-        *widget = dialog.findChild<Widget *>(QLatin1String(name));
-        if (!*widget)
-            qFatal("the dialog has no %s", name);
-    }
-}
-
 } // namespace
 
 void DialogTest::initTestCase_data()
@@ -168,16 +155,9 @@ void DialogTest::create(int did)
         dialog = std::make_unique<Watched<AttributesFilterDialog>>(did);
     else
         dialog = std::make_unique<Watched<FeatureAttributesDialog>>(did);
-    find<QComboBox>(*dialog, {{"entityList", &entityList}, {"groupList", &groupList}});
-    find<QLineEdit>(*dialog, {{"filterText", &filterText}});
-    find<QTableWidget>(*dialog, {{"topView", &topView}, {"chosenList", &chosenList}});
-    find<QPushButton>(*dialog, {{"addButton", &addButton}, {"removeButton", &removeButton}});
-    find<QPushButton>(*dialog, {{"undoButton", &undoButton}, {"clearButton", &clearButton}});
-    find<QLabel>(*dialog, {{"offeredLabel", &offeredLabel}, {"chosenLabel", &chosenLabel}});
-    find<QLabel>(*dialog, {{"description", &description}, {"preview", &preview}});
-    const auto *standardButtons = dialog->findChild<QDialogButtonBox *>();
-    okButton = standardButtons->button(QDialogButtonBox::Ok);
-    cancelButton = standardButtons->button(QDialogButtonBox::Cancel);
+    static_cast<DialogUser &>(*this) = DialogUser(*dialog);
+    if (!missing().isEmpty())
+        qFatal("the dialog has no %s", qPrintable(missing()));
     dialog->setItemDelegate(new CommitWatch(chosenList->itemDelegate()));
     connect(dialog.get(), &QDialog::accepted, this, [this] { events << "accepted"; });
     connect(dialog.get(), &QDialog::rejected, this, [this] { events << "rejected"; });
@@ -185,131 +165,10 @@ void DialogTest::create(int did)
     connect(menu, &QMenu::aboutToShow, this, [this] { events << "menu"; });
 }
 
-bool DialogTest::show()
-{
-    dialog->show();
-    dialog->activateWindow();
-    return QTest::qWaitForWindowActive(dialog.get()) && QApplication::focusWidget();
-}
-
 bool DialogTest::open(int did)
 {
     create(did);
     return show();
-}
-
-void DialogTest::press(int key, Qt::KeyboardModifiers modifiers) const
-{
-    if (QWidget *popup = QApplication::activePopupWidget())
-        QTest::keyClick(popup, Qt::Key(key), modifiers);
-    else
-        QTest::keyClick(dialog->windowHandle(), Qt::Key(key), modifiers);
-    QCoreApplication::processEvents();
-}
-
-void DialogTest::press(std::initializer_list<int> keys) const
-{
-    for (int key : keys)
-        press(key);
-}
-
-void DialogTest::type(const QString &text) const
-{
-    for (const QChar c : text)
-        QTest::keyClick(dialog->windowHandle(), c.toLatin1());
-    QCoreApplication::processEvents();
-}
-
-void DialogTest::clickAt(const QWidget *widget, const QPoint &place, Qt::KeyboardModifiers modifiers,
-                         Qt::MouseButton button) const
-{
-    QTest::mouseClick(dialog->windowHandle(), button, modifiers, widget->mapTo(dialog.get(), place));
-    QCoreApplication::processEvents();
-}
-
-void DialogTest::click(QTableWidget *table, const QString &attribute, int column,
-                       Qt::KeyboardModifiers modifiers, Qt::MouseButton button) const
-{
-    table->scrollToItem(table->item(rowOf(table, attribute), Name));
-    clickAt(table->viewport(), cellRect(table, attribute, column).center(), modifiers, button);
-}
-
-void DialogTest::doubleClick(QTableWidget *table, const QString &attribute, int column) const
-{
-    click(table, attribute, column);
-    QTest::mouseDClick(dialog->windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                       table->viewport()->mapTo(dialog.get(), cellRect(table, attribute, column).center()));
-    QCoreApplication::processEvents();
-}
-
-void DialogTest::clickHeader(const QTableWidget *table, int column) const
-{
-    const QHeaderView *header = table->horizontalHeader();
-    clickAt(header->viewport(), QPoint(header->sectionViewportPosition(column) + 20, header->height() / 2));
-}
-
-void DialogTest::setFilter(const QString &text) const
-{
-    press(Qt::Key_F, Qt::ControlModifier);
-    press(Qt::Key_Delete);
-    type(text);
-}
-
-void DialogTest::choose(const QStringList &attributes) const
-{
-    for (const QString &attribute : attributes) {
-        click(topView, attribute);
-        press(Qt::Key_Return);
-    }
-    click(chosenList, nameAt(chosenList, 0));
-}
-
-void DialogTest::enter(const QString &attribute, const QString &keys) const
-{
-    click(chosenList, attribute);
-    press(Qt::Key_F2);
-    type(keys);
-    press(Qt::Key_Return);
-}
-
-QString DialogTest::nameAt(const QTableWidget *table, int row)
-{
-    const QTableWidgetItem *item = table->item(row, Value);
-    return item ? item->data(DmlAttrNameRole).toString() : QString();
-}
-
-int DialogTest::rowOf(const QTableWidget *table, const QString &attribute)
-{
-    for (int row = 0; row < table->rowCount(); ++row) {
-        if (nameAt(table, row) == attribute)
-            return row;
-    }
-    return -1;
-}
-
-QStringList DialogTest::visibleNames(const QTableWidget *table, bool selectedOnly)
-{
-    QStringList names;
-    for (int row = 0; row < table->rowCount(); ++row) {
-        const bool counts = !selectedOnly || table->selectionModel()->isRowSelected(row, QModelIndex());
-        if (counts && !table->isRowHidden(row))
-            names << nameAt(table, row);
-    }
-    return names;
-}
-
-QRect DialogTest::cellRect(const QTableWidget *table, const QString &attribute, int column)
-{
-    return table->visualItemRect(table->item(rowOf(table, attribute), column));
-}
-
-QWidget *DialogTest::editor() const
-{
-    for (int cell = 0; cell < 2 * chosenList->rowCount(); ++cell) {
-        if (QWidget *found = chosenList->indexWidget(chosenList->model()->index(cell / 2, cell % 2)))
-            return found;
-    }
-    return nullptr;
 }
 
 QStringList DialogTest::results() const

@@ -1,6 +1,7 @@
 #ifndef TESTS_DIALOGS_DIALOG_TEST_H
 #define TESTS_DIALOGS_DIALOG_TEST_H
 
+#include "dialog_user.h"
 #include "gdm/dialogs/tvx_attributes_selection_dialog.h"
 
 #include <QApplication>
@@ -15,11 +16,11 @@
 #include <functional>
 #include <memory>
 
-/// A test over each of the two dialogs in turn, driven as a user drives it: keys go to the window and find
-/// their widget by the focus, clicks by their place. Each function starts with the dialog on the screen and
-/// nothing chosen, and ends with no Qt warning given. On offer are the attributes of dictionary.json: plated,
-/// note, colour, finish, width, depth, LongName, stackup (in the filter dialog alone) and pad_00 to pad_39.
-class DialogTest : public QObject
+/// A test over each of the two dialogs in turn, driven as a user drives it. Each function starts with the dialog
+/// on the screen and nothing chosen, and ends with no Qt warning given. On offer are the attributes of
+/// dictionary.json: plated, note, colour, finish, width, depth, LongName, stackup (in the filter dialog alone)
+/// and pad_00 to pad_39.
+class DialogTest : public QObject, public Zudunmaf::demo::DialogUser
 {
     Q_OBJECT
 
@@ -38,33 +39,8 @@ public:
     /// waits until the keyboard is its.
     void create(int did = -1);
     bool open(int did = -1);
-    bool show();
+    bool show() const { return DialogUser::open(); }
 
-    void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
-    void press(std::initializer_list<int> keys) const;
-    /// A tab is the Tab key.
-    void type(const QString &text) const;
-    void clickAt(const QWidget *widget, const QPoint &place, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
-                 Qt::MouseButton button = Qt::LeftButton) const;
-    void click(QWidget *widget) const { clickAt(widget, widget->rect().center()); }
-    void click(QTableWidget *table, const QString &attribute, int column = Name,
-               Qt::KeyboardModifiers modifiers = Qt::NoModifier,
-               Qt::MouseButton button = Qt::LeftButton) const;
-    void doubleClick(QTableWidget *table, const QString &attribute, int column = Name) const;
-    void clickHeader(const QTableWidget *table, int column) const;
-    void setFilter(const QString &text) const;
-    /// Takes the attributes over by clicks and Enter; the first chosen row is current then.
-    void choose(const QStringList &attributes) const;
-    /// Opens the editor of a chosen attribute by F2, types and presses Enter.
-    void enter(const QString &attribute, const QString &keys) const;
-
-    static int rowOf(const QTableWidget *table, const QString &attribute);
-    static QString nameAt(const QTableWidget *table, int row);
-    static QString currentName(const QTableWidget *table) { return nameAt(table, table->currentRow()); }
-    static QStringList visibleNames(const QTableWidget *table, bool selectedOnly = false);
-    static QStringList selectedNames(const QTableWidget *table) { return visibleNames(table, true); }
-    static QRect cellRect(const QTableWidget *table, const QString &attribute, int column);
-    QWidget *editor() const;
     /// What the host reads of the chosen attributes: the lines of the filter dialog, the values of the other.
     QStringList results() const;
     QString resultOf(const QString &attribute) const { return results().value(rowOf(chosenList, attribute)); }
@@ -74,11 +50,6 @@ public:
     QImage screenshot(const QWidget *widget, const QRect &area) const;
 
     std::unique_ptr<TvxAttributesSelectionDialog> dialog;
-    QComboBox *entityList, *groupList;
-    QLineEdit *filterText;
-    QTableWidget *topView, *chosenList;
-    QPushButton *addButton, *removeButton, *undoButton, *clearButton, *okButton, *cancelButton;
-    QLabel *offeredLabel, *chosenLabel, *description, *preview;
     /// What happened, in order: "commit", "pass" of the filter, "+name" and "-name" of the hooks, "menu",
     /// "accepted", "rejected".
     static inline QStringList events;
