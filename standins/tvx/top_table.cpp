@@ -45,6 +45,8 @@ TopTable::TopTable(QWidget *parent)
 {
     setItemDelegate(m_delegate);
     connect(this, &QTableWidget::doubleClicked, this, &TopTable::rowsActivated);
+    m_announcement.setSingleShot(true);
+    connect(&m_announcement, &QTimer::timeout, this, &TopTable::rowsHiddenOrShown);
 }
 
 void TopTable::fill(const QList<QTableWidgetItem *> &items)
@@ -96,18 +98,8 @@ void TopTable::setRowVisible(int row, bool visible)
     setRowShown(row, visible);
     if (visible)
         m_firstVisibleBound = std::min(m_firstVisibleBound, row);
-    if (m_passes == 0 && !m_announcing)
-        announceHiddenOrShown();
-}
-
-void TopTable::announceHiddenOrShown()
-{
-    m_announcing = true;
-    const auto announce = [this] {
-        m_announcing = false;
-        Q_EMIT rowsHiddenOrShown();
-    };
-    QMetaObject::invokeMethod(this, announce, Qt::QueuedConnection);
+    if (m_passes == 0 && !m_announcement.isActive())
+        m_announcement.start();
 }
 
 int TopTable::firstVisibleRow()

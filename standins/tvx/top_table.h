@@ -4,6 +4,7 @@
 #include "tvx/attribute_table.h"
 
 #include <QHash>
+#include <QTimer>
 
 namespace Zudunmaf
 {
@@ -67,7 +68,6 @@ private:
     void forgetRowNumbers();
     int firstVisibleRow();
     void endPass();
-    void announceHiddenOrShown();
 
     MatchHighlightDelegate *m_delegate;
     /// Kept, since every key in the filter asks for it.
@@ -78,7 +78,8 @@ private:
     int m_firstVisibleBound = 0;
     int m_passes = 0;
     int m_fills = 0;
-    bool m_announcing = false;
+    /// Waits for the event loop, so that many rows are announced at once.
+    QTimer m_announcement;
     enum class Request { None, FirstVisible, Row } m_request = Request::None;
     int m_requestedRow = -1;
 };

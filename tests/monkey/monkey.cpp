@@ -67,6 +67,7 @@ public:
         QCoreApplication::processEvents();
         workPopup();
         m_popupTimer.stop();
+        m_done.reset();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
@@ -110,9 +111,10 @@ private:
         QObject::connect(m_dialog->findChild<QMenu *>(), &QMenu::triggered, &m_popupTimer, [this] {
             if (m_popupChoice % 5)
                 return;
-            // A host that is done with the dialog at an action of its menu.
+            // A host that is done with the dialog at an action of its menu, and lets it go once the event is over: Qt
+            // Test lets the key come up at the window whether it is there or not.
             m_dialog->close();
-            m_dialog.release()->deleteLater();
+            m_done = std::move(m_dialog);
             renew(4 + m_popupChoice % 2);
         });
     }
@@ -260,7 +262,7 @@ private:
         return QString();
     }
 
-    std::unique_ptr<TvxAttributesSelectionDialog> m_dialog, m_beside;
+    std::unique_ptr<TvxAttributesSelectionDialog> m_dialog, m_beside, m_done;
     bool m_filtered = false;
     QTimer m_popupTimer;
     unsigned m_popupChoice = 0;
