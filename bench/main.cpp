@@ -198,7 +198,7 @@ void enroll(const std::string &name, Work work)
         ->Arg(10000)
         ->Arg(100000)
         ->UseManualTime()
-        ->MinTime(0.3)
+        ->MinTime(0.2)
         ->Unit(benchmark::kMillisecond);
 }
 
@@ -240,7 +240,7 @@ int main(int argc, char *argv[])
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     QApplication application(argc, argv);
     // Each work several times, and those of the peers in between, so that both meet the machine in all its moods.
-    char repetitions[] = "--benchmark_repetitions=3";
+    char repetitions[] = "--benchmark_repetitions=5";
     char interleaving[] = "--benchmark_enable_random_interleaving=true";
     std::vector<char *> arguments(argv, argv + argc);
     arguments.insert(arguments.begin() + 1, {repetitions, interleaving});

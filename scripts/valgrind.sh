@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Runs the test programs, and a short stream of the monkey, under valgrind's memcheck. Reads and jumps on what was never
 # set, reads and writes out of bounds, and memory that nothing points to any more count as faults, and so does what the
-# tests themselves find. Nothing is suppressed.
+# tests themselves find. What tests/valgrind.supp names, with its reason, does not.
 #   scripts/valgrind.sh              all of them
 #   scripts/valgrind.sh contract     those whose name has the word in it
 set -euo pipefail
@@ -20,7 +20,7 @@ export QTEST_FUNCTION_TIMEOUT=3600000
 # The code that PCRE makes for a regular expression reads past the end of a text, within its block, on purpose.
 export QT_ENABLE_REGEXP_JIT=0
 memcheck="valgrind --quiet --error-exitcode=9 --leak-check=full --show-leak-kinds=definite,possible"
-memcheck+=" --errors-for-leak-kinds=definite,possible --num-callers=40"
+memcheck+=" --errors-for-leak-kinds=definite,possible --num-callers=40 --suppressions=$PWD/tests/valgrind.supp"
 
 status=0
 mkdir -p "$build/valgrind"
