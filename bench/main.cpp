@@ -11,7 +11,6 @@
 
 #include <malloc.h>
 #include <memory>
-#include <vector>
 
 using namespace Zudunmaf;
 using namespace Zudunmaf::bench;
@@ -199,6 +198,7 @@ void enroll(const std::string &name, Work work)
         ->Arg(100000)
         ->UseManualTime()
         ->MinTime(0.2)
+        ->Repetitions(3)
         ->Unit(benchmark::kMillisecond);
 }
 
@@ -239,13 +239,7 @@ int main(int argc, char *argv[])
     // The offscreen platform says each time that it has no size hints.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     QApplication application(argc, argv);
-    // Each work several times, and those of the peers in between, so that both meet the machine in all its moods.
-    char repetitions[] = "--benchmark_repetitions=5";
-    char interleaving[] = "--benchmark_enable_random_interleaving=true";
-    std::vector<char *> arguments(argv, argv + argc);
-    arguments.insert(arguments.begin() + 1, {repetitions, interleaving});
-    int count = static_cast<int>(arguments.size());
-    benchmark::Initialize(&count, arguments.data());
+    benchmark::Initialize(&argc, argv);
     enrollAll();
 
     RatioTable table;
