@@ -8,17 +8,13 @@
 #include <QPushButton>
 #include <QTableWidget>
 
+#include <type_traits>
+
 namespace Zudunmaf::demo
 {
 
 namespace
 {
-
-template <class Widget>
-void find(const QDialog &dialog, const char *name, Widget **widget)
-{
-    *widget = dialog.findChild<Widget *>(QLatin1String(name));
-}
 
 QPushButton *standardButton(const QDialog &dialog, QDialogButtonBox::StandardButton which)
 {
@@ -32,46 +28,26 @@ DialogWidgets::DialogWidgets(const QDialog &dialog)
     : okButton(standardButton(dialog, QDialogButtonBox::Ok))
     , cancelButton(standardButton(dialog, QDialogButtonBox::Cancel))
 {
-    find(dialog, "entityList", &entityList);
-    find(dialog, "groupList", &groupList);
-    find(dialog, "filterText", &filterText);
-    find(dialog, "topView", &topView);
-    find(dialog, "chosenList", &chosenList);
-    find(dialog, "addButton", &addButton);
-    find(dialog, "removeButton", &removeButton);
-    find(dialog, "undoButton", &undoButton);
-    find(dialog, "clearButton", &clearButton);
-    find(dialog, "offeredLabel", &offeredLabel);
-    find(dialog, "chosenLabel", &chosenLabel);
-    find(dialog, "description", &description);
-    find(dialog, "preview", &preview);
-}
-
-QString DialogWidgets::missing() const
-{
-    const struct {
-        const QWidget *widget;
-        const char *name;
-    } wanted[] = {{entityList, "entityList"},
-                  {groupList, "groupList"},
-                  {filterText, "filterText"},
-                  {topView, "topView"},
-                  {chosenList, "chosenList"},
-                  {addButton, "addButton"},
-                  {removeButton, "removeButton"},
-                  {undoButton, "undoButton"},
-                  {clearButton, "clearButton"},
-                  {okButton, "OK"},
-                  {cancelButton, "Cancel"},
-                  {offeredLabel, "offeredLabel"},
-                  {chosenLabel, "chosenLabel"},
-                  {description, "description"},
-                  {preview, "preview"}};
-    for (const auto &entry : wanted) {
-        if (!entry.widget)
-            return QString::fromLatin1(entry.name);
-    }
-    return QString();
+    const auto find = [this, &dialog](const char *name, auto *widget) {
+        *widget = dialog.findChild<std::remove_pointer_t<decltype(widget)>>(QLatin1String(name));
+        if (!*widget && m_missing.isEmpty())
+            m_missing = QLatin1String(name);
+    };
+    find("entityList", &entityList);
+    find("groupList", &groupList);
+    find("filterText", &filterText);
+    find("topView", &topView);
+    find("chosenList", &chosenList);
+    find("addButton", &addButton);
+    find("removeButton", &removeButton);
+    find("undoButton", &undoButton);
+    find("clearButton", &clearButton);
+    find("offeredLabel", &offeredLabel);
+    find("chosenLabel", &chosenLabel);
+    find("description", &description);
+    find("preview", &preview);
+    if (m_missing.isEmpty() && !(okButton && cancelButton))
+        m_missing = QLatin1String(okButton ? "Cancel" : "OK");
 }
 
 } // namespace Zudunmaf::demo

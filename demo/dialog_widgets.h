@@ -18,8 +18,8 @@ struct DialogWidgets {
     DialogWidgets() = default;
     explicit DialogWidgets(const QDialog &dialog);
 
-    /// The object name of the first widget that the dialog lacks; empty where it lacks none.
-    QString missing() const;
+    /// The object name of a widget that the dialog lacks; empty where it lacks none.
+    QString missing() const { return m_missing; }
 
     QComboBox *entityList = nullptr;
     QComboBox *groupList = nullptr;
@@ -36,6 +36,9 @@ struct DialogWidgets {
     QLabel *chosenLabel = nullptr;
     QLabel *description = nullptr;
     QLabel *preview = nullptr;
+
+private:
+    QString m_missing;
 };
 
 } // namespace Zudunmaf::demo

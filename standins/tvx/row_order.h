@@ -25,7 +25,8 @@ public:
 
     /// Where each row is to come from: the present number of the row that goes to place 0, 1, and so on. Rows
     /// of equal text keep their present order; empty texts stand last when ascending, numbers before texts
-    /// and by value, texts as the user's language has it, with numbers in them by value. The caller puts the rows into this order.
+    /// and by value, texts as the user's language has it, with numbers in them by value. The caller puts the rows
+    /// into this order.
     QVector<int> arrange(int rowCount, const std::function<QString(int row)> &textOfRow);
 
     /// The places of rows in the order in which they came, counted from 0.

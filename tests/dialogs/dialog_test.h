@@ -16,10 +16,9 @@
 #include <functional>
 #include <memory>
 
-/// A test over each of the two dialogs in turn, driven as a user drives it. Each function starts with the dialog
-/// on the screen and nothing chosen, and ends with no Qt warning given. On offer are the attributes of
-/// dictionary.json: plated, note, colour, finish, width, depth, LongName, stackup (in the filter dialog alone)
-/// and pad_00 to pad_39.
+/// A test over each of the two dialogs in turn, worked as a user does. Each function starts with the dialog on the
+/// screen and nothing chosen, and ends with no Qt warning given. On offer is what dictionary.json has: plated,
+/// note, colour, finish, width, depth, LongName, stackup (in the filter dialog alone) and pad_00 to pad_39.
 class DialogTest : public QObject, public Zudunmaf::demo::DialogUser
 {
     Q_OBJECT
@@ -35,8 +34,7 @@ public:
     static void addWays(std::initializer_list<const char *> ways);
     static QString way();
 
-    /// Another dialog in place of the one that is there, over dictionary `did`; open() also shows it and
-    /// waits until the keyboard is its.
+    /// Another dialog over dictionary `did` in place of the present one; open() also shows it and waits for keys.
     void create(int did = -1);
     bool open(int did = -1);
     bool show() const { return DialogUser::open(); }

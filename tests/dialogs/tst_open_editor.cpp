@@ -2,8 +2,6 @@
 
 #include <QAbstractSpinBox>
 
-#include <functional>
-
 /// One cell editor: how it opens, what it takes, and what becomes of it when the user does something else.
 class OpenEditorTest : public DialogTest
 {
