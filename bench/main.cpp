@@ -1,166 +1,146 @@
 // Times the dialogs at three sizes beside two peers and prints the ratios. Run offscreen, from a Release
 // build.
-#include "bench_dictionary.h"
-#include "dialog_subject.h"
-#include "gdm/gdm_qt.h"
-#include "peers.h"
 #include "ratio_table.h"
+#include "trials.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 
 #include <malloc.h>
-#include <memory>
+#include <sys/wait.h>
+#include <unistd.h>
 
-using namespace Zudunmaf;
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
 using namespace Zudunmaf::bench;
 
 namespace
 {
 
-using FilterSubject = DialogSubject<AttributesFilterDialog>;
-using AssignSubject = DialogSubject<FeatureAttributesDialog>;
+/// What the user waits for.
+struct Wait {
+    const char *title;
+    MakeTrial work;
+};
 
-/// Seconds until the work is done and the screen is up to date.
-template <class Work>
-double timed(Work work)
+constexpr Wait waits[] = {
+    {"open", open<FilterSubject>},
+    {"open assign", open<AssignSubject>},
+    {"key", key<FilterSubject>},
+    {"key assign, 1,000 chosen", keyAmongChosen},
+    {"wildcard", wildcard<FilterSubject>},
+    {"entity", entity<FilterSubject>},
+    {"group", group<FilterSubject>},
+    {"add 1,000", add<FilterSubject, 1000>},
+    {"remove 1,000", remove<FilterSubject, 1000>},
+    {"lines", lines},
+    {"units", units<FilterSubject>},
+    {"units assign", units<AssignSubject>},
+};
+
+/// The work `above` is to take at most `goal` times as long as the work `below`.
+struct Contest {
+    const char *title;
+    double goal;
+    MakeTrial above;
+    int sizeAbove;
+    MakeTrial below;
+    int sizeBelow;
+};
+
+constexpr Contest against(const char *title, double goal, int size, MakeTrial work, MakeTrial peer)
 {
-    QElapsedTimer timer;
-    timer.start();
-    work();
-    QApplication::processEvents();
-    return double(timer.nsecsElapsed()) * 1e-9;
+    return {title, goal, work, size, peer, size};
 }
 
-template <class Subject>
-std::unique_ptr<Subject> opened(int size)
+constexpr Contest growth(const char *title, double goal, MakeTrial work)
 {
-    if constexpr (std::is_constructible_v<Subject, QStringList>)
-        return std::make_unique<Subject>(attributeNames(size));
-    else
-        return std::make_unique<Subject>(size);
+    return {title, goal, work, 100000, work, 10000};
 }
 
-template <class Subject>
-std::unique_ptr<Subject> shown(int size)
+/// The small ones first: what the large ones leave of the heap is no ground to stand on.
+constexpr Contest contests[] = {
+    against("open against floor, 1,000", 1.2, 1000, open<FilterSubject>, open<FloorDialog>),
+    against("key against floor, 1,000", 0.8, 1000, key<FilterSubject>, key<FloorDialog>),
+    against("key against proxy, 1,000", 1.0, 1000, key<FilterSubject>, key<ProxyDialog>),
+    against("wildcard against proxy, 1,000", 1.0, 1000, wildcard<FilterSubject>, wildcard<ProxyDialog>),
+    against("open against floor, 10,000", 1.6, 10000, open<FilterSubject>, open<FloorDialog>),
+    against("key against floor, 10,000", 1.0, 10000, key<FilterSubject>, key<FloorDialog>),
+    against("key against proxy, 10,000", 0.8, 10000, key<FilterSubject>, key<ProxyDialog>),
+    against("wildcard against proxy, 10,000", 0.5, 10000, wildcard<FilterSubject>, wildcard<ProxyDialog>),
+    against("open against floor, 100,000", 2.0, 100000, open<FilterSubject>, open<FloorDialog>),
+    against("key against floor, 100,000", 1.2, 100000, key<FilterSubject>, key<FloorDialog>),
+    against("key against proxy, 100,000", 0.2, 100000, key<FilterSubject>, key<ProxyDialog>),
+    against("wildcard against proxy, 100,000", 0.1, 100000, wildcard<FilterSubject>, wildcard<ProxyDialog>),
+    growth("open, growth", 10, open<FilterSubject>),
+    growth("key, growth", 10, key<FilterSubject>),
+    growth("wildcard, growth", 12, wildcard<FilterSubject>),
+    growth("add 1,000 filter, growth", 1.5, add<FilterSubject, 1000>),
+    growth("add 1,000 assign, growth", 1.5, add<AssignSubject, 1000>),
+    growth("remove 1,000 filter, growth", 1.5, remove<FilterSubject, 1000>),
+    growth("remove 1,000 assign, growth", 1.5, remove<AssignSubject, 1000>),
+    growth("add all filter, growth", 12, add<FilterSubject, AllRows>),
+    growth("add all assign, growth", 12, add<AssignSubject, AllRows>),
+    growth("remove all filter, growth", 12, remove<FilterSubject, AllRows>),
+    growth("remove all assign, growth", 12, remove<AssignSubject, AllRows>),
+};
+
+/// Enough for a steady median, in a time that a developer waits for.
+int repetitions(int size)
 {
-    loadDictionary(size);
-    auto subject = opened<Subject>(size);
-    subject->show();
-    QApplication::processEvents();
-    return subject;
+    return size <= 1000 ? 101 : size <= 10000 ? 31 : 9;
 }
 
-/// One key that narrows, one that widens, and clearing: the mean of the three.
-template <class Subject>
-void key(benchmark::State &state)
+double median(std::vector<double> values)
 {
-    const auto subject = shown<Subject>(int(state.range(0)));
-    for (auto _ : state) {
-        subject->setFilter(QStringLiteral("pa"));
-        QApplication::processEvents();
-        double seconds = timed([&] { subject->setFilter(QStringLiteral("pad")); });
-        seconds += timed([&] { subject->setFilter(QStringLiteral("pa")); });
-        seconds += timed([&] { subject->setFilter(QString()); });
-        state.SetIterationTime(seconds / 3);
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+void enroll(const std::string &name, int size, std::function<void(benchmark::State &)> run)
+{
+    benchmark::RegisterBenchmark(name.c_str(), std::move(run))
+        ->Iterations(repetitions(size))
+        ->UseManualTime()
+        ->Unit(benchmark::kMillisecond);
+}
+
+void enrollWait(const Wait &wait, int size)
+{
+    enroll(wait.title + ('/' + std::to_string(size)), size, [&wait, size](benchmark::State &state) {
+        const Trial trial = wait.work(size);
+        for (auto _ : state)
+            state.SetIterationTime(trial());
+    });
+}
+
+/// The two are timed in turn: a machine that is slow for a while is so for both.
+void enrollContest(const Contest &contest)
+{
+    enroll(contest.title, contest.sizeAbove, [&contest](benchmark::State &state) {
+        const Trial above = contest.above(contest.sizeAbove);
+        const Trial below = contest.below(contest.sizeBelow);
+        std::vector<double> ratios;
+        for (auto _ : state) {
+            const double seconds = above();
+            ratios.push_back(seconds / below());
+            state.SetIterationTime(seconds);
+        }
+        state.counters[RatioTable::RatioCounter] = median(ratios);
+        state.counters[RatioTable::GoalCounter] = contest.goal;
+    });
+}
+
+void enrollAll()
+{
+    for (const Contest &contest : contests)
+        enrollContest(contest);
+    for (const int size : {1000, 10000, 100000}) {
+        for (const Wait &wait : waits)
+            enrollWait(wait, size);
     }
-}
-
-template <class Subject>
-void wildcard(benchmark::State &state)
-{
-    const auto subject = shown<Subject>(int(state.range(0)));
-    for (auto _ : state) {
-        state.SetIterationTime(timed([&] { subject->setFilter(QStringLiteral("_?3")); }));
-        subject->setFilter(QString());
-        QApplication::processEvents();
-    }
-}
-
-template <class Subject>
-void open(benchmark::State &state)
-{
-    const int size = int(state.range(0));
-    loadDictionary(size);
-    const QStringList names = attributeNames(size);
-    for (auto _ : state) {
-        std::unique_ptr<Subject> subject;
-        state.SetIterationTime(timed([&] {
-            if constexpr (std::is_constructible_v<Subject, QStringList>)
-                subject = std::make_unique<Subject>(names);
-            else
-                subject = std::make_unique<Subject>(size);
-            subject->show();
-        }));
-    }
-}
-
-template <class Subject>
-void entity(benchmark::State &state)
-{
-    const auto subject = shown<Subject>(int(state.range(0)));
-    for (auto _ : state) {
-        state.SetIterationTime(timed([&] { subject->setEntity(2); }));
-        subject->setEntity(8);
-        QApplication::processEvents();
-    }
-}
-
-template <class Subject>
-void group(benchmark::State &state)
-{
-    const auto subject = shown<Subject>(int(state.range(0)));
-    for (auto _ : state) {
-        state.SetIterationTime(timed([&] { subject->setGroup(7); }));
-        subject->setGroup(0);
-        QApplication::processEvents();
-    }
-}
-
-/// Adds rows and removes them again; times the one or the other.
-template <class Subject>
-void transfer(benchmark::State &state, int count, bool adding)
-{
-    const auto subject = shown<Subject>(int(state.range(0)));
-    const int rows = count ? count : int(state.range(0));
-    for (auto _ : state) {
-        const double added = timed([&] { subject->add(rows); });
-        if (subject->chosenCount() != rows)
-            state.SkipWithError("not all rows were added");
-        const double removed = timed([&] { subject->remove(rows); });
-        if (subject->chosenCount() != 0)
-            state.SkipWithError("not all rows were removed");
-        state.SetIterationTime(adding ? added : removed);
-    }
-}
-
-void lines(benchmark::State &state)
-{
-    const auto subject = shown<FilterSubject>(int(state.range(0)));
-    subject->add(1000);
-    for (auto _ : state)
-        state.SetIterationTime(
-            timed([&] { benchmark::DoNotOptimize(subject->dialog().getFiltersAsStringList()); }));
-}
-
-void assignKey(benchmark::State &state)
-{
-    const auto subject = shown<AssignSubject>(int(state.range(0)));
-    subject->add(1000);
-    for (auto _ : state) {
-        state.SetIterationTime(timed([&] { subject->setFilter(QStringLiteral("pad")); }));
-        subject->setFilter(QString());
-        QApplication::processEvents();
-    }
-}
-
-template <class Subject>
-void units(benchmark::State &state)
-{
-    const auto subject = shown<Subject>(int(state.range(0)));
-    int code = 0;
-    for (auto _ : state)
-        state.SetIterationTime(timed([&] { subject->dialog().setDisplayUnits(code = 3 - code); }));
 }
 
 /// What the program holds, blocks that have a mapping of their own included.
@@ -189,45 +169,28 @@ double bytesPerAttribute(int size)
     return (heldBytes<Subject>(size) - empty) / size;
 }
 
-template <class Work>
-void enroll(const std::string &name, Work work)
+/// Measures in a process of its own: that finds a heap that nobody has used, and leaves none behind.
+double measuredApart(double (*measure)(int), int size)
 {
-    benchmark::RegisterBenchmark(name.c_str(), work)
-        ->Arg(1000)
-        ->Arg(10000)
-        ->Arg(100000)
-        ->UseManualTime()
-        ->MinTime(0.2)
-        ->Repetitions(3)
-        ->Unit(benchmark::kMillisecond);
-}
-
-void enrollAll()
-{
-    enroll("key/filter", key<FilterSubject>);
-    enroll("key/proxy", key<ProxyDialog>);
-    enroll("key/floor", key<FloorDialog>);
-    enroll("wildcard/filter", wildcard<FilterSubject>);
-    enroll("wildcard/proxy", wildcard<ProxyDialog>);
-    enroll("open/filter", open<FilterSubject>);
-    enroll("open/assign", open<AssignSubject>);
-    enroll("open/floor", open<FloorDialog>);
-    enroll("entity/filter", entity<FilterSubject>);
-    enroll("group/filter", group<FilterSubject>);
-    for (const bool adding : {true, false}) {
-        const std::string verb = adding ? "add" : "remove";
-        for (const int count : {1000, 0}) {
-            const std::string work = verb + (count ? "1000" : "all");
-            enroll(work + "/filter",
-                   [=](benchmark::State &state) { transfer<FilterSubject>(state, count, adding); });
-            enroll(work + "/assign",
-                   [=](benchmark::State &state) { transfer<AssignSubject>(state, count, adding); });
-        }
+    int ends[2];
+    if (pipe(ends) != 0)
+        qFatal("no pipe to another process");
+    double figure = std::nan("");
+    const pid_t child = fork();
+    if (child == 0) {
+        int argc = 1;
+        char name[] = "zudunmaf_bench";
+        char *argv[] = {name, nullptr};
+        QApplication application(argc, argv);
+        figure = measure(size);
+        _exit(write(ends[1], &figure, sizeof figure) == sizeof figure ? 0 : 1);
     }
-    enroll("lines/filter", lines);
-    enroll("key/assign", assignKey);
-    enroll("units/filter", units<FilterSubject>);
-    enroll("units/assign", units<AssignSubject>);
+    close(ends[1]);
+    if (child < 0 || read(ends[0], &figure, sizeof figure) != sizeof figure)
+        qFatal("the other process has measured nothing");
+    close(ends[0]);
+    waitpid(child, nullptr, 0);
+    return figure;
 }
 
 } // namespace
@@ -238,14 +201,13 @@ int main(int argc, char *argv[])
         qputenv("QT_QPA_PLATFORM", "offscreen");
     // The offscreen platform says each time that it has no size hints.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    RatioTable table;
+    table.add("bytes per attribute, filter", measuredApart(bytesPerAttribute<FilterSubject>, 100000), 1300);
+    table.add("bytes per attribute, assign", measuredApart(bytesPerAttribute<AssignSubject>, 100000), 650);
+
     QApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     enrollAll();
-
-    RatioTable table;
-    // Before anything else: the pool of records keeps what it once took.
-    table.keep("memory/filter/100000", bytesPerAttribute<FilterSubject>(100000));
-    table.keep("memory/assign/100000", bytesPerAttribute<AssignSubject>(100000));
     benchmark::RunSpecifiedBenchmarks(&table);
     return table.print() ? 0 : 1;
 }

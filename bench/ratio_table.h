@@ -3,32 +3,40 @@
 
 #include <benchmark/benchmark.h>
 
-#include <map>
 #include <string>
+#include <vector>
 
 namespace Zudunmaf::bench
 {
 
-/// Reports runs as the console does and keeps the lowest time of each work, so that the table of ratios can be
-/// printed behind them: what else the machine does only ever adds to a time. A run is named WORK/SUBJECT/SIZE.
+/// Reports runs as the console does, and gathers those that have a goal, so that they can be printed as a table
+/// behind all others.
 class RatioTable : public benchmark::ConsoleReporter
 {
 public:
+    /// The counters of a run that has a goal: what it came to, and what that is to be at most.
+    static constexpr char RatioCounter[] = "ratio";
+    static constexpr char GoalCounter[] = "goal";
+
     void ReportRuns(const std::vector<Run> &runs) override;
 
-    /// Keeps a figure that is no time, such as bytes.
-    void keep(const std::string &name, double figure) { m_figures[name] = figure; }
+    /// Adds a figure that is no time, such as bytes.
+    void add(const std::string &title, double figure, double goal)
+    {
+        m_rows.push_back({title, figure, goal});
+    }
 
-    /// Prints each ratio beside its goal; false where one is over it.
+    /// Prints each figure beside its goal; false where one is over it.
     bool print() const;
 
 private:
-    void keepLowest(const std::string &name, double figure);
-    double figure(const std::string &name) const;
-    bool printRow(const std::string &title, const std::string &above, const std::string &below,
-                  double goal) const;
+    struct Row {
+        std::string title;
+        double figure;
+        double goal;
+    };
 
-    std::map<std::string, double> m_figures;
+    std::vector<Row> m_rows;
 };
 
 } // namespace Zudunmaf::bench

@@ -1,47 +1,42 @@
 #include "gdm/host/gen_services.h"
 
-#include <cstddef>
+#include "gen/memory_arena.h"
+
 #include <cstdio>
 #include <cstdlib>
-#include <memory_resource>
 #include <mutex>
 #include <new>
 
 namespace
 {
 
-/// Stands in front of each block: giving back asks for the size, which the caller no longer knows.
-struct alignas(std::max_align_t) Header {
-    std::size_t size;
-};
-
-/// A dialog takes as many small blocks of one size as there are attributes, and gives them back all at once. The
-/// pool lasts as long as the process, since nobody can tell which static object gives its blocks back last.
-std::pmr::memory_resource &pool()
-{
 #ifdef __SANITIZE_ADDRESS__
-    return *std::pmr::new_delete_resource(); // where each block is watched on its own
+/// Here each block is watched on its own.
+struct Source {
+    void *take(std::size_t size) { return ::operator new(size); }
+    void giveBack(void *block) { ::operator delete(block); }
+};
 #else
-    static auto *const pool = new std::pmr::unsynchronized_pool_resource;
-    return *pool;
+using Source = Zudunmaf::gen::MemoryArena;
 #endif
+
+/// Lasts as long as the process, since nobody can tell which static object gives its blocks back last.
+Source &source()
+{
+    static auto *const source = new Source;
+    return *source;
 }
 
-/// Nearly always free, and then far cheaper than the pools for each thread of a synchronized resource.
-std::mutex g_poolGuard;
+/// Nearly always free.
+std::mutex g_sourceGuard;
 
 } // namespace
 
 void *gen__mem_malloc(size_t size, int, const char *file, int line)
 {
     try {
-        const std::size_t whole = sizeof(Header) + size;
-        if (whole < size)
-            throw std::bad_alloc();
-        const std::lock_guard<std::mutex> guard(g_poolGuard);
-        Header *header = static_cast<Header *>(pool().allocate(whole, alignof(Header)));
-        header->size = whole;
-        return header + 1;
+        const std::lock_guard<std::mutex> guard(g_sourceGuard);
+        return source().take(size);
     } catch (const std::bad_alloc &) {
         std::fprintf(stderr, "zudunmaf: out of memory for %zu bytes (%s:%d)\n", size, file ? file : "?",
                      line);
@@ -53,7 +48,6 @@ void gen__mem_free(void *memory, int, const char *, int)
 {
     if (!memory)
         return;
-    Header *header = static_cast<Header *>(memory) - 1;
-    const std::lock_guard<std::mutex> guard(g_poolGuard);
-    pool().deallocate(header, header->size, alignof(Header));
+    const std::lock_guard<std::mutex> guard(g_sourceGuard);
+    source().giveBack(memory);
 }

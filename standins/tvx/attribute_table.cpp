@@ -24,6 +24,7 @@ namespace
 {
 
 constexpr int MinimumRows = 4;
+constexpr int MinimumCharacters = 20;
 
 QLocale plainNumbers()
 {
@@ -207,18 +208,22 @@ void AttributeTable::applyNameWidth()
     m_applyingWidth = false;
 }
 
+QSize AttributeTable::sizeForRows(int rows) const
+{
+    // A splitter asks dozens of times while a dialog opens, and Qt's own hints measure the header and the scroll bars
+    // each time. The header is about as high as a row.
+    return QSize(MinimumCharacters * fontMetrics().averageCharWidth(),
+                 (rows + 1) * verticalHeader()->defaultSectionSize() + 2 * frameWidth());
+}
+
 QSize AttributeTable::minimumSizeHint() const
 {
-    const int rows = MinimumRows * verticalHeader()->defaultSectionSize();
-    const int height = horizontalHeader()->sizeHint().height() + rows + 2 * frameWidth();
-    return QSize(QTableWidget::minimumSizeHint().width(), height);
+    return sizeForRows(MinimumRows);
 }
 
 QSize AttributeTable::sizeHint() const
 {
-    const QSize smallest = minimumSizeHint();
-    return QSize(smallest.width(),
-                 smallest.height() + 2 * MinimumRows * verticalHeader()->defaultSectionSize());
+    return sizeForRows(3 * MinimumRows);
 }
 
 void AttributeTable::keyboardSearch(const QString &search)

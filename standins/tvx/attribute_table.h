@@ -116,6 +116,7 @@ private:
     void alignHeader();
     void sortByClick(int column);
     void placeRows(const QVector<int> &order);
+    QSize sizeForRows(int rows) const;
     int boundedNameWidth(int width) const;
     void applyNameWidth();
     void copySelectedRows() const;

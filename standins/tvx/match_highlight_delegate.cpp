@@ -50,6 +50,24 @@ QVector<QTextLayout::FormatRange> formats(const QStyleOptionViewItem &option, co
     return ranges;
 }
 
+/// Where the text of a cell belongs. The style finds it by measuring the text, which only a picture beside it makes
+/// needful.
+QRect textArea(const QStyleOptionViewItem &cell, const QStyle &style)
+{
+    const bool hasPicture =
+        cell.features & (QStyleOptionViewItem::HasCheckIndicator | QStyleOptionViewItem::HasDecoration);
+    return hasPicture ? style.subElementRect(QStyle::SE_ItemViewItemText, &cell, cell.widget) : cell.rect;
+}
+
+QTextLine layOut(QTextLayout *layout, int width)
+{
+    layout->beginLayout();
+    QTextLine line = layout->createLine();
+    line.setLineWidth(width);
+    layout->endLayout();
+    return line;
+}
+
 } // namespace
 
 MatchHighlightDelegate::MatchHighlightDelegate(QObject *parent)
@@ -60,17 +78,19 @@ MatchHighlightDelegate::MatchHighlightDelegate(QObject *parent)
 void MatchHighlightDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                                    const QModelIndex &index) const
 {
+    if (m_finder.isEmpty() || index.column() != AttributeTable::NameColumn) {
+        QStyledItemDelegate::paint(painter, option, index);
+        return;
+    }
     QStyleOptionViewItem cell = option;
     initStyleOption(&cell, index);
-    QVector<MatchFinder::Match> matches;
-    if (index.column() == AttributeTable::NameColumn)
-        matches = m_finder.matchesIn(cell.text);
+    const QVector<MatchFinder::Match> matches = m_finder.matchesIn(cell.text);
     if (matches.isEmpty()) {
         QStyledItemDelegate::paint(painter, option, index);
         return;
     }
     const QStyle *style = cell.widget ? cell.widget->style() : QApplication::style();
-    const QRect area = style->subElementRect(QStyle::SE_ItemViewItemText, &cell, cell.widget);
+    const QRect area = textArea(cell, *style);
     QStyleOptionViewItem bare = cell;
     bare.text.clear();
     style->drawControl(QStyle::CE_ItemViewItem, &bare, painter, cell.widget);
@@ -83,18 +103,19 @@ void MatchHighlightDelegate::paintText(QPainter *painter, const QStyleOptionView
     const QStyle *style = option.widget ? option.widget->style() : QApplication::style();
     const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, option.widget) + 1;
     const QRect inner = area.adjusted(margin, 0, -margin, 0);
-    const QString shown = option.fontMetrics.elidedText(option.text, option.textElideMode, inner.width());
 
-    QTextLayout layout(shown, option.font);
+    QTextLayout layout(option.text, option.font);
     QTextOption direction(QStyle::visualAlignment(option.direction, option.displayAlignment));
     direction.setTextDirection(option.direction);
     direction.setWrapMode(QTextOption::NoWrap);
     layout.setTextOption(direction);
-    layout.setFormats(formats(option, shown, matches));
-    layout.beginLayout();
-    QTextLine line = layout.createLine();
-    line.setLineWidth(inner.width());
-    layout.endLayout();
+    layout.setFormats(formats(option, option.text, matches));
+    QTextLine line = layOut(&layout, inner.width());
+    if (line.naturalTextWidth() > inner.width()) {
+        layout.setText(option.fontMetrics.elidedText(option.text, option.textElideMode, inner.width()));
+        layout.setFormats(formats(option, layout.text(), matches));
+        line = layOut(&layout, inner.width());
+    }
 
     const bool selected = option.state & QStyle::State_Selected;
     painter->save();

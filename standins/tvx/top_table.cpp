@@ -35,6 +35,7 @@ TopTable::Pass::~Pass()
     if (--m_table->m_passes > 0)
         return;
     m_table->verticalHeader()->setUpdatesEnabled(true);
+    m_table->updateGeometries();
     m_table->setUpdatesEnabled(true);
     m_table->endPass();
 }
@@ -95,11 +96,17 @@ void TopTable::setRowVisible(int row, bool visible)
 {
     if (row < 0 || row >= m_items.size())
         return;
-    setRowShown(row, visible);
+    if (m_passes > 0) {
+        // Told of each row, the view would keep a list of them, and paint a second time behind the end of the pass.
+        const QSignalBlocker blocker(verticalHeader());
+        setRowShown(row, visible);
+    } else {
+        setRowShown(row, visible);
+        if (!m_announcement.isActive())
+            m_announcement.start();
+    }
     if (visible)
         m_firstVisibleBound = std::min(m_firstVisibleBound, row);
-    if (m_passes == 0 && !m_announcement.isActive())
-        m_announcement.start();
 }
 
 int TopTable::firstVisibleRow()

@@ -1,0 +1,194 @@
+#ifndef BENCH_TRIALS_H
+#define BENCH_TRIALS_H
+
+#include "bench_dictionary.h"
+#include "dialog_subject.h"
+#include "gdm/gdm_qt.h"
+#include "peers.h"
+
+#include <QElapsedTimer>
+#include <QEventLoop>
+
+#include <functional>
+#include <memory>
+#include <type_traits>
+
+/// The works that the bench times. Each function here makes one ready over so many attributes, on a subject of its
+/// own: one of the dialogs or a peer.
+namespace Zudunmaf::bench
+{
+
+using FilterSubject = DialogSubject<AttributesFilterDialog>;
+using AssignSubject = DialogSubject<FeatureAttributesDialog>;
+
+/// Does the work once and tells the seconds that it took; all is then as it was before.
+using Trial = std::function<double()>;
+using MakeTrial = Trial (*)(int size);
+
+/// Stands for as many rows as there are.
+constexpr int AllRows = 0;
+
+/// Brings the screen up to date. Once is not enough: a view paints, then puts right by a timer what it has painted.
+inline void settle()
+{
+    QEventLoop loop;
+    while (loop.processEvents()) {
+    }
+}
+
+/// Seconds until the work is done and the screen is up to date.
+template <class Work>
+double timed(Work work)
+{
+    QElapsedTimer timer;
+    timer.start();
+    work();
+    settle();
+    return double(timer.nsecsElapsed()) * 1e-9;
+}
+
+template <class Subject>
+std::unique_ptr<Subject> created(int size, const QStringList &names)
+{
+    if constexpr (std::is_constructible_v<Subject, QStringList>)
+        return std::make_unique<Subject>(names);
+    else
+        return std::make_unique<Subject>(size);
+}
+
+template <class Subject>
+std::shared_ptr<Subject> shown(int size)
+{
+    loadDictionary(size);
+    std::shared_ptr<Subject> subject = created<Subject>(size, attributeNames(size));
+    subject->show();
+    settle();
+    return subject;
+}
+
+template <class Subject>
+Trial open(int size)
+{
+    loadDictionary(size);
+    return [size, names = attributeNames(size)] {
+        std::unique_ptr<Subject> subject;
+        return timed([&] {
+            subject = created<Subject>(size, names);
+            subject->show();
+        });
+    };
+}
+
+/// One key that narrows, one that widens, and clearing: the mean of the three.
+template <class Subject>
+Trial key(int size)
+{
+    return [subject = shown<Subject>(size)] {
+        subject->setFilter(QStringLiteral("pa"));
+        settle();
+        double seconds = timed([&] { subject->setFilter(QStringLiteral("pad")); });
+        seconds += timed([&] { subject->setFilter(QStringLiteral("pa")); });
+        seconds += timed([&] { subject->setFilter(QString()); });
+        return seconds / 3;
+    };
+}
+
+template <class Subject>
+Trial wildcard(int size)
+{
+    return [subject = shown<Subject>(size)] {
+        const double seconds = timed([&] { subject->setFilter(QStringLiteral("_?3")); });
+        subject->setFilter(QString());
+        settle();
+        return seconds;
+    };
+}
+
+template <class Subject>
+Trial entity(int size)
+{
+    return [subject = shown<Subject>(size)] {
+        const double seconds = timed([&] { subject->setEntity(2); });
+        subject->setEntity(8);
+        settle();
+        return seconds;
+    };
+}
+
+template <class Subject>
+Trial group(int size)
+{
+    return [subject = shown<Subject>(size)] {
+        const double seconds = timed([&] { subject->setGroup(7); });
+        subject->setGroup(0);
+        settle();
+        return seconds;
+    };
+}
+
+/// Rows are added and removed again; the one or the other is timed.
+template <class Subject, int Rows, bool Adding>
+Trial transfer(int size)
+{
+    return [subject = shown<Subject>(size), rows = Rows == AllRows ? size : Rows] {
+        const double added = timed([&] { subject->add(rows); });
+        if (subject->chosenCount() != rows)
+            qFatal("not all rows were added");
+        const double removed = timed([&] { subject->remove(rows); });
+        if (subject->chosenCount() != 0)
+            qFatal("not all rows were removed");
+        return Adding ? added : removed;
+    };
+}
+
+template <class Subject, int Rows>
+Trial add(int size)
+{
+    return transfer<Subject, Rows, true>(size);
+}
+
+template <class Subject, int Rows>
+Trial remove(int size)
+{
+    return transfer<Subject, Rows, false>(size);
+}
+
+/// "Assign Attributes" leaves the chosen ones out, so there it matters that there are some.
+inline Trial keyAmongChosen(int size)
+{
+    const auto subject = shown<AssignSubject>(size);
+    subject->add(1000);
+    return [subject] {
+        const double seconds = timed([&] { subject->setFilter(QStringLiteral("pad")); });
+        subject->setFilter(QString());
+        settle();
+        return seconds;
+    };
+}
+
+inline Trial lines(int size)
+{
+    const auto subject = shown<FilterSubject>(size);
+    subject->add(1000);
+    return [subject] {
+        return timed([&] {
+            if (subject->dialog().getFiltersAsStringList().size() != 1000)
+                qFatal("not all lines were given");
+        });
+    };
+}
+
+/// There and back: the mean of the two.
+template <class Subject>
+Trial units(int size)
+{
+    return [subject = shown<Subject>(size)] {
+        double seconds = timed([&] { subject->dialog().setDisplayUnits(2); });
+        seconds += timed([&] { subject->dialog().setDisplayUnits(1); });
+        return seconds / 2;
+    };
+}
+
+} // namespace Zudunmaf::bench
+
+#endif
