@@ -65,7 +65,6 @@ AttributeTable::AttributeTable(QWidget *parent)
     setDragEnabled(true);
     setAcceptDrops(true);
     setDropIndicatorShown(false);
-    setHorizontalScrollMode(ScrollPerPixel);
     setUpHeaders();
 }
 

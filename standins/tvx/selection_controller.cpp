@@ -209,10 +209,12 @@ bool SelectionController::eventFilter(QObject *watched, QEvent *event)
         const int key = static_cast<QKeyEvent *>(event)->key();
         return key == Qt::Key_Return || key == Qt::Key_Enter;
     }
-    if (watched == m_dialog && event->type() == QEvent::FontChange)
+    if (watched == m_dialog && event->type() == QEvent::FontChange) {
         fitNameWidth();
+        m_widgets.fitToFont();
+    }
     if (watched == m_dialog && (event->type() == QEvent::FontChange || event->type() == QEvent::Resize))
-        m_widgets.fitToDialog();
+        m_widgets.fitToHeight();
     return QObject::eventFilter(watched, event);
 }
 

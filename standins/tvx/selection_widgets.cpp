@@ -73,7 +73,8 @@ SelectionWidgets::SelectionWidgets(QDialog *dialog)
     if (const QScreen *screen = QGuiApplication::primaryScreen())
         size = size.boundedTo(screen->availableSize() * 9 / 10);
     dialog->resize(size);
-    fitToDialog();
+    fitToFont();
+    fitToHeight();
     dialog->setSizeGripEnabled(true);
     filterText->setFocus();
 }
@@ -191,11 +192,9 @@ QWidget *SelectionWidgets::tablesWidget(QDialog *dialog) const
     return splitter;
 }
 
-void SelectionWidgets::fitToDialog()
+void SelectionWidgets::fitToFont()
 {
     const QFontMetrics metrics = description->fontMetrics();
-    const bool ample = description->window()->height() >= AmpleHeight * metrics.lineSpacing();
-    description->setFixedHeight((ample ? 3 : 2) * metrics.lineSpacing());
     preview->setFixedHeight(2 * metrics.lineSpacing());
     // Two spin boxes with their labels, each wide enough for the longest whole number.
     const auto widthOf = [&metrics](const char *key) { return metrics.horizontalAdvance(textOf(key)); };
@@ -205,6 +204,13 @@ void SelectionWidgets::fitToDialog()
         labels + 2 * metrics.horizontalAdvance(QLatin1String("-2147483648")) + 7 * metrics.height();
     topView->setMinimumValueWidth(rangeWidth);
     chosenList->setMinimumValueWidth(rangeWidth);
+}
+
+void SelectionWidgets::fitToHeight()
+{
+    const int line = description->fontMetrics().lineSpacing();
+    const bool ample = description->window()->height() >= AmpleHeight * line;
+    description->setFixedHeight((ample ? 3 : 2) * line);
 }
 
 } // namespace tvx

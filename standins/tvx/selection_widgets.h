@@ -26,9 +26,10 @@ class SelectionWidgets
 public:
     explicit SelectionWidgets(QDialog *dialog);
 
-    /// Sets the sizes that hang on the font and on the height of the dialog: a low one leaves its room to the
-    /// tables.
-    void fitToDialog();
+    /// Sets the sizes that hang on the font.
+    void fitToFont();
+    /// Sets those that hang on the height of the dialog: a low one leaves its room to the tables.
+    void fitToHeight();
 
     QComboBox *entityList;
     QComboBox *groupList;

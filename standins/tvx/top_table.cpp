@@ -17,7 +17,7 @@ namespace tvx
 namespace
 {
 
-constexpr int WidthSample = 256;
+constexpr int WidthSample = 64;
 
 } // namespace
 

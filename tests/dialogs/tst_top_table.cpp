@@ -2,6 +2,20 @@
 
 #include <QScrollBar>
 
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == QEvent::Paint;
+        return false;
+    }
+
+    int count = 0;
+};
+
 /// The upper half of the dialog: finding attributes and taking them over.
 class TopTableTest : public DialogTest
 {
@@ -161,6 +175,21 @@ private Q_SLOTS:
         QVERIFY(!isRed(Value));
         filterText->clear();
         QVERIFY(!isRed(Name));
+    }
+
+    /// And once more where the scroll bar comes or goes, which changes the width of a column.
+    void eachKeyPaintsTheRowsOnce()
+    {
+        PaintCounter painted(topView->viewport());
+        const QScrollBar *bar = topView->verticalScrollBar();
+        for (const char *text : {"pad", "pa", "no such", "pad", ""}) {
+            const bool scrolled = bar->maximum() > 0;
+            painted.count = 0;
+            filterText->setText(text);
+            QTest::qWait(20);
+            QCOMPARE(bar->maximum() > 0, !visibleNames(topView).isEmpty());
+            QCOMPARE(painted.count, (bar->maximum() > 0) == scrolled ? 1 : 2);
+        }
     }
 
     void lettersLeadToARow_data() { addWays({"pl plated", "pad_2 pad_20", "ppp pad_01"}); }

@@ -6,8 +6,11 @@
 
 #include <QtTest>
 
+#include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <limits>
+#include <random>
 
 using namespace Zudunmaf;
 using gen::UnitInfo;
@@ -55,6 +58,30 @@ private Q_SLOTS:
         QCOMPARE(read(), -1);
         write("edt_show_obsolete_attrs=1\n");
         QCOMPARE(read(), 11);
+    }
+
+    /// None of them reaches into another, in whatever order they come back.
+    void memoryBlocks()
+    {
+        std::mt19937 random(1);
+        std::vector<std::pair<char *, size_t>> blocks;
+        const auto giveOneBack = [&blocks] {
+            const auto [block, size] = blocks.back();
+            QCOMPARE(std::count(block, block + size, *block), std::ptrdiff_t(size));
+            gen__mem_free(block, 1, __FILE__, __LINE__);
+            blocks.pop_back();
+        };
+        for (int step = 0; step < 3000; ++step) {
+            const size_t size = step % 500 == 0 ? 100000 : 1 + random() % 400;
+            auto *block = static_cast<char *>(gen__mem_malloc(size, 1, __FILE__, __LINE__));
+            QCOMPARE(quintptr(block) % alignof(std::max_align_t), quintptr(0));
+            std::memset(block, step, size);
+            blocks.insert(blocks.begin() + random() % (blocks.size() + 1), {block, size});
+            for (size_t count = step % 1000 ? random() % 2 : blocks.size(); count > 0; --count)
+                giveOneBack();
+        }
+        while (!blocks.empty())
+            giveOneBack();
     }
 
     void ignoringCase()
