@@ -18,18 +18,19 @@ void ButtonGlyph::paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, 
 {
     const QPalette palette = m_button ? m_button->palette() : QPalette();
     const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-    const qreal side = qMin(rect.width(), rect.height());
-    const qreal reach = side * 0.34;
+    const QColor colour = palette.color(group, QPalette::ButtonText);
+    const int side = qMin(rect.width(), rect.height());
+    const int thickness = qMax(1, side / 8);
+    const int length = thickness + side * 2 / 7 * 2; // so that both ends reach as far from the middle
 
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->translate(QRectF(rect).center());
-    painter->setPen(QPen(palette.color(group, QPalette::ButtonText), qMax(1.5, side * 0.12), Qt::SolidLine,
-                         Qt::RoundCap));
-    painter->drawLine(QPointF(-reach, 0), QPointF(reach, 0));
-    if (m_shape == Plus)
-        painter->drawLine(QPointF(0, -reach), QPointF(0, reach));
-    painter->restore();
+    QRect bar(0, 0, length, thickness);
+    bar.moveCenter(rect.center());
+    painter->fillRect(bar, colour);
+    if (m_shape == Plus) {
+        bar = QRect(0, 0, thickness, length);
+        bar.moveCenter(rect.center());
+        painter->fillRect(bar, colour);
+    }
 }
 
 QPixmap ButtonGlyph::pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state)

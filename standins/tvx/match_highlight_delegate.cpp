@@ -31,6 +31,9 @@ QPalette::ColorGroup colorGroup(const QStyleOptionViewItem &option)
 QVector<QTextLayout::FormatRange> formats(const QStyleOptionViewItem &option, const QString &shown,
                                           const QVector<MatchFinder::Match> &matches)
 {
+    QVector<QTextLayout::FormatRange> ranges;
+    if (matches.isEmpty())
+        return ranges;
     const QPalette::ColorGroup group = colorGroup(option);
     const bool selected = option.state & QStyle::State_Selected;
     const QColor back = option.palette.color(group, selected ? QPalette::Highlight : QPalette::Base);
@@ -42,7 +45,6 @@ QVector<QTextLayout::FormatRange> formats(const QStyleOptionViewItem &option, co
     format.setBackground(mixed(mark, back, 0.3));
     format.setForeground(front);
     format.setFontUnderline(true);
-    QVector<QTextLayout::FormatRange> ranges;
     for (const MatchFinder::Match &match : matches) {
         if (match.start + match.length <= shown.size())
             ranges.append({match.start, match.length, format});
@@ -78,23 +80,25 @@ MatchHighlightDelegate::MatchHighlightDelegate(QObject *parent)
 void MatchHighlightDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                                    const QModelIndex &index) const
 {
-    if (m_finder.isEmpty() || index.column() != AttributeTable::NameColumn) {
-        QStyledItemDelegate::paint(painter, option, index);
-        return;
-    }
     QStyleOptionViewItem cell = option;
     initStyleOption(&cell, index);
-    const QVector<MatchFinder::Match> matches = m_finder.matchesIn(cell.text);
-    if (matches.isEmpty()) {
+    cell.text.replace(QChar::LineSeparator, QLatin1Char(' '));
+    QVector<MatchFinder::Match> matches;
+    if (index.column() == AttributeTable::NameColumn)
+        matches = m_finder.matchesIn(cell.text);
+    const QStyle *style = cell.widget ? cell.widget->style() : QApplication::style();
+    // What a style sheet says of the text only the style knows.
+    if (matches.isEmpty() && style->inherits("QStyleSheetStyle")) {
         QStyledItemDelegate::paint(painter, option, index);
         return;
     }
-    const QStyle *style = cell.widget ? cell.widget->style() : QApplication::style();
+    // The style would set the text three times over: to place it, to shorten it and to draw it.
     const QRect area = textArea(cell, *style);
     QStyleOptionViewItem bare = cell;
     bare.text.clear();
     style->drawControl(QStyle::CE_ItemViewItem, &bare, painter, cell.widget);
-    paintText(painter, cell, area, matches);
+    if (!cell.text.isEmpty())
+        paintText(painter, cell, area, matches);
 }
 
 void MatchHighlightDelegate::paintText(QPainter *painter, const QStyleOptionViewItem &option,

@@ -2,6 +2,7 @@
 
 #include "gdm/host/message_keys.h"
 #include "tvx/button_picture.h"
+#include "tvx/caption.h"
 #include "tvx/choice_list.h"
 #include "tvx/chosen_table.h"
 #include "tvx/text_lines.h"
@@ -54,7 +55,7 @@ QPushButton *button(QDialog *dialog, const char *objectName, const char *text, c
 
 QLabel *label(const char *text, QWidget *buddy)
 {
-    auto *label = new QLabel(textOf(text), buddy->parentWidget());
+    auto *label = new Caption(textOf(text), buddy->parentWidget());
     label->setBuddy(buddy);
     return label;
 }
@@ -169,6 +170,15 @@ QLayout *SelectionWidgets::choiceLayout() const
 
 QWidget *SelectionWidgets::tablesWidget(QDialog *dialog) const
 {
+    // Put in while it is empty: the splitter measures at once what it gets.
+    auto *lower = new QWidget(dialog);
+    auto *splitter = new QSplitter(Qt::Vertical, dialog);
+    splitter->setChildrenCollapsible(false);
+    splitter->addWidget(topView);
+    splitter->addWidget(lower);
+    splitter->setStretchFactor(0, 3);
+    splitter->setStretchFactor(1, 2);
+
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(addButton);
     buttons->addWidget(removeButton);
@@ -177,18 +187,10 @@ QWidget *SelectionWidgets::tablesWidget(QDialog *dialog) const
     buttons->addStretch(1);
     buttons->addWidget(chosenLabel);
 
-    auto *lower = new QWidget(dialog);
     auto *layout = new QVBoxLayout(lower);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(buttons);
     layout->addWidget(chosenList, 1);
-
-    auto *splitter = new QSplitter(Qt::Vertical, dialog);
-    splitter->setChildrenCollapsible(false);
-    splitter->addWidget(topView);
-    splitter->addWidget(lower);
-    splitter->setStretchFactor(0, 3);
-    splitter->setStretchFactor(1, 2);
     return splitter;
 }
 

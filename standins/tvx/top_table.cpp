@@ -8,6 +8,7 @@
 #include <QScrollBar>
 
 #include <algorithm>
+#include <utility>
 
 namespace Zudunmaf
 {
@@ -35,7 +36,8 @@ TopTable::Pass::~Pass()
     if (--m_table->m_passes > 0)
         return;
     m_table->verticalHeader()->setUpdatesEnabled(true);
-    m_table->updateGeometries();
+    if (std::exchange(m_table->m_rowsChanged, false))
+        m_table->updateGeometries();
     m_table->setUpdatesEnabled(true);
     m_table->endPass();
 }
@@ -100,6 +102,7 @@ void TopTable::setRowVisible(int row, bool visible)
         // Told of each row, the view would keep a list of them, and paint a second time behind the end of the pass.
         const QSignalBlocker blocker(verticalHeader());
         setRowShown(row, visible);
+        m_rowsChanged = true;
     } else {
         setRowShown(row, visible);
         if (!m_announcement.isActive())

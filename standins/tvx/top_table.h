@@ -77,6 +77,8 @@ private:
     /// No row before this one is visible.
     int m_firstVisibleBound = 0;
     int m_passes = 0;
+    /// Rows were hidden or shown in the present pass.
+    bool m_rowsChanged = false;
     int m_fills = 0;
     /// Waits for the event loop, so that many rows are announced at once.
     QTimer m_announcement;
