@@ -122,12 +122,11 @@ void MatchHighlightDelegate::paintText(QPainter *painter, const QStyleOptionView
     }
 
     const bool selected = option.state & QStyle::State_Selected;
-    painter->save();
-    painter->setClipRect(area);
+    const QPen pen = painter->pen();
     painter->setPen(
         option.palette.color(colorGroup(option), selected ? QPalette::HighlightedText : QPalette::Text));
     layout.draw(painter, QPointF(inner.left(), inner.top() + (inner.height() - line.height()) / 2));
-    painter->restore();
+    painter->setPen(pen);
 }
 
 QSize MatchHighlightDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const

@@ -81,15 +81,12 @@ void TopTable::placeClones(const QList<QTableWidgetItem *> &items)
 {
     setRowCount(static_cast<int>(items.size()));
     const SilentChange change(this);
-    // One column after the other: a pass over the rows reads the items of column 1 alone, and is the faster the
-    // closer they lie together.
-    for (const int column : {NameColumn, ValueColumn}) {
-        int row = 0;
-        m_items.clear(); // in the end it holds those of column 1
-        for (const QTableWidgetItem *item : items) {
-            m_items.append(item->clone());
-            setItem(row++, column, m_items.constLast());
-        }
+    int row = 0;
+    m_items.clear();
+    for (const QTableWidgetItem *item : items) {
+        setItem(row, NameColumn, item->clone());
+        m_items.append(item->clone());
+        setItem(row++, ValueColumn, m_items.constLast());
     }
     forgetRowNumbers();
 }
