@@ -13,15 +13,15 @@
 #include <memory>
 #include <type_traits>
 
-/// The works that the bench times. Each function here makes one ready over so many attributes, on a subject of its
-/// own: one of the dialogs or a peer.
+/// The works that the bench times. Each function prepares one, over a dictionary of `size` attributes and on a subject
+/// of its own: one of the dialogs or a peer.
 namespace Zudunmaf::bench
 {
 
 using FilterSubject = DialogSubject<AttributesFilterDialog>;
 using AssignSubject = DialogSubject<FeatureAttributesDialog>;
 
-/// Does the work once and tells the seconds that it took; all is then as it was before.
+/// Does the work once and tells the seconds that it took. May be called again and again.
 using Trial = std::function<double()>;
 using MakeTrial = Trial (*)(int size);
 

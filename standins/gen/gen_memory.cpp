@@ -10,8 +10,16 @@
 namespace
 {
 
-#ifdef __SANITIZE_ADDRESS__
-/// Here each block is watched on its own.
+#if defined(__SANITIZE_ADDRESS__)
+#    define ZUDUNMAF_BLOCKS_ARE_WATCHED
+#elif defined(__has_feature)
+#    if __has_feature(address_sanitizer)
+#        define ZUDUNMAF_BLOCKS_ARE_WATCHED
+#    endif
+#endif
+
+#ifdef ZUDUNMAF_BLOCKS_ARE_WATCHED
+/// The sanitizer watches each block on its own.
 struct Source {
     void *take(std::size_t size) { return ::operator new(size); }
     void giveBack(void *block) { ::operator delete(block); }
@@ -27,7 +35,7 @@ Source &source()
     return *source;
 }
 
-/// Nearly always free.
+/// One for all: hardly ever do two threads ask at once.
 std::mutex g_sourceGuard;
 
 } // namespace

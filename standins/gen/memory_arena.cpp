@@ -1,6 +1,8 @@
 #include "gen/memory_arena.h"
 
+#include <algorithm>
 #include <cstdint>
+#include <cstdlib>
 #include <new>
 #include <utility>
 
@@ -22,8 +24,11 @@ constexpr std::size_t UsualSize = Alignment - 64;
 struct alignas(std::max_align_t) MemoryArena::Stretch {
     static Stretch *create(std::size_t size)
     {
-        return new (::operator new(size, std::align_val_t(Alignment)))
-            Stretch{nullptr, size, sizeof(Stretch), 0};
+        // Not operator new, which rounds the size up to the alignment and so leaves a hole behind each stretch.
+        void *memory = nullptr;
+        if (posix_memalign(&memory, Alignment, size) != 0)
+            throw std::bad_alloc();
+        return new (memory) Stretch{nullptr, size, sizeof(Stretch), 0};
     }
 
     static Stretch *of(void *block)
@@ -44,7 +49,7 @@ void *MemoryArena::take(std::size_t size)
     constexpr std::size_t unit = alignof(std::max_align_t);
     if (size > PTRDIFF_MAX - Alignment)
         throw std::bad_alloc();
-    const std::size_t whole = (size + unit - 1) / unit * unit;
+    const std::size_t whole = (std::max<std::size_t>(size, 1) + unit - 1) / unit * unit;
     Stretch *stretch = stretchFor(whole);
     void *block = reinterpret_cast<unsigned char *>(stretch) + stretch->used;
     stretch->used += whole;
@@ -68,7 +73,7 @@ void MemoryArena::giveBack(void *block)
     if (--stretch->blocks > 0)
         return;
     if (stretch->size != UsualSize) {
-        ::operator delete(stretch, std::align_val_t(Alignment));
+        std::free(stretch);
         return;
     }
     stretch->used = sizeof(Stretch);

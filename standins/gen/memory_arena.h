@@ -12,8 +12,8 @@ namespace gen
 /// back. A dialog takes a small block for each attribute, reads them in that order and gives them back together:
 /// what this costs is the way through memory, which is shortest from one end to the other.
 ///
-/// A block that stays keeps its stretch, 64 kB, from being used. Memory goes back to the system only where a block
-/// was larger than that. Not safe for threads by itself.
+/// A block that stays keeps its stretch, 64 kB, from being used anew. Memory is freed only where a block was larger than
+/// that. Not safe for threads by itself.
 class MemoryArena
 {
 public:

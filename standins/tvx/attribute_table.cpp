@@ -257,8 +257,7 @@ int AttributeTable::nextVisibleRow(int row, int step) const
 void AttributeTable::fixRowHeight()
 {
     // Without a row there is nobody to ask, and Qt's own height is far from that of a row to come.
-    const int height = rowCount() > 0 ? sizeHintForIndex(model()->index(0, NameColumn)).height()
-                                      : fontMetrics().height() + DelegateMargin;
+    const int height = rowCount() > 0 ? sizeHintForRow(0) : fontMetrics().height() + DelegateMargin;
     if (height <= 0)
         return;
     QHeaderView *header = verticalHeader();

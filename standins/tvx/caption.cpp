@@ -13,9 +13,12 @@ Caption::Caption(const QString &text, QWidget *parent)
 
 QSize Caption::sizeHint() const
 {
+    ensurePolished();
     QString shown = text();
-    shown.remove(QLatin1Char('&'));
-    return QSize(fontMetrics().horizontalAdvance(shown), fontMetrics().height());
+    const auto mark = shown.indexOf(QLatin1Char('&'));
+    if (mark >= 0)
+        shown.remove(mark, 1);
+    return QSize(fontMetrics().horizontalAdvance(shown), fontMetrics().height()).grownBy(contentsMargins());
 }
 
 } // namespace tvx

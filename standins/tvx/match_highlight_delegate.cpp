@@ -122,11 +122,13 @@ void MatchHighlightDelegate::paintText(QPainter *painter, const QStyleOptionView
     }
 
     const bool selected = option.state & QStyle::State_Selected;
-    const QPen pen = painter->pen();
+    painter->save();
+    if (line.height() > area.height() || line.naturalTextWidth() > inner.width())
+        painter->setClipRect(area);
     painter->setPen(
         option.palette.color(colorGroup(option), selected ? QPalette::HighlightedText : QPalette::Text));
     layout.draw(painter, QPointF(inner.left(), inner.top() + (inner.height() - line.height()) / 2));
-    painter->setPen(pen);
+    painter->restore();
 }
 
 QSize MatchHighlightDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const

@@ -11,8 +11,7 @@ namespace tvx
 {
 
 /// Paints the rows on offer, each text in one line: in the name, what the filter text matches stands out, in colours of
-/// the palette.
-/// Rows are as high as those of the delegate with which the chosen ones are edited.
+/// the palette. Rows are as high as those of the delegate with which the chosen ones are edited.
 class MatchHighlightDelegate : public QStyledItemDelegate
 {
     Q_OBJECT

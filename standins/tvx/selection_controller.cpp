@@ -212,8 +212,9 @@ bool SelectionController::eventFilter(QObject *watched, QEvent *event)
     if (watched == m_dialog && event->type() == QEvent::FontChange) {
         fitNameWidth();
         m_widgets.fitToFont();
+        m_widgets.fitToHeight();
     }
-    if (watched == m_dialog && (event->type() == QEvent::FontChange || event->type() == QEvent::Resize))
+    if (watched == m_dialog && event->type() == QEvent::Resize)
         m_widgets.fitToHeight();
     return QObject::eventFilter(watched, event);
 }

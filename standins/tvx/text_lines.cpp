@@ -1,5 +1,6 @@
 #include "tvx/text_lines.h"
 
+#include <QApplication>
 #include <QEvent>
 
 namespace Zudunmaf
@@ -19,11 +20,14 @@ TextLines::TextLines(QWidget *parent)
 
 bool TextLines::event(QEvent *event)
 {
+    const bool handled = QLabel::event(event);
+    const bool mayEnd = event->type() == QEvent::Leave || event->type() == QEvent::FocusOut;
     if (event->type() == QEvent::Enter)
         setTextInteractionFlags(Qt::TextSelectableByMouse);
-    else if (event->type() == QEvent::Leave && !hasSelectedText())
+    else if (mayEnd && !underMouse() && !hasSelectedText() &&
+             !QApplication::activePopupWidget()) // such as its menu
         setTextInteractionFlags(Qt::NoTextInteraction);
-    return QLabel::event(event);
+    return handled;
 }
 
 } // namespace tvx

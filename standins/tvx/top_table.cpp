@@ -96,7 +96,7 @@ void TopTable::setRowVisible(int row, bool visible)
     if (row < 0 || row >= m_items.size())
         return;
     if (m_passes > 0) {
-        // Told of each row, the view would keep a list of them, and paint a second time behind the end of the pass.
+        // Told of each row, the view would keep a list of them, and paint a second time after the end of the pass.
         const QSignalBlocker blocker(verticalHeader());
         setRowShown(row, visible);
         m_rowsChanged = true;

@@ -8,7 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
+#include <cstddef>
 #include <limits>
 #include <random>
 
@@ -64,24 +64,20 @@ private Q_SLOTS:
     void memoryBlocks()
     {
         std::mt19937 random(1);
-        std::vector<std::pair<char *, size_t>> blocks;
-        const auto giveOneBack = [&blocks] {
-            const auto [block, size] = blocks.back();
-            QCOMPARE(std::count(block, block + size, *block), std::ptrdiff_t(size));
-            gen__mem_free(block, 1, __FILE__, __LINE__);
-            blocks.pop_back();
-        };
+        std::vector<QPair<char *, QByteArray>> blocks;
         for (int step = 0; step < 3000; ++step) {
-            const size_t size = step % 500 == 0 ? 100000 : 1 + random() % 400;
-            auto *block = static_cast<char *>(gen__mem_malloc(size, 1, __FILE__, __LINE__));
+            const QByteArray content(step % 500 == 0 ? 100000 : int(random() % 400), char(step));
+            auto *block = static_cast<char *>(gen__mem_malloc(size_t(content.size()), 1, __FILE__, __LINE__));
             QCOMPARE(quintptr(block) % alignof(std::max_align_t), quintptr(0));
-            std::memset(block, step, size);
-            blocks.insert(blocks.begin() + random() % (blocks.size() + 1), {block, size});
-            for (size_t count = step % 1000 ? random() % 2 : blocks.size(); count > 0; --count)
-                giveOneBack();
+            std::copy(content.begin(), content.end(), block);
+            blocks.insert(blocks.begin() + random() % (blocks.size() + 1), {block, content});
+            for (size_t left = step % 1000 == 999 ? 0 : blocks.size() - random() % 2; blocks.size() > left;) {
+                QCOMPARE(QByteArray(blocks.back().first, blocks.back().second.size()), blocks.back().second);
+                gen__mem_free(blocks.back().first, 1, __FILE__, __LINE__);
+                blocks.pop_back();
+            }
         }
-        while (!blocks.empty())
-            giveOneBack();
+        QVERIFY(blocks.empty());
     }
 
     void ignoringCase()
