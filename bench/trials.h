@@ -93,37 +93,40 @@ Trial key(int size)
     };
 }
 
-template <class Subject>
-Trial wildcard(int size)
+/// Times `work` on the subject, which `back` then undoes.
+template <class Subject, class Work, class Back>
+Trial undone(std::shared_ptr<Subject> subject, Work work, Back back)
 {
-    return [subject = shown<Subject>(size)] {
-        const double seconds = timed([&] { subject->setFilter(QStringLiteral("_?3")); });
-        subject->setFilter(QString());
+    return [=] {
+        const double seconds = timed([&] { work(*subject); });
+        back(*subject);
         settle();
         return seconds;
     };
+}
+
+template <class Subject>
+Trial wildcard(int size)
+{
+    return undone(
+        shown<Subject>(size), [](Subject &subject) { subject.setFilter(QStringLiteral("_?3")); },
+        [](Subject &subject) { subject.setFilter(QString()); });
 }
 
 template <class Subject>
 Trial entity(int size)
 {
-    return [subject = shown<Subject>(size)] {
-        const double seconds = timed([&] { subject->setEntity(2); });
-        subject->setEntity(8);
-        settle();
-        return seconds;
-    };
+    return undone(
+        shown<Subject>(size), [](Subject &subject) { subject.setEntity(2); },
+        [](Subject &subject) { subject.setEntity(8); });
 }
 
 template <class Subject>
 Trial group(int size)
 {
-    return [subject = shown<Subject>(size)] {
-        const double seconds = timed([&] { subject->setGroup(7); });
-        subject->setGroup(0);
-        settle();
-        return seconds;
-    };
+    return undone(
+        shown<Subject>(size), [](Subject &subject) { subject.setGroup(7); },
+        [](Subject &subject) { subject.setGroup(0); });
 }
 
 /// Rows are added and removed again; the one or the other is timed.
@@ -158,12 +161,9 @@ inline Trial keyAmongChosen(int size)
 {
     const auto subject = shown<AssignSubject>(size);
     subject->add(1000);
-    return [subject] {
-        const double seconds = timed([&] { subject->setFilter(QStringLiteral("pad")); });
-        subject->setFilter(QString());
-        settle();
-        return seconds;
-    };
+    return undone(
+        subject, [](AssignSubject &dialog) { dialog.setFilter(QStringLiteral("pad")); },
+        [](AssignSubject &dialog) { dialog.setFilter(QString()); });
 }
 
 inline Trial lines(int size)
