@@ -1,6 +1,11 @@
 #include "tvx/chosen_table.h"
 
-#include "tvx/editor_guard.h"
+#include "tvx/cell_editor_filter.h"
+#include "tvx/editor_content.h"
+#include "tvx/editor_note.h"
+#include "tvx/number_entry.h"
+#include "tvx/text_choices.h"
+#include "tvx/tvx_texts.h"
 
 #include <QAbstractSpinBox>
 #include <QApplication>
@@ -138,10 +143,20 @@ bool ChosenTable::edit(const QModelIndex &index, EditTrigger trigger, QEvent *ev
 void ChosenTable::prepareEditor(int row)
 {
     makeRoomFor(m_editor);
-    const QTableWidgetItem *name = item(row, NameColumn);
-    auto *guard = new EditorGuard(m_editor, name ? name->text() : QString());
-    connect(guard, &EditorGuard::left, this, &ChosenTable::finishEditing);
-    guard->focusFirst();
+    forgetRefusal();
+    const auto boxes = m_editor->findChildren<QAbstractSpinBox *>();
+    for (QAbstractSpinBox *box : boxes)
+        NumberEntry::acceptEveryNumber(box);
+    if (auto *box = qobject_cast<QAbstractSpinBox *>(m_editor.data()))
+        NumberEntry::acceptEveryNumber(box);
+    TextChoices::attach(m_editor, *rowItem(row));
+
+    m_content = new EditorContent(m_editor, *rowItem(row));
+    connect(m_content, &EditorContent::edited, this, &ChosenTable::showRefusal);
+    auto *filter = new CellEditorFilter(m_editor, item(row, NameColumn)->text());
+    connect(filter, &CellEditorFilter::entered, this, &ChosenTable::enterEditing);
+    connect(filter, &CellEditorFilter::left, this, &ChosenTable::finishEditing);
+    filter->focusFirst();
     Q_EMIT editingStarted();
 }
 
@@ -154,17 +169,29 @@ void ChosenTable::makeRoomFor(const QWidget *editor)
 
 void ChosenTable::finishEditing()
 {
-    if (!m_editor)
-        return;
     const QPointer<QWidget> editor = m_editor;
-    if (auto *box = qobject_cast<QAbstractSpinBox *>(editor.data()))
-        box->interpretText();
-    const auto boxes = editor->findChildren<QAbstractSpinBox *>();
-    for (QAbstractSpinBox *box : boxes)
-        box->interpretText();
-    commitData(editor);
+    if (editor)
+        commitData(editor);
     if (editor)
         closeEditor(editor, QAbstractItemDelegate::NoHint);
+}
+
+bool ChosenTable::tryFinishEditing()
+{
+    if (isEntryRefused()) {
+        showRefusal();
+        m_content->selectRefused();
+        return false;
+    }
+    finishEditing();
+    return true;
+}
+
+void ChosenTable::enterEditing()
+{
+    if (m_content)
+        m_content->confirm();
+    tryFinishEditing();
 }
 
 void ChosenTable::dropEditing()
@@ -173,24 +200,62 @@ void ChosenTable::dropEditing()
         closeEditor(m_editor, QAbstractItemDelegate::RevertModelCache);
 }
 
+bool ChosenTable::isEntryRefused() const
+{
+    return m_content && m_content->isRefused();
+}
+
+void ChosenTable::showRefusal()
+{
+    if (!m_editor)
+        return;
+    if (!m_note)
+        m_note = new EditorNote(window());
+    m_note->showMessage(m_content->refusal(), *m_editor);
+    Q_EMIT editorChanged();
+}
+
+void ChosenTable::commitData(QWidget *editor)
+{
+    if (!editor || editor != m_editor)
+        return;
+    if (isEntryRefused()) {
+        m_lastRefusal = textOf(texts::NotStored)
+                            .arg(editor->accessibleName(), m_content->refusedText(), m_content->refusal());
+        return;
+    }
+    m_content->interpret();
+    if (!m_content->isChanged())
+        return;
+    AttributeTable::commitData(editor);
+    m_content->remember();
+}
+
 void ChosenTable::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
 {
-    const bool hadFocus = editor && (editor->hasFocus() || editor->isAncestorOf(QApplication::focusWidget()));
-    if (editor == m_editor) {
+    if (editor && editor == m_editor) {
+        // The window's focus, which stays where it is while the window is hidden.
+        const QWidget *focus = window()->focusWidget();
+        const bool hadFocus = focus == editor || editor->isAncestorOf(focus);
         m_editor = nullptr;
+        m_content = nullptr;
+        if (m_note)
+            m_note->hide();
         setEditorWidth(0);
+        // Before the editor is hidden: Qt would give the focus to the first widget of the dialog in between. Since its
+        // commit, the delegate is the first to filter the editor's events, and would close it a second time.
+        editor->removeEventFilter(itemDelegate());
+        if (hadFocus)
+            setFocus();
     }
     // Tab ends the edit and opens no other, which would store a condition that nobody entered.
     const bool moves =
         hint == QAbstractItemDelegate::EditNextItem || hint == QAbstractItemDelegate::EditPreviousItem;
     AttributeTable::closeEditor(editor, moves ? QAbstractItemDelegate::NoHint : hint);
-    if (hadFocus)
-        setFocus();
     viewport()->update();
     Q_EMIT editingEnded();
 }
 
-/// The delegate sees only the editor itself lose the focus, not a widget inside it.
 void ChosenTable::followFocus(const QWidget *old, const QWidget *now)
 {
     if (!m_editor || !old || !now || now->window() != window())

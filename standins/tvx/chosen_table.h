@@ -13,9 +13,14 @@ namespace Zudunmaf
 namespace tvx
 {
 
-/// The attributes that the user has taken over, and the only table whose cells are edited. Whichever column
-/// an edit is asked for, it is the value column that is edited: the one item of the row that carries what the
-/// user enters.
+class EditorContent;
+class EditorNote;
+
+/// The chosen attributes, and the only table whose cells are edited. An edit of either column edits the value column:
+/// its item carries what the user enters.
+///
+/// The delegate stores whatever an editor shows. This table commits an editor only where the user has changed it, once,
+/// and never with a number that the limits refuse.
 class ChosenTable : public AttributeTable
 {
     Q_OBJECT
@@ -45,13 +50,24 @@ public:
     void editRow(int row);
     /// The open editor; null if there is none.
     QWidget *openEditor() const { return m_editor; }
-    /// Ends an open edit and stores what was entered. Without one, nothing happens.
+    /// Closes an open editor and stores what the user has changed. A refused entry leaves the row as it was, and
+    /// lastRefusal() says so. Does nothing if no editor is open.
     void finishEditing();
-    /// Ends an open edit and leaves the row as it was.
+    /// The same, but with a refused entry the editor stays open, its entry selected; false then.
+    bool tryFinishEditing();
+    /// Closes an open editor and leaves the row as it was.
     void dropEditing();
+
+    /// True while an editor is open on an entry that the limits refuse.
+    bool isEntryRefused() const;
+    /// What became of the last refused entry, as a sentence for the user; empty if it is of no concern any more.
+    QString lastRefusal() const { return m_lastRefusal; }
+    void forgetRefusal() { m_lastRefusal.clear(); }
 
 Q_SIGNALS:
     void editingStarted();
+    /// Emitted when the content of the open editor changes.
+    void editorChanged();
     void editingEnded();
     /// Delete was pressed.
     void removalRequested();
@@ -60,6 +76,7 @@ Q_SIGNALS:
 
 protected:
     bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
+    void commitData(QWidget *editor) override;
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
     void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
@@ -68,11 +85,17 @@ private:
     void putBehind(std::vector<Row> rows);
     void prepareEditor(int row);
     void makeRoomFor(const QWidget *editor);
+    void enterEditing();
+    void showRefusal();
     void requestMenuAtCurrentRow();
     void requestMenu(int row, const QPoint &globalPosition);
     void followFocus(const QWidget *old, const QWidget *now);
 
     QPointer<QWidget> m_editor;
+    /// Of the open editor, which owns it.
+    QPointer<EditorContent> m_content;
+    EditorNote *m_note = nullptr;
+    QString m_lastRefusal;
 };
 
 } // namespace tvx

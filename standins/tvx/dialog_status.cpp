@@ -2,16 +2,16 @@
 
 #include "gdm/items/attr_records.h"
 #include "gdm/items/attr_roles.h"
+#include "tvx/number_entry.h"
 #include "tvx/offer_choice.h"
 #include "tvx/row_transfer.h"
 #include "tvx/selection_widgets.h"
 #include "tvx/top_table.h"
 #include "tvx/tvx_texts.h"
 
-#include <QDoubleSpinBox>
+#include <QAbstractSpinBox>
 #include <QLabel>
 #include <QPushButton>
-#include <QSpinBox>
 
 namespace Zudunmaf
 {
@@ -63,27 +63,6 @@ QString descriptionOf(const QTableWidgetItem &item)
     }
     parts.removeAll(QString());
     return parts.join(separator());
-}
-
-QString limitsOf(const QSpinBox &box)
-{
-    return textOf(texts::Limits).arg(box.minimum()).arg(box.maximum());
-}
-
-QString limitsOf(const QDoubleSpinBox &box)
-{
-    const auto number = [&box](double value) { return QString::number(value, 'f', box.decimals()); };
-    return textOf(texts::Limits).arg(number(box.minimum()), number(box.maximum()));
-}
-
-/// The limits of the first box of this kind, the editor itself or one in it.
-template <class Box>
-QString limitsWithin(const QWidget *editor)
-{
-    const auto *box = qobject_cast<const Box *>(editor);
-    if (!box)
-        box = editor->findChild<Box *>();
-    return box ? limitsOf(*box) : QString();
 }
 
 /// Left alone, the keyboard would go on to the next button, which may do the opposite.
@@ -148,7 +127,8 @@ void DialogStatus::updateTexts() const
 
     setText(m_widgets.description, describedText());
     const QTableWidgetItem *current = chosen->rowItem(chosen->currentRow());
-    const QString line = current ? current->data(DmlAttrFilterTextRole).toString() : QString();
+    const bool hasLine = current && !chosen->isEntryRefused();
+    const QString line = hasLine ? current->data(DmlAttrFilterTextRole).toString() : QString();
     setText(m_widgets.preview, line.isEmpty() ? QString() : textOf(texts::PreviewLine).arg(line));
 }
 
@@ -156,6 +136,8 @@ QString DialogStatus::offerText() const
 {
     if (m_choice.dictionary() < 0)
         return textOf(texts::NoDictionary);
+    if (m_choice.isFillMissing())
+        return textOf(texts::NotRead);
     return textOf(m_choice.isNarrowed() ? texts::NothingMatches : texts::NothingLeft);
 }
 
@@ -167,9 +149,10 @@ QString DialogStatus::describedText() const
     const QTableWidgetItem *current = inChosen ? chosen->rowItem(chosen->currentRow())
                                                : m_widgets.topView->rowItem(m_widgets.topView->currentRow());
     if (!current)
-        return QString();
-    const QString limits = limitsOfEditor();
-    return descriptionOf(*current) + (limits.isEmpty() ? QString() : separator() + limits);
+        return chosen->lastRefusal();
+    QStringList parts = {chosen->lastRefusal(), descriptionOf(*current), limitsOfEditor()};
+    parts.removeAll(QString());
+    return parts.join(separator());
 }
 
 QString DialogStatus::limitsOfEditor() const
@@ -177,8 +160,13 @@ QString DialogStatus::limitsOfEditor() const
     const QWidget *editor = m_widgets.chosenList->openEditor();
     if (!editor)
         return QString();
-    const QString limits = limitsWithin<QSpinBox>(editor);
-    return limits.isEmpty() ? limitsWithin<QDoubleSpinBox>(editor) : limits;
+    const auto *box = qobject_cast<const QAbstractSpinBox *>(editor);
+    if (!box)
+        box = editor->findChild<QAbstractSpinBox *>();
+    if (!box)
+        return QString();
+    const NumberEntry entry(*box);
+    return textOf(texts::Limits).arg(entry.minimum(), entry.maximum());
 }
 
 } // namespace tvx

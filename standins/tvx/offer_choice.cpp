@@ -82,11 +82,12 @@ void OfferChoice::rememberFill()
 {
     m_atLastFill = state();
     m_lastFillNarrowed = isNarrowed();
+    m_fillMissing = false;
 }
 
 bool OfferChoice::wantsRefill() const
 {
-    return m_lastFillNarrowed && !(state() == m_atLastFill);
+    return m_fillMissing || (m_lastFillNarrowed && !(state() == m_atLastFill));
 }
 
 OfferChoice::State OfferChoice::state() const

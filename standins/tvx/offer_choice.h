@@ -40,7 +40,11 @@ public:
     bool isNarrowed() const;
     /// The top view has just been filled under the present choice.
     void rememberFill();
-    /// True where the choice was narrowed at the last fill and has changed since.
+    /// A fill is due: rememberFill() follows unless the dialog cannot read its attributes.
+    void expectFill() { m_fillMissing = true; }
+    /// True if the fill that was due last has not come: the rows, if any, are those of before.
+    bool isFillMissing() const { return m_fillMissing; }
+    /// True if a fill is missing, or the choice was narrowed at the last fill and has changed since.
     bool wantsRefill() const;
 
 private:
@@ -64,6 +68,7 @@ private:
     std::vector<std::unique_ptr<TvxDataItem>> m_entities;
     State m_atLastFill{};
     bool m_lastFillNarrowed = false;
+    bool m_fillMissing = true;
 };
 
 } // namespace tvx

@@ -50,25 +50,38 @@ RowTransfer::RowTransfer(TvxAttributesSelectionDialog *dialog, TopTable *top, Ch
 
 void RowTransfer::addSelected()
 {
-    m_chosen->finishEditing();
+    finishEditing();
     // All items first: a hook changes the selection of the top view.
     const std::vector<Offered> offers = selectedOffers();
     if (offers.empty())
         return;
-    const QSet<QString> taken = namesOfValues();
+    const QHash<QString, QTableWidgetItem *> present = valuesByName();
     std::vector<ChosenTable::Row> copies;
+    std::vector<Offered> entering;
+    QVector<QTableWidgetItem *> values;
     for (const Offered &offer : offers) {
-        if (!taken.contains(offer.name))
-            copies.push_back(copyOf(*offer.item));
+        if (QTableWidgetItem *value = present.value(offer.name)) {
+            values.append(value);
+            continue;
+        }
+        copies.push_back(copyOf(*offer.item));
+        entering.push_back(offer);
     }
-    const QVector<QTableWidgetItem *> values = valuesOf(copies);
+    values += valuesOf(copies);
     {
         const TopTable::Pass pass(m_top);
         m_chosen->appendRows(std::move(copies));
-        reportAdded(offers);
+        reportAdded(entering);
     }
     m_chosen->selectItems(values);
     Q_EMIT transferred();
+}
+
+/// What was refused before is of no concern to what the user does now.
+void RowTransfer::finishEditing()
+{
+    m_chosen->forgetRefusal();
+    m_chosen->finishEditing();
 }
 
 std::vector<RowTransfer::Offered> RowTransfer::selectedOffers() const
@@ -115,7 +128,7 @@ void RowTransfer::removeAll()
 
 void RowTransfer::remove(const QVector<int> &rows)
 {
-    m_chosen->finishEditing();
+    finishEditing();
     if (rows.isEmpty())
         return;
     m_isRemoving = true;
@@ -133,14 +146,16 @@ void RowTransfer::remove(const QVector<int> &rows)
 
 void RowTransfer::undoRemoval()
 {
-    m_chosen->finishEditing();
+    finishEditing();
     if (!canUndoRemoval())
         return;
     std::vector<ChosenTable::Row> rows = std::move(m_removals.back());
     m_removals.pop_back();
-    const QSet<QString> taken = namesOfValues();
-    const auto isTaken = [&taken](const ChosenTable::Row &row) { return taken.contains(nameOf(*row.value)); };
-    rows.erase(std::remove_if(rows.begin(), rows.end(), isTaken), rows.end());
+    const QHash<QString, QTableWidgetItem *> present = valuesByName();
+    const auto isPresent = [&present](const ChosenTable::Row &row) {
+        return present.contains(nameOf(*row.value));
+    };
+    rows.erase(std::remove_if(rows.begin(), rows.end(), isPresent), rows.end());
 
     const QVector<QTableWidgetItem *> values = valuesOf(rows);
     m_chosen->restoreRows(std::move(rows));
@@ -157,9 +172,9 @@ bool RowTransfer::addCopyOf(const QTableWidgetItem &item)
 {
     const QString name = nameOf(item);
     const bool isAttribute = !name.isEmpty() && item.data(DmlAttrDefRole).value<void *>();
-    if (!isAttribute || namesOfValues().contains(name))
+    if (!isAttribute || valuesByName().contains(name))
         return false;
-    m_chosen->finishEditing();
+    finishEditing();
     std::vector<ChosenTable::Row> copies;
     copies.push_back(copyOf(item));
     m_chosen->appendRows(std::move(copies));
@@ -168,19 +183,20 @@ bool RowTransfer::addCopyOf(const QTableWidgetItem &item)
     return true;
 }
 
-/// The names of the chosen attributes that have values. A dialog has rows of one kind, and the first tells which.
-QSet<QString> RowTransfer::namesOfValues() const
+/// The value items of the chosen rows by attribute; empty in a dialog of conditions. A dialog has rows of one kind, and
+/// the first says which.
+QHash<QString, QTableWidgetItem *> RowTransfer::valuesByName() const
 {
-    QSet<QString> names;
+    QHash<QString, QTableWidgetItem *> values;
     const QTableWidgetItem *first = m_chosen->rowItem(0);
     if (!first || first->data(DmlAttrFilterTextRole).isValid())
-        return names;
+        return values;
     const QList<QTableWidgetItem *> items = m_chosen->rowItems(false);
-    for (const QTableWidgetItem *item : items)
-        names.insert(nameOf(*item));
-    // Items of another class have none, and are all different.
-    names.remove(QString());
-    return names;
+    for (QTableWidgetItem *item : items)
+        values.insert(nameOf(*item), item);
+    // Items of another class have no name, and are all different.
+    values.remove(QString());
+    return values;
 }
 
 } // namespace tvx

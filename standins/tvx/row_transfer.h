@@ -3,7 +3,7 @@
 
 #include "tvx/chosen_table.h"
 
-#include <QSet>
+#include <QHash>
 
 #include <vector>
 
@@ -28,8 +28,7 @@ class RowTransfer : public QObject
 public:
     RowTransfer(TvxAttributesSelectionDialog *dialog, TopTable *top, ChosenTable *chosen, QObject *parent);
 
-    /// A row of which no copy is taken, as its attribute has a value already, is reported to the hook as well,
-    /// so that it leaves the offer like the others.
+    /// An attribute that has a value already gets no second row: its row is selected, and the hook is not called.
     void addSelected();
     void removeSelected();
     void removeAll();
@@ -58,7 +57,8 @@ private:
     void reportAdded(const std::vector<Offered> &offers);
     void reportAdded(const QString &name);
     void remove(const QVector<int> &rows);
-    QSet<QString> namesOfValues() const;
+    void finishEditing();
+    QHash<QString, QTableWidgetItem *> valuesByName() const;
 
     TvxAttributesSelectionDialog *m_dialog;
     TopTable *m_top;

@@ -91,6 +91,7 @@ void SelectionController::connectTables()
     connect(chosen, &ChosenTable::itemSelectionChanged, this, &SelectionController::refresh);
     connect(chosen, &ChosenTable::currentItemChanged, this, &SelectionController::refresh);
     connect(chosen, &ChosenTable::editingStarted, this, &SelectionController::refresh);
+    connect(chosen, &ChosenTable::editorChanged, this, &SelectionController::refresh);
     connect(chosen, &ChosenTable::editingEnded, this, &SelectionController::refresh);
     connect(m_transfer, &RowTransfer::transferred, this, &SelectionController::refresh);
 }
@@ -108,8 +109,8 @@ void SelectionController::connectShortcuts()
 
 void SelectionController::acceptDialog()
 {
-    m_widgets.chosenList->finishEditing();
-    m_dialog->accept();
+    if (m_widgets.chosenList->tryFinishEditing())
+        m_dialog->accept();
 }
 
 void SelectionController::rejectDialog()
@@ -118,10 +119,23 @@ void SelectionController::rejectDialog()
     m_dialog->reject();
 }
 
+/// QDialog hides before it says how it ends. Its accepted(), in the same call, stores what is open; after a plain hide()
+/// nothing follows.
+void SelectionController::dropEditingUnlessAccepted()
+{
+    const QPointer<QWidget> editor = m_widgets.chosenList->openEditor();
+    const auto drop = [this, editor] {
+        if (editor && editor == m_widgets.chosenList->openEditor())
+            m_widgets.chosenList->dropEditing();
+    };
+    QMetaObject::invokeMethod(this, drop, Qt::QueuedConnection);
+}
+
 void SelectionController::setDisplayUnits(int units)
 {
     m_widgets.chosenList->finishEditing();
     m_displayUnits = units;
+    m_choice.expectFill();
 }
 
 void SelectionController::fillTopView(const QList<QTableWidgetItem *> &items)
@@ -156,10 +170,24 @@ void SelectionController::offerChanged()
     {
         const TopTable::Pass pass(m_widgets.topView);
         if (m_choice.wantsRefill())
-            m_dialog->setDisplayUnits(m_displayUnits);
+            refill();
         m_dialog->filterAttributeList();
     }
     refresh();
+}
+
+/// Without groups the dictionary could not be walked at all: then all lists are filled again, and the entity that the
+/// user has just selected stays selected.
+void SelectionController::refill()
+{
+    if (m_widgets.groupList->count() > 0) {
+        m_dialog->setDisplayUnits(m_displayUnits);
+        return;
+    }
+    const int entity = m_widgets.entityList->currentIndex();
+    m_dialog->buildInitialLists();
+    const QSignalBlocker blocker(m_widgets.entityList);
+    m_widgets.entityList->setCurrentIndex(entity);
 }
 
 void SelectionController::setContextMenu(QMenu *menu)
@@ -216,6 +244,8 @@ bool SelectionController::eventFilter(QObject *watched, QEvent *event)
     }
     if (watched == m_dialog && event->type() == QEvent::Resize)
         m_widgets.fitToHeight();
+    if (watched == m_dialog && event->type() == QEvent::Hide && !event->spontaneous())
+        dropEditingUnlessAccepted();
     return QObject::eventFilter(watched, event);
 }
 

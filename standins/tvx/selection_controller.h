@@ -25,8 +25,8 @@ class RowTransfer;
 /// All that the base dialog holds and does, behind its declaration. It is the receiver of every connection
 /// and goes before the dialog's widgets do, so that nothing reaches a dialog that is half gone.
 ///
-/// Only filterAttributeList(), the two hooks and setDisplayUnits() of the dialog are called from here as
-/// virtual operations.
+/// Calls these virtual operations of the dialog: filterAttributeList(), the two hooks, and, where a fill has failed or
+/// left rows out, setDisplayUnits() or buildInitialLists().
 class SelectionController : public QObject
 {
     Q_OBJECT
@@ -64,7 +64,9 @@ private:
     void connectShortcuts();
     void acceptDialog();
     void rejectDialog();
+    void dropEditingUnlessAccepted();
     void offerChanged();
+    void refill();
     void fitNameWidth();
     void followNameWidth(AttributeTable *table, int width);
     void showContextMenu(const QPoint &globalPosition);

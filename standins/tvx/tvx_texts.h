@@ -42,10 +42,19 @@ constexpr char NothingLeft[] = "@$@#tvx@$@#GENERAL@$@#22@$@#No attribute is left
 constexpr char NothingChosen[] =
     "@$@#tvx@$@#GENERAL@$@#23@$@#Nothing chosen yet. Select attributes above and press Enter or Add.";
 
+constexpr char NotRead[] =
+    "@$@#tvx@$@#GENERAL@$@#24@$@#The attributes could not be read, or there is no such "
+    "dictionary.";
+
 constexpr char Description[] = "@$@#tvx@$@#GENERAL@$@#30@$@#Description";
 constexpr char Preview[] = "@$@#tvx@$@#GENERAL@$@#31@$@#Result";
 constexpr char PreviewLine[] = "@$@#tvx@$@#GENERAL@$@#32@$@#Result: %1";
 constexpr char Limits[] = "@$@#tvx@$@#GENERAL@$@#33@$@#Allowed: %1 to %2";
+constexpr char AtLeast[] = "@$@#tvx@$@#GENERAL@$@#40@$@#At least %1";
+constexpr char AtMost[] = "@$@#tvx@$@#GENERAL@$@#41@$@#At most %1";
+constexpr char NumberNeeded[] = "@$@#tvx@$@#GENERAL@$@#42@$@#A number from %1 to %2";
+constexpr char WholeNumberNeeded[] = "@$@#tvx@$@#GENERAL@$@#43@$@#A whole number from %1 to %2";
+constexpr char NotStored[] = "@$@#tvx@$@#GENERAL@$@#44@$@#%1: \"%2\" was not stored. %3.";
 constexpr char TypeBoolean[] = "@$@#tvx@$@#GENERAL@$@#34@$@#boolean";
 constexpr char TypeText[] = "@$@#tvx@$@#GENERAL@$@#35@$@#text";
 constexpr char TypeOption[] = "@$@#tvx@$@#GENERAL@$@#36@$@#option";

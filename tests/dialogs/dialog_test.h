@@ -18,7 +18,7 @@
 
 /// A test over each of the two dialogs in turn, worked as a user does. Each function starts with the dialog on the
 /// screen and nothing chosen, and ends with no Qt warning given. On offer is what dictionary.json has: plated,
-/// note, colour, finish, width, depth, LongName, stackup (in the filter dialog alone) and pad_00 to pad_39.
+/// note, colour, finish, grade, width, depth, LongName, stackup (in the filter dialog alone) and pad_00 to pad_39.
 class DialogTest : public QObject, public Zudunmaf::demo::DialogUser
 {
     Q_OBJECT

@@ -115,8 +115,9 @@ private Q_SLOTS:
 
         dialog->resize(640, 480);
         QCoreApplication::processEvents();
-        topView->scrollToItem(topView->item(6, Name));
-        const QTableWidgetItem *cell = inFilter() ? topView->item(6, Name) : chosenList->item(0, Name);
+        topView->scrollToItem(topView->item(rowOf(topView, LongName), Name));
+        const QTableWidgetItem *cell =
+            inFilter() ? topView->item(rowOf(topView, LongName), Name) : chosenList->item(0, Name);
         const QPoint place = cell->tableWidget()->visualItemRect(cell).center();
         QHelpEvent help(QEvent::ToolTip, place, cell->tableWidget()->viewport()->mapToGlobal(place));
         QCoreApplication::sendEvent(cell->tableWidget()->viewport(), &help);

@@ -105,7 +105,7 @@ private Q_SLOTS:
 
     void countsAndButtonsFollowEachChange()
     {
-        const int total = inFilter() ? 48 : 47;
+        const int total = inFilter() ? 49 : 48;
         const int left = inFilter() ? 10 : 9;
         const auto says = [&](int shown, int chosen) {
             return offeredLabel->text().endsWith(QString(" %1 of %2").arg(shown).arg(total)) &&

@@ -83,7 +83,7 @@ private Q_SLOTS:
         events.clear();
         topView->selectAll();
         click(addButton);
-        QCOMPARE(int(events.filter("+").size()), inFilter() ? 48 : 46);
+        QCOMPARE(int(events.filter("+").size()), inFilter() ? 49 : 47);
     }
 
     void hostHandsRowsIn()
@@ -148,7 +148,7 @@ private Q_SLOTS:
         };
         narrow(true);
         dialog->setDisplayUnits(1);
-        QCOMPARE(topView->rowCount(), way() == "entity" ? 47 : 40);
+        QCOMPARE(topView->rowCount(), way() == "entity" ? 48 : 40);
         narrow(false);
         QCOMPARE(topView->rowCount(), int(all.size()));
         if (!inFilter() && way() != "entity")

@@ -1,0 +1,118 @@
+#include "tvx/cell_editor_filter.h"
+
+#include "tvx/number_entry.h"
+
+#include <QAbstractSpinBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+
+#include <utility>
+
+namespace Zudunmaf
+{
+namespace tvx
+{
+
+CellEditorFilter::CellEditorFilter(QWidget *editor, const QString &name)
+    : QObject(editor)
+{
+    // An editor that accepts the focus itself stands for all its widgets.
+    auto candidates = editor->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    if (editor->focusPolicy() & Qt::TabFocus)
+        candidates = {editor};
+    for (QWidget *widget : std::as_const(candidates)) {
+        if (widget->focusPolicy() & Qt::TabFocus)
+            m_widgets.append(widget);
+    }
+    editor->installEventFilter(this);
+    for (QWidget *widget : std::as_const(m_widgets))
+        widget->installEventFilter(this);
+    nameWidgets(editor, name);
+}
+
+/// A label before a widget is part of its name.
+void CellEditorFilter::nameWidgets(QWidget *editor, const QString &name)
+{
+    editor->setAccessibleName(name);
+    QString label;
+    for (QObject *child : editor->children()) {
+        if (const auto *text = qobject_cast<QLabel *>(child)) {
+            label = text->text();
+        } else if (auto *widget = qobject_cast<QWidget *>(child); widget && m_widgets.contains(widget)) {
+            if (label.endsWith(QLatin1Char(':')))
+                label.chop(1);
+            widget->setAccessibleName(label.isEmpty() ? name : name + QLatin1Char(' ') + label);
+        }
+    }
+}
+
+void CellEditorFilter::focusFirst()
+{
+    if (m_widgets.isEmpty() || m_widgets.constFirst() == parent())
+        return;
+    m_widgets.constFirst()->setFocus(Qt::TabFocusReason);
+    if (auto *box = qobject_cast<QAbstractSpinBox *>(m_widgets.constFirst()))
+        box->selectAll();
+}
+
+bool CellEditorFilter::eventFilter(QObject *watched, QEvent *event)
+{
+    auto *widget = qobject_cast<QWidget *>(watched);
+    if (!widget)
+        return QObject::eventFilter(watched, event);
+    switch (event->type()) {
+    case QEvent::Wheel:
+        // Ignored and filtered, it propagates to the table, which scrolls.
+        event->ignore();
+        return true;
+    case QEvent::FocusOut:
+    case QEvent::Hide:
+        deliverKeepingText(widget, event);
+        return true;
+    case QEvent::KeyPress:
+        return filterKey(widget, static_cast<QKeyEvent *>(event));
+    default:
+        return QObject::eventFilter(watched, event);
+    }
+}
+
+bool CellEditorFilter::filterKey(const QWidget *widget, const QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        // Held down, the key that opened the editor would store what it shows.
+        if (!event->isAutoRepeat())
+            Q_EMIT entered();
+        return true;
+    case Qt::Key_Tab:
+        if (widget != m_widgets.value(m_widgets.size() - 1))
+            return false;
+        Q_EMIT left();
+        return true;
+    case Qt::Key_Backtab:
+        if (widget != m_widgets.value(0))
+            return false;
+        Q_EMIT left();
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// Delivers the event to the widget alone. A spin box that loses the focus or is hidden replaces a text that it refuses by
+/// its last value, and the text is what the user entered.
+void CellEditorFilter::deliverKeepingText(QWidget *widget, QEvent *event)
+{
+    const auto *box = qobject_cast<const QAbstractSpinBox *>(widget);
+    QLineEdit *line =
+        box && NumberEntry(*box).state() != NumberEntry::Accepted ? NumberEntry::lineOf(*box) : nullptr;
+    const QString typed = line ? line->text() : QString();
+    static_cast<QObject *>(widget)->event(event);
+    if (line)
+        line->setText(typed);
+}
+
+} // namespace tvx
+} // namespace Zudunmaf

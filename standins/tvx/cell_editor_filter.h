@@ -1,0 +1,52 @@
+#ifndef TVX_CELL_EDITOR_FILTER_H
+#define TVX_CELL_EDITOR_FILTER_H
+
+#include <QObject>
+#include <QVector>
+
+class QKeyEvent;
+class QWidget;
+
+namespace Zudunmaf
+{
+namespace tvx
+{
+
+/// Watches the widgets of one open cell editor: reports Enter and Tab past its last widget, ignores the wheel, and
+/// names each widget for a screen reader. A child of the editor.
+///
+/// It comes before the delegate's own filter, which ends an edit on Enter, Tab and a loss of the focus. All three are
+/// kept from the delegate: it would commit and close single editors without asking, and leave composite ones open.
+class CellEditorFilter : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// `name` is the attribute that is edited.
+    CellEditorFilter(QWidget *editor, const QString &name);
+
+    /// Gives the focus to the first widget of the editor that accepts it.
+    void focusFirst();
+
+Q_SIGNALS:
+    /// Emitted when Enter is pressed in the editor.
+    void entered();
+    /// Emitted when the user leaves the editor by Tab.
+    void left();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void nameWidgets(QWidget *editor, const QString &name);
+    bool filterKey(const QWidget *widget, const QKeyEvent *event);
+    static void deliverKeepingText(QWidget *widget, QEvent *event);
+
+    /// The widgets that Tab reaches, in tab order.
+    QVector<QWidget *> m_widgets;
+};
+
+} // namespace tvx
+} // namespace Zudunmaf
+
+#endif

@@ -1,0 +1,197 @@
+#include "tvx/editor_content.h"
+
+#include "gdm/host/gen_services.h"
+#include "gdm/items/attr_records.h"
+#include "gdm/items/attr_roles.h"
+#include "tvx/number_entry.h"
+
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QTableWidgetItem>
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace Zudunmaf
+{
+namespace tvx
+{
+
+namespace
+{
+
+bool holdsContent(const QWidget *widget)
+{
+    return qobject_cast<const QLineEdit *>(widget) || qobject_cast<const QComboBox *>(widget) ||
+           qobject_cast<const QAbstractSpinBox *>(widget);
+}
+
+/// The line of a widget that can be typed into; null where it has none.
+QLineEdit *lineOf(QWidget *part)
+{
+    if (const auto *box = qobject_cast<const QAbstractSpinBox *>(part))
+        return NumberEntry::lineOf(*box);
+    if (const auto *box = qobject_cast<const QComboBox *>(part))
+        return box->lineEdit();
+    return qobject_cast<QLineEdit *>(part);
+}
+
+QString textOf(const QWidget *part)
+{
+    if (const auto *box = qobject_cast<const QAbstractSpinBox *>(part))
+        return box->text();
+    if (const auto *box = qobject_cast<const QComboBox *>(part))
+        return box->currentText();
+    const auto *line = qobject_cast<const QLineEdit *>(part);
+    return line ? line->text() : QString();
+}
+
+bool isCondition(const QTableWidgetItem &item)
+{
+    return item.data(DmlAttrFilterTextRole).isValid();
+}
+
+/// The units in which the editor of an item shows its numbers: those in the cell, else those of the definition.
+QString unitsOf(const QTableWidgetItem &item)
+{
+    const auto *definition = static_cast<const DmlAttrDef *>(item.data(DmlAttrDefRole).value<void *>());
+    if (!definition || definition->type != DmlAttrFloat)
+        return QString();
+    const QString cell = item.text();
+    if (!isCondition(item) && cell.contains(QLatin1Char(' ')))
+        return cell.mid(cell.indexOf(QLatin1Char(' ')) + 1);
+    return QString(gen__torvex_cur_units_str(definition->unitsClass, definition->unitsClass));
+}
+
+} // namespace
+
+EditorContent::EditorContent(QWidget *editor, const QTableWidgetItem &item)
+    : QObject(editor)
+    , m_units(unitsOf(item))
+    , m_isUnset(isCondition(item) && !item.data(DmlAttrValueRole).isValid())
+{
+    if (holdsContent(editor)) {
+        m_parts.append(editor);
+    } else {
+        const auto children = editor->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+        std::copy_if(children.begin(), children.end(), std::back_inserter(m_parts), holdsContent);
+    }
+    m_atOpening = content();
+    m_showsValue = showsValueOf(item);
+    connectParts();
+}
+
+void EditorContent::connectParts()
+{
+    for (QWidget *part : std::as_const(m_parts)) {
+        if (const QLineEdit *line = lineOf(part)) {
+            // The first comes too where a text is replaced by the same one.
+            connect(line, &QLineEdit::textEdited, this, &EditorContent::noteEdit);
+            connect(line, &QLineEdit::textChanged, this, &EditorContent::noteEdit);
+        }
+        if (const auto *box = qobject_cast<const QComboBox *>(part)) {
+            connect(box, QOverload<int>::of(&QComboBox::activated), this, &EditorContent::noteEdit);
+            connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &EditorContent::noteEdit);
+        }
+    }
+}
+
+void EditorContent::noteEdit()
+{
+    m_isTouched = true;
+    Q_EMIT edited();
+}
+
+QStringList EditorContent::content() const
+{
+    QStringList content;
+    for (const QWidget *part : m_parts) {
+        content.append(textOf(part));
+        // Entries of a list may read alike.
+        const auto *box = qobject_cast<const QComboBox *>(part);
+        if (box && !box->isEditable())
+            content.append(QString::number(box->currentIndex()));
+    }
+    return content;
+}
+
+/// The cell writes the same numbers with the same decimals, a range as "5 to 9" and a value with its units.
+bool EditorContent::showsValueOf(const QTableWidgetItem &item) const
+{
+    const QString cell = item.text();
+    QStringList texts;
+    for (const QWidget *part : m_parts)
+        texts.append(textOf(part));
+    const QString shown = texts.join(QLatin1String(" to "));
+    const bool isNumber = m_parts.size() == 1 && qobject_cast<const QAbstractSpinBox *>(m_parts.first());
+    return cell == shown || (isNumber && cell.startsWith(shown + QLatin1Char(' ')));
+}
+
+bool EditorContent::isChanged() const
+{
+    return m_isConfirmed || content() != m_atOpening || (m_isTouched && !m_showsValue);
+}
+
+const QAbstractSpinBox *EditorContent::refusedBox() const
+{
+    if (content() == m_atOpening)
+        return nullptr;
+    const QAbstractSpinBox *refused = nullptr;
+    for (const QWidget *part : m_parts) {
+        const auto *box = qobject_cast<const QAbstractSpinBox *>(part);
+        if (box && NumberEntry(*box).state() != NumberEntry::Accepted && (!refused || box->hasFocus()))
+            refused = box;
+    }
+    return refused;
+}
+
+QString EditorContent::refusal() const
+{
+    const QAbstractSpinBox *box = refusedBox();
+    return box ? NumberEntry(*box).refusal(m_units) : QString();
+}
+
+QString EditorContent::refusedText() const
+{
+    const QAbstractSpinBox *box = refusedBox();
+    return box ? box->text() : QString();
+}
+
+void EditorContent::selectRefused() const
+{
+    for (QWidget *part : m_parts) {
+        if (part != refusedBox())
+            continue;
+        part->setFocus();
+        lineOf(part)->selectAll();
+        return;
+    }
+}
+
+void EditorContent::interpret() const
+{
+    for (QWidget *part : m_parts) {
+        if (auto *box = qobject_cast<QAbstractSpinBox *>(part))
+            box->interpretText();
+    }
+}
+
+void EditorContent::confirm()
+{
+    m_isConfirmed = m_isUnset && !m_atOpening.join(QString()).isEmpty();
+}
+
+void EditorContent::remember()
+{
+    m_isUnset = false;
+    m_atOpening = content();
+    m_showsValue = true;
+    m_isTouched = false;
+    m_isConfirmed = false;
+}
+
+} // namespace tvx
+} // namespace Zudunmaf

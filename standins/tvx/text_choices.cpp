@@ -1,0 +1,114 @@
+#include "tvx/text_choices.h"
+
+#include "gdm/items/attr_records.h"
+#include "gdm/items/attr_roles.h"
+#include "tvx/editor_note.h"
+
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QTableWidgetItem>
+
+#include <algorithm>
+
+namespace Zudunmaf
+{
+namespace tvx
+{
+
+namespace
+{
+
+constexpr int MostVisibleChoices = 8;
+
+void addChoices(QComboBox *box, const DmlAttrDef &definition)
+{
+    box->addItem(QString());
+    const int count = definition.optionList ? definition.optionCount : 0;
+    for (int index = 0; index < count; ++index)
+        box->addItem(QString(definition.optionList[index]));
+}
+
+} // namespace
+
+void TextChoices::attach(QWidget *editor, const QTableWidgetItem &item)
+{
+    auto *box = qobject_cast<QComboBox *>(editor);
+    const auto *definition = static_cast<const DmlAttrDef *>(item.data(DmlAttrDefRole).value<void *>());
+    if (!box || !definition || definition->type != DmlAttrText)
+        return;
+    if (box->count() == 0)
+        addChoices(box, *definition);
+    box->setEditable(true);
+    // Both would replace a typed text by a choice that equals it but for case.
+    box->setInsertPolicy(QComboBox::NoInsert);
+    box->setCompleter(nullptr);
+    box->lineEdit()->selectAll();
+    new TextChoices(box);
+}
+
+TextChoices::TextChoices(QComboBox *box)
+    : QListWidget(box->window())
+    , m_box(box)
+{
+    hide();
+    setObjectName(QLatin1String("textChoices"));
+    setFocusPolicy(Qt::NoFocus);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    box->installEventFilter(this);
+    connect(box, &QObject::destroyed, this, &QObject::deleteLater);
+    connect(box->lineEdit(), &QLineEdit::textEdited, this, &TextChoices::offer);
+    connect(this, &QListWidget::itemClicked, this, [this](const QListWidgetItem *choice) {
+        m_box->setEditText(choice->text());
+        hide();
+    });
+}
+
+void TextChoices::offer(const QString &typed)
+{
+    clear();
+    for (int index = 0; index < m_box->count() && !typed.isEmpty(); ++index) {
+        const QString choice = m_box->itemText(index);
+        const bool isNew = choice != typed && findItems(choice, Qt::MatchExactly).isEmpty();
+        if (isNew && choice.startsWith(typed, Qt::CaseInsensitive))
+            addItem(choice);
+    }
+    if (count() > 0)
+        showBesideEditor(this, *m_box);
+    else
+        hide();
+}
+
+bool TextChoices::pick(int step)
+{
+    const int row = std::clamp(currentRow() + step, 0, count() - 1);
+    setCurrentRow(row);
+    m_box->setEditText(item(row)->text());
+    return true;
+}
+
+bool TextChoices::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Hide || event->type() == QEvent::FocusOut)
+        hide();
+    if (event->type() != QEvent::KeyPress || !isVisible())
+        return QListWidget::eventFilter(watched, event);
+    const auto *key = static_cast<QKeyEvent *>(event);
+    if (key->modifiers() & Qt::AltModifier)
+        return QListWidget::eventFilter(watched, event);
+    if (key->key() == Qt::Key_Down)
+        return pick(1);
+    if (key->key() == Qt::Key_Up)
+        return pick(-1);
+    return QListWidget::eventFilter(watched, event);
+}
+
+QSize TextChoices::sizeHint() const
+{
+    const int rows = std::min(count(), MostVisibleChoices);
+    const int width = std::max(m_box->width(), sizeHintForColumn(0) + 2 * frameWidth());
+    return QSize(width, rows * sizeHintForRow(0) + 2 * frameWidth());
+}
+
+} // namespace tvx
+} // namespace Zudunmaf
