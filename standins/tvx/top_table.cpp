@@ -29,6 +29,7 @@ TopTable::Pass::Pass(TopTable *table)
         return;
     m_table->setUpdatesEnabled(false);
     m_table->verticalHeader()->setUpdatesEnabled(false);
+    m_table->m_announcedCurrent = m_table->currentIndex();
 }
 
 TopTable::Pass::~Pass()
@@ -39,7 +40,7 @@ TopTable::Pass::~Pass()
     if (std::exchange(m_table->m_rowsChanged, false))
         m_table->updateGeometries();
     m_table->setUpdatesEnabled(true);
-    m_table->endPass();
+    m_table->announceCurrentRow();
 }
 
 TopTable::TopTable(QWidget *parent)
@@ -60,7 +61,6 @@ void TopTable::fill(const QList<QTableWidgetItem *> &items)
     const Pass pass(this);
 
     ++m_fills;
-    m_request = Request::None;
     // Rows that are used again would stay hidden.
     setRowCount(0);
     rowOrder().rowsReplaced();
@@ -73,6 +73,7 @@ void TopTable::fill(const QList<QTableWidgetItem *> &items)
     setAutoScroll(!found);
     makeRowCurrent(found ? found->row() : 0);
     setAutoScroll(autoScroll);
+    m_announcedCurrent = currentIndex();
     if (found)
         verticalScrollBar()->setValue(scrolled);
 }
@@ -118,27 +119,33 @@ int TopTable::firstVisibleRow()
 
 void TopTable::makeFirstVisibleRowCurrent()
 {
-    m_request = Request::FirstVisible;
-    if (m_passes == 0)
-        endPass();
+    requestRow(firstVisibleRow());
 }
 
 void TopTable::makeItemCurrent(const QTableWidgetItem *item)
 {
-    if (!item || item->tableWidget() != this)
-        return;
-    m_request = Request::Row;
-    m_requestedRow = item->row();
-    if (m_passes == 0)
-        endPass();
+    if (item && item->tableWidget() == this)
+        requestRow(item->row());
 }
 
-void TopTable::endPass()
+void TopTable::requestRow(int row)
 {
-    const Request request = m_request;
-    m_request = Request::None;
-    if (request != Request::None)
-        makeRowCurrent(request == Request::FirstVisible ? firstVisibleRow() : m_requestedRow);
+    // In a pass, the view would look up the position of each row that becomes current, a pass over the rows by itself.
+    const QSignalBlocker blocker(m_passes > 0 ? selectionModel() : nullptr);
+    makeRowCurrent(row);
+}
+
+/// The view has not heard of what became current in the pass: goes back in silence to what it knows, and on from there.
+void TopTable::announceCurrentRow()
+{
+    const int row = currentRow();
+    if (currentIndex() == m_announcedCurrent)
+        return;
+    {
+        const QSignalBlocker blocker(selectionModel());
+        makeRowCurrent(QModelIndex(m_announcedCurrent).row());
+    }
+    makeRowCurrent(row);
 }
 
 QTableWidgetItem *TopTable::findByName(const QString &name)

@@ -4,6 +4,7 @@
 #include "tvx/attribute_table.h"
 
 #include <QHash>
+#include <QPersistentModelIndex>
 #include <QTimer>
 
 namespace Zudunmaf
@@ -19,8 +20,8 @@ class TopTable : public AttributeTable
     Q_OBJECT
 
 public:
-    /// Brackets anything that hides, shows or makes current many rows: until the outermost one ends, nothing
-    /// is painted, and of all requests for a current row only the last is carried out.
+    /// Brackets anything that hides, shows or makes current many rows: until the outermost one ends, nothing is painted,
+    /// and nothing is signalled of the rows that become current; at the end, the last of them is.
     class Pass
     {
     public:
@@ -43,7 +44,9 @@ public:
     QList<QTableWidgetItem *> allItems() const;
     /// Shows or hides a row; out of range, nothing happens.
     void setRowVisible(int row, bool visible);
+    /// Makes the first visible row current and the only one selected; without one, no row is. Takes effect at once.
     void makeFirstVisibleRowCurrent();
+    /// The same for the row of an item of this table; does nothing for any other item.
     void makeItemCurrent(const QTableWidgetItem *item);
     /// The item of the row with this internal name, the first of several; null if there is none.
     QTableWidgetItem *findByName(const QString &name);
@@ -67,7 +70,8 @@ private:
     void placeClones(const QList<QTableWidgetItem *> &items);
     void forgetRowNumbers();
     int firstVisibleRow();
-    void endPass();
+    void requestRow(int row);
+    void announceCurrentRow();
 
     MatchHighlightDelegate *m_delegate;
     /// Kept, since every key in the filter asks for it.
@@ -82,8 +86,8 @@ private:
     int m_fills = 0;
     /// Waits for the event loop, so that many rows are announced at once.
     QTimer m_announcement;
-    enum class Request { None, FirstVisible, Row } m_request = Request::None;
-    int m_requestedRow = -1;
+    /// The current index that the view and its listeners know of.
+    QPersistentModelIndex m_announcedCurrent;
 };
 
 } // namespace tvx
