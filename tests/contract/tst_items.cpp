@@ -77,6 +77,39 @@ private Q_SLOTS:
         QCOMPARE(int(host().memory.size()), 4);
     }
 
+    /// Of any kind of item, through a reference that hides what is assigned to.
+    void filterItemsAreAssignedThroughTheirBase()
+    {
+        AttrFilterLWI item, other, unset;
+        FeatureAttrLWI feature;
+        other.setDmlAttribute(pointer(&integer("width", 5, 9, 7)));
+        record(other).isSet = 1;
+        record(other).intLow = 6;
+        const QByteArray condition = bytes(other);
+        const DmlAttrDef &depth = real("depth", -1.5, 0.1, 0);
+        feature.setDmlAttribute(pointer(&depth));
+        unset.setDmlAttribute(pointer(&depth));
+
+        DmlAttrLWI &base = item;
+        const void *own = &record(item);
+        const DmlAttrLWI sliced(item), empty;
+        const QPair<const DmlAttrLWI *, QByteArray> steps[] = {{&other, condition},      {&sliced, condition},
+                                                               {&item, condition},       {&empty, condition},
+                                                               {&feature, bytes(unset)}, {&other, condition}};
+        for (const auto &[source, expected] : steps) {
+            base = *source;
+            QVERIFY(&record(item) == own);
+            const std::unique_ptr<DmlAttrLWI> clone(static_cast<DmlAttrLWI *>(item.clone()));
+            const AttrFilterLWI copy(item);
+            for (const DmlAttrLWI *made : QList<const DmlAttrLWI *>{&item, clone.get(), &copy}) {
+                QCOMPARE(bytes(*made), expected);
+                QCOMPARE(made->dmlAttribute(), source->dmlAttribute());
+            }
+        }
+        record(item).intLow = 8;
+        QCOMPARE(bytes(other), condition);
+    }
+
     void roles()
     {
         AttrFilterLWI filter;

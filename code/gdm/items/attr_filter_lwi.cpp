@@ -48,6 +48,13 @@ QString chosenText(const DmlAttrDef &definition, const DmlAttrValue &condition)
                                           : QString(optionEntry(definition, condition.option));
 }
 
+/// The condition in a record, or one that is not set: a subclass can clear m_attrValue.
+const DmlAttrValue &conditionIn(const DmlAttrValue *record)
+{
+    static const DmlAttrValue none = DmlAttrValue();
+    return record ? *record : none;
+}
+
 } // namespace
 
 AttrFilterLWI::AttrFilterLWI()
@@ -65,17 +72,10 @@ AttrFilterLWI::AttrFilterLWI(const DmlAttrValue &condition)
 AttrFilterLWI::AttrFilterLWI(const AttrFilterLWI &other)
     : DmlAttrLWI(other)
 {
-    takeRecord(*other.record());
+    takeRecord(conditionIn(other.record()));
 }
 
-AttrFilterLWI &AttrFilterLWI::operator=(const AttrFilterLWI &other)
-{
-    const QVariant ownValue = m_attrValue;
-    DmlAttrLWI::operator=(other);
-    m_attrValue = ownValue;
-    std::memmove(record(), other.record(), sizeof(DmlAttrValue));
-    return *this;
-}
+AttrFilterLWI &AttrFilterLWI::operator=(const AttrFilterLWI &other) = default;
 
 AttrFilterLWI::~AttrFilterLWI()
 {
@@ -99,7 +99,7 @@ QTableWidgetItem *AttrFilterLWI::clone() const
 {
     // Past the setters, which would prime the record only for the condition to be written over it: a base dialog
     // clones each row of a dictionary twice.
-    AttrFilterLWI *copy = new AttrFilterLWI(*record());
+    AttrFilterLWI *copy = new AttrFilterLWI(conditionIn(record()));
     copy->m_dmlAttribute = m_dmlAttribute;
     copy->m_displayPrompt = m_displayPrompt;
     copy->m_displayValue = true;

@@ -21,10 +21,10 @@ public:
     /// An editable item without a definition, whose condition is not set. Its record comes from
     /// gen__mem_malloc() and goes back with the item.
     AttrFilterLWI();
-    /// Copies get a record of their own with the same condition. Assigning through a reference to DmlAttrLWI
-    /// shares the record instead and must not be done.
+    /// The copy has a record of its own with the same condition.
     AttrFilterLWI(const AttrFilterLWI &other);
-    /// Copies the condition into the record that the item already has.
+    /// Copies the condition into the record that this item already has. Assigning through a reference to
+    /// DmlAttrLWI does the same; from an item without a record, it leaves what setDmlAttribute() leaves.
     AttrFilterLWI &operator=(const AttrFilterLWI &other);
     ~AttrFilterLWI() override;
 

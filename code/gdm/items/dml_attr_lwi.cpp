@@ -18,7 +18,23 @@ DmlAttrLWI::DmlAttrLWI(ItemType_Enum itemType)
 
 DmlAttrLWI::DmlAttrLWI(const DmlAttrLWI &other) = default;
 
-DmlAttrLWI &DmlAttrLWI::operator=(const DmlAttrLWI &other) = default;
+DmlAttrLWI &DmlAttrLWI::operator=(const DmlAttrLWI &other)
+{
+    QTableWidgetItem::operator=(other);
+    // Through the virtual setters: a filter item then copies the condition and keeps its own record, whatever the
+    // static type of the reference. Priming is skipped if both items point to the same record, since it would wipe
+    // what is to be copied.
+    if (recordIn<void>(m_attrValue) == recordIn<void>(other.m_attrValue))
+        m_dmlAttribute = other.m_dmlAttribute;
+    else
+        setDmlAttribute(other.m_dmlAttribute);
+    setAttrValue(other.m_attrValue);
+    m_displayPrompt = other.m_displayPrompt;
+    m_displayValue = other.m_displayValue;
+    m_displayUnits = other.m_displayUnits;
+    m_itemType = other.m_itemType;
+    return *this;
+}
 
 DmlAttrLWI::~DmlAttrLWI() = default;
 
