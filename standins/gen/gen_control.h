@@ -19,6 +19,9 @@ namespace gen
 /// colons, the best first. It also counts where the process runs in the locale "C". A language without a
 /// catalogue leaves the messages English. An empty text goes back to what the user's environment says. Of the
 /// process's locale this touches the messages alone; numbers stay as they are.
+///
+/// gen__nls_nlst() answers in the local 8-bit encoding that QString::fromLocal8Bit() of the running Qt reads. A
+/// character that the encoding lacks becomes "?". An answer stays valid for the life of the process.
 GDM_EXPORT void setLanguage(const QString &language);
 
 /// Reads the catalogues from `directory`, where that of German would be de/LC_MESSAGES/zudunmaf.mo. An empty

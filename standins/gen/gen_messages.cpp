@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 
 namespace
 {
@@ -73,6 +74,18 @@ void makeChoiceCount()
         leaveUntranslatedLocale();
 }
 
+/// The text, which is UTF-8, in the local 8-bit encoding of the running Qt. Catalogues give UTF-8, since the C
+/// library's locale and Qt's codec can differ. The pool is keyed by the encoded bytes, so that an earlier answer stays
+/// valid after a change of language or codec.
+const char *localTextOf(const char *text)
+{
+    const QByteArray encoded = QString::fromUtf8(text).toLocal8Bit();
+    if (encoded == text)
+        return text;
+    static QSet<QByteArray> pool;
+    return pool.insert(encoded)->constData();
+}
+
 } // namespace
 
 void Zudunmaf::gen::setLanguage(const QString &language)
@@ -98,9 +111,10 @@ void Zudunmaf::gen::setCatalogueDirectory(const QString &directory)
 
 const char *gen__nls_nlst(const char *key)
 {
-    return Zudunmaf::standins::messageOf(key);
+    return localTextOf(Zudunmaf::standins::messageOf(key));
 }
 
+// In UTF-8 like the dictionary's own texts, which gen__str_cmp_reg() reads in the same way.
 const char *gen__nls_nlsa_get_att_prompt(const char *name, const char *prompt)
 {
     if (prompt && *prompt)

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include <QChar>
-#include <QString>
 
 namespace Zudunmaf
 {
@@ -18,9 +17,9 @@ char32_t folded(char32_t character)
     return QChar::toCaseFolded(character);
 }
 
-std::u32string foldedText(const char *text)
+std::u32string foldedText(const QString &text)
 {
-    std::u32string result = QString::fromUtf8(text).toStdU32String();
+    std::u32string result = text.toStdU32String();
     std::transform(result.begin(), result.end(), result.begin(), folded);
     return result;
 }
@@ -46,10 +45,10 @@ bool WildcardPattern::Piece::takes(char32_t candidate) const
     return true;
 }
 
-WildcardPattern::WildcardPattern(const QByteArray &pattern)
+WildcardPattern::WildcardPattern(const QString &pattern)
     : m_source(pattern)
 {
-    const std::u32string text = foldedText(pattern.constData());
+    const std::u32string text = foldedText(pattern);
     addAnyText();
     for (std::size_t position = 0; position < text.size() && m_isValid; ++position) {
         switch (text[position]) {
@@ -98,7 +97,7 @@ bool WildcardPattern::addSet(const std::u32string &pattern, std::size_t *positio
     return true;
 }
 
-bool WildcardPattern::matches(const char *text) const
+bool WildcardPattern::matches(const QString &text) const
 {
     if (!m_isValid)
         return false;

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include <QByteArray>
+#include <QString>
 
 namespace Zudunmaf
 {
@@ -16,15 +16,15 @@ namespace gen
 /// "*" stands for any text, "?" for one character, "[a-z_]" for one character of a set and "[^a-z_]" for one
 /// that is not in it; a "]" that comes first belongs to its set. Every other character, the backslash too,
 /// stands for itself. A "[" that is never closed makes a pattern that matches nothing, as it does where the
-/// dialogs narrow their rows. Texts are UTF-8, and a character is a code point. A match takes at most the
+/// dialogs narrow their rows. A character is a code point. A match takes at most the
 /// product of both lengths, never more.
 class WildcardPattern
 {
 public:
-    explicit WildcardPattern(const QByteArray &pattern);
+    explicit WildcardPattern(const QString &pattern);
 
-    const QByteArray &source() const { return m_source; }
-    bool matches(const char *text) const;
+    const QString &source() const { return m_source; }
+    bool matches(const QString &text) const;
 
 private:
     struct Range {
@@ -44,7 +44,7 @@ private:
     bool addSet(const std::u32string &pattern, std::size_t *position);
     void addAnyText();
 
-    QByteArray m_source;
+    QString m_source;
     std::vector<Piece> m_pieces;
     bool m_isValid = true;
 };

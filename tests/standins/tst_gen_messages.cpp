@@ -1,6 +1,7 @@
 #include "gdm/host/gen_services.h"
 #include "gdm/host/message_keys.h"
 #include "gen/gen_control.h"
+#include "local_encoding.h"
 
 #include <QtTest>
 
@@ -18,6 +19,7 @@ private Q_SLOTS:
         gen::setLanguage(QString());
         gen::setCatalogueDirectory(QString());
         std::setlocale(LC_ALL, "C.UTF-8");
+        setLocalEncoding("UTF-8");
     }
 
     void withoutTranslation()
@@ -54,6 +56,23 @@ private Q_SLOTS:
         }
     }
 
+    void localEncoding()
+    {
+        QVector<QPair<const char *, QByteArray>> answers;
+        for (const QByteArray &encoding : localEncodings()) {
+            setLocalEncoding(encoding);
+            const QString german = encoding == "ISO-8859-5" ? "Bedingung l?schen" : "Bedingung löschen";
+            for (const char *language : {"de", "en"}) {
+                gen::setLanguage(language);
+                const char *answer = gen__nls_nlst(keys::FilterClearCondition);
+                QCOMPARE(QString::fromLocal8Bit(answer), language[0] == 'd' ? german : "Clear Condition");
+                answers << qMakePair(answer, QByteArray(answer));
+            }
+        }
+        for (const auto &[answer, text] : answers)
+            QCOMPARE(answer, text);
+    }
+
     void germanDescriptionKeepsItsColumns()
     {
         gen::setLanguage("de");
@@ -62,7 +81,7 @@ private Q_SLOTS:
               keys::TipTextDefault, keys::TipOption, keys::TipOptionDefault, keys::TipInteger,
               keys::TipIntegerDefault, keys::TipIntegerRange, keys::TipFloat, keys::TipFloatDefault,
               keys::TipFloatRange, keys::TipFloatUnits}) {
-            const QString text(gen__nls_nlst(key));
+            const QString text = QString::fromLocal8Bit(gen__nls_nlst(key));
             QVERIFY2(text != QString(key).section("@$@#", 4), key);
             QCOMPARE(text.indexOf(": "), 13);
         }

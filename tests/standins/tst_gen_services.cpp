@@ -3,6 +3,7 @@
 #include "gdm/host/gen_services.h"
 #include "gen/gen_control.h"
 #include "json_table.h"
+#include "local_encoding.h"
 
 #include <QtTest>
 
@@ -22,7 +23,11 @@ class TestGenServices : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { gen::setConfigurationFile(QString()); }
+    void init()
+    {
+        gen::setConfigurationFile(QString());
+        setLocalEncoding("UTF-8");
+    }
 
     void configuredValues()
     {
@@ -91,10 +96,13 @@ private Q_SLOTS:
 
     void wildcards()
     {
-        for (const QString &row : textsOf(m_tables["matches"]))
-            QVERIFY2(matches(row), qPrintable(row));
-        for (const QString &row : textsOf(m_tables["matches not"]))
-            QVERIFY2(!matches(row), qPrintable(row));
+        for (const QByteArray &encoding : localEncodings()) {
+            setLocalEncoding(encoding);
+            for (const QString &row : textsOf(m_tables["matches"]))
+                QVERIFY2(!canBeTyped(row) || matches(row), qPrintable(row));
+            for (const QString &row : textsOf(m_tables["matches not"]))
+                QVERIFY2(!canBeTyped(row) || !matches(row), qPrintable(row));
+        }
         QVERIFY(gen__str_cmp_reg(nullptr, "*") && gen__str_cmp_reg("a", nullptr));
         QVERIFY(!gen__str_cmp_reg(nullptr, "a"));
     }
@@ -176,10 +184,17 @@ private Q_SLOTS:
     }
 
 private:
-    /// Of a text and a pattern with a blank in between.
+    /// Of a text of the dictionary and a pattern that a user types, with a blank in between.
     static bool matches(const QString &row)
     {
-        return gen__str_cmp_reg(qPrintable(row.section(' ', 0, 0)), qPrintable(row.section(' ', 1)));
+        const QByteArray name = row.section(' ', 0, 0).toUtf8();
+        return gen__str_cmp_reg(gen__nls_nlsa_get_att_prompt("", name.constData()),
+                                qPrintable(row.section(' ', 1)));
+    }
+    static bool canBeTyped(const QString &row)
+    {
+        const QString typed = row.section(' ', 1);
+        return QString::fromLocal8Bit(typed.toLocal8Bit()) == typed;
     }
     /// A file of its own for each content, unless the name is given.
     QString write(const QByteArray &content, const QString &name = "user.ini")
