@@ -219,9 +219,11 @@ void AttributeReader::readUnits()
 {
     if (!value("units").isString())
         return;
-    const QByteArray units = value("units").toString().toLocal8Bit();
-    m_definition.unitsClass = gen__torvex_get_str_units(units.constData());
-    if (m_definition.unitsClass == -1)
+    const QByteArray units = value("units").toString().toUtf8();
+    const int code = gen__torvex_get_str_units(units.constData());
+    m_definition.unitsClass = code;
+    // Other spellings are for users: what a file means must not depend on the local encoding.
+    if (code == -1 || units != gen__torvex_cur_units_str(code, code))
         refuse("units", QStringLiteral("null or one of ") + joinKnownUnits(), value("units"));
 }
 

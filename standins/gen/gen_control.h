@@ -20,8 +20,8 @@ namespace gen
 /// catalogue leaves the messages English. An empty text goes back to what the user's environment says. Of the
 /// process's locale this touches the messages alone; numbers stay as they are.
 ///
-/// gen__nls_nlst() answers in the local 8-bit encoding that QString::fromLocal8Bit() of the running Qt reads. A
-/// character that the encoding lacks becomes "?". An answer stays valid for the life of the process.
+/// gen__nls_nlst() answers in the local 8-bit encoding that QString::fromLocal8Bit() of the running Qt reads.
+/// A character that the encoding lacks becomes "?". An answer stays valid for the life of the process.
 GDM_EXPORT void setLanguage(const QString &language);
 
 /// Reads the catalogues from `directory`, where that of German would be de/LC_MESSAGES/zudunmaf.mo. An empty
@@ -36,7 +36,8 @@ GDM_EXPORT void setConfigurationFile(const QString &path);
 /// next. Whoever stands in for a service that can fail calls this just before it returns its status.
 GDM_EXPORT void noteFailure(const char *text);
 
-/// A unit as the units services know it.
+/// A unit as the units services know it. gen__torvex_get_str_units() also reads the usual spellings that
+/// docs/dictionary-format.md lists.
 struct UnitInfo {
     int code;          ///< what stands in a definition or in the display units
     QString text;      ///< as shown and read back, such as "mm"

@@ -74,9 +74,9 @@ void makeChoiceCount()
         leaveUntranslatedLocale();
 }
 
-/// The text, which is UTF-8, in the local 8-bit encoding of the running Qt. Catalogues give UTF-8, since the C
-/// library's locale and Qt's codec can differ. The pool is keyed by the encoded bytes, so that an earlier answer stays
-/// valid after a change of language or codec.
+/// The text, which is UTF-8, in the local 8-bit encoding of the running Qt. Catalogues give UTF-8, since the
+/// C library's locale and Qt's codec can differ. The pool is keyed by the encoded bytes, so that an earlier
+/// answer stays valid after a change of language or codec.
 const char *localTextOf(const char *text)
 {
     const QByteArray encoded = QString::fromUtf8(text).toLocal8Bit();

@@ -28,7 +28,7 @@ const char *gen__torvex_cur_units_str(int unitsClass, int displayUnits)
 
 int gen__torvex_get_str_units(const char *text)
 {
-    return codeOfUnit(text);
+    return codeOfUnit(QString::fromLocal8Bit(text));
 }
 
 QVector<UnitInfo> Zudunmaf::gen::units()

@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <iterator>
 #include <limits>
+
+#include <QHash>
+#include <QStringList>
 
 namespace Zudunmaf
 {
@@ -18,49 +20,97 @@ constexpr double DegreesInRadian = 57.295779513082320877;
 
 // The place of a row is its code, and dictionaries hold codes: a new unit goes behind the last.
 constexpr Unit units[] = {
-    /*  0 */ {"inch", Dimension::Length, 25.4},
-    /*  1 */ {"mm", Dimension::Length, 1.0},
-    /*  2 */ {"mil", Dimension::Length, 0.0254},
-    /*  3 */ {"um", Dimension::Length, 1e-3},
-    /*  4 */ {"cm", Dimension::Length, 10.0},
-    /*  5 */ {"m", Dimension::Length, 1e3},
-    /*  6 */ {"ohm", Dimension::Resistance, 1.0},
-    /*  7 */ {"mohm", Dimension::Resistance, 1e-3},
-    /*  8 */ {"kohm", Dimension::Resistance, 1e3},
-    /*  9 */ {"Mohm", Dimension::Resistance, 1e6},
-    /* 10 */ {"pF", Dimension::Capacitance, 1e-12},
-    /* 11 */ {"nF", Dimension::Capacitance, 1e-9},
-    /* 12 */ {"uF", Dimension::Capacitance, 1e-6},
-    /* 13 */ {"mF", Dimension::Capacitance, 1e-3},
-    /* 14 */ {"F", Dimension::Capacitance, 1.0},
-    /* 15 */ {"degC", Dimension::Temperature, 1.0},
-    /* 16 */ {"degF", Dimension::Temperature, 5.0 / 9.0, 32.0},
-    /* 17 */ {"K", Dimension::Temperature, 1.0, 273.15},
-    /* 18 */ {"deg", Dimension::Angle, 1.0},
-    /* 19 */ {"rad", Dimension::Angle, DegreesInRadian},
-    /* 20 */ {"mrad", Dimension::Angle, DegreesInRadian * 1e-3},
-    /* 21 */ {"%", Dimension::Proportion, 1.0},
-    /* 22 */ {"ppm", Dimension::Proportion, 1e-4},
-    /* 23 */ {"nH", Dimension::Inductance, 1e-9},
-    /* 24 */ {"uH", Dimension::Inductance, 1e-6},
-    /* 25 */ {"mH", Dimension::Inductance, 1e-3},
-    /* 26 */ {"uV", Dimension::Voltage, 1e-6},
-    /* 27 */ {"mV", Dimension::Voltage, 1e-3},
-    /* 28 */ {"V", Dimension::Voltage, 1.0},
-    /* 29 */ {"kV", Dimension::Voltage, 1e3},
-    /* 30 */ {"uA", Dimension::Current, 1e-6},
-    /* 31 */ {"mA", Dimension::Current, 1e-3},
-    /* 32 */ {"A", Dimension::Current, 1.0},
-    /* 33 */ {"ps", Dimension::Time, 1e-12},
-    /* 34 */ {"ns", Dimension::Time, 1e-9},
-    /* 35 */ {"us", Dimension::Time, 1e-6},
-    /* 36 */ {"ms", Dimension::Time, 1e-3},
-    /* 37 */ {"s", Dimension::Time, 1.0},
-    /* 38 */ {"min", Dimension::Time, 60.0},
-    /* 39 */ {"Hz", Dimension::Frequency, 1.0},
-    /* 40 */ {"kHz", Dimension::Frequency, 1e3},
-    /* 41 */ {"MHz", Dimension::Frequency, 1e6},
-    /* 42 */ {"GHz", Dimension::Frequency, 1e9},
+    /*  0 */ {"inch", "in inches \" ″ ”", Dimension::Length, 25.4},
+    /*  1 */ {"mm", "millimeter millimeters millimetre millimetres", Dimension::Length, 1.0},
+    /*  2 */ {"mil", "mils thou", Dimension::Length, 0.0254},
+    /*  3 */ {"um", "µm micron microns", Dimension::Length, 1e-3},
+    /*  4 */ {"cm", "centimeter centimeters centimetre centimetres", Dimension::Length, 10.0},
+    /*  5 */ {"m", "meter meters metre metres", Dimension::Length, 1e3},
+    /*  6 */ {"ohm", "ohms Ω", Dimension::Resistance, 1.0},
+    /*  7 */ {"mohm", "mohms mOhm mOhms mΩ", Dimension::Resistance, 1e-3},
+    /*  8 */ {"kohm", "kohms kΩ", Dimension::Resistance, 1e3},
+    /*  9 */ {"Mohm", "Mohms MOhm MOhms MΩ", Dimension::Resistance, 1e6},
+    /* 10 */ {"pF", "", Dimension::Capacitance, 1e-12},
+    /* 11 */ {"nF", "", Dimension::Capacitance, 1e-9},
+    /* 12 */ {"uF", "µF", Dimension::Capacitance, 1e-6},
+    /* 13 */ {"mF", "mf", Dimension::Capacitance, 1e-3},
+    /* 14 */ {"F", "farad farads", Dimension::Capacitance, 1.0},
+    /* 15 */ {"degC", "°C C celsius", Dimension::Temperature, 1.0},
+    /* 16 */ {"degF", "°F fahrenheit", Dimension::Temperature, 5.0 / 9.0, 32.0},
+    /* 17 */ {"K", "kelvin", Dimension::Temperature, 1.0, 273.15},
+    /* 18 */ {"deg", "° degree degrees", Dimension::Angle, 1.0},
+    /* 19 */ {"rad", "radian radians", Dimension::Angle, DegreesInRadian},
+    /* 20 */ {"mrad", "", Dimension::Angle, DegreesInRadian * 1e-3},
+    /* 21 */ {"%", "percent pct", Dimension::Proportion, 1.0},
+    /* 22 */ {"ppm", "", Dimension::Proportion, 1e-4},
+    /* 23 */ {"nH", "", Dimension::Inductance, 1e-9},
+    /* 24 */ {"uH", "µH", Dimension::Inductance, 1e-6},
+    /* 25 */ {"mH", "mh", Dimension::Inductance, 1e-3},
+    /* 26 */ {"uV", "µV", Dimension::Voltage, 1e-6},
+    /* 27 */ {"mV", "mv", Dimension::Voltage, 1e-3},
+    /* 28 */ {"V", "volt volts", Dimension::Voltage, 1.0},
+    /* 29 */ {"kV", "", Dimension::Voltage, 1e3},
+    /* 30 */ {"uA", "µA", Dimension::Current, 1e-6},
+    /* 31 */ {"mA", "ma", Dimension::Current, 1e-3},
+    /* 32 */ {"A", "amp amps ampere amperes", Dimension::Current, 1.0},
+    /* 33 */ {"ps", "", Dimension::Time, 1e-12},
+    /* 34 */ {"ns", "", Dimension::Time, 1e-9},
+    /* 35 */ {"us", "µs", Dimension::Time, 1e-6},
+    /* 36 */ {"ms", "", Dimension::Time, 1e-3},
+    /* 37 */ {"s", "sec secs second seconds", Dimension::Time, 1.0},
+    /* 38 */ {"min", "mins minute minutes", Dimension::Time, 60.0},
+    /* 39 */ {"Hz", "hertz", Dimension::Frequency, 1.0},
+    /* 40 */ {"kHz", "", Dimension::Frequency, 1e3},
+    /* 41 */ {"MHz", "Mhz MHZ", Dimension::Frequency, 1e6},
+    /* 42 */ {"GHz", "", Dimension::Frequency, 1e9},
+};
+
+/// Usual meanings of no unit in the table, which differ from a name of one only by case: "MV" is not read as
+/// "mV".
+constexpr const char *otherMeanings[] = {"M", "S", "k", "MF", "MH", "MV", "MA", "Ms", "Mrad", "mHz"};
+
+/// Characters that look the same become the same: both of micro and both of ohm.
+QString unified(const QString &text)
+{
+    return text.normalized(QString::NormalizationForm_KC);
+}
+
+/// Finds units by text. The case counts only if several meanings differ by nothing else.
+class UnitNames
+{
+public:
+    UnitNames()
+    {
+        for (const char *text : otherMeanings)
+            addInAnyCase(QString::fromLatin1(text), -1);
+        for (int code = 0; code < unitCount(); ++code) {
+            const QString names =
+                QLatin1String(units[code].text) + QLatin1Char(' ') + QString::fromUtf8(units[code].spellings);
+            for (const QString &name : unified(names).split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+                m_asWritten.insert(name, code);
+                addInAnyCase(name, code);
+            }
+        }
+    }
+
+    int codeOf(const QString &name) const
+    {
+        return m_asWritten.value(name, m_inAnyCase.value(name.toCaseFolded(), -1));
+    }
+
+private:
+    void addInAnyCase(const QString &name, int code)
+    {
+        const QString folded = name.toCaseFolded();
+        const auto known = m_inAnyCase.find(folded);
+        if (known == m_inAnyCase.end())
+            m_inAnyCase.insert(folded, code);
+        else if (*known != code)
+            *known = -1;
+    }
+
+    QHash<QString, int> m_asWritten;
+    QHash<QString, int> m_inAnyCase; ///< -1 where several meanings fit
 };
 
 /// The nearest float, saturated: beyond its range a plain conversion is undefined.
@@ -83,12 +133,10 @@ const Unit *unitOf(int code)
     return code >= 0 && code < unitCount() ? &units[code] : nullptr;
 }
 
-int codeOfUnit(const char *text)
+int codeOfUnit(const QString &text)
 {
-    const auto hasText = [text](const Unit &unit) { return std::strcmp(unit.text, text) == 0; };
-    const Unit *const found =
-        text ? std::find_if(std::begin(units), std::end(units), hasText) : std::end(units);
-    return found == std::end(units) ? -1 : static_cast<int>(found - units);
+    static const UnitNames names;
+    return names.codeOf(unified(text));
 }
 
 const char *nameOf(Dimension dimension)

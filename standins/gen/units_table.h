@@ -1,7 +1,7 @@
 #ifndef GEN_UNITS_TABLE_H
 #define GEN_UNITS_TABLE_H
 
-#include <cstddef>
+#include <QString>
 
 /// The one code space of units that definitions, display units and unit texts share.
 namespace Zudunmaf
@@ -25,7 +25,8 @@ enum class Dimension {
 
 /// A number n of a unit is (n - zero) * factor in the base unit of its dimension.
 struct Unit {
-    const char *text; ///< ASCII without blanks, so that it reads back in every encoding; case counts
+    const char *text;      ///< ASCII without blanks, so that it reads back in every encoding; case counts
+    const char *spellings; ///< UTF-8, separated by blanks: what else is read as this unit
     Dimension dimension;
     double factor;
     double zero = 0.0; ///< what the unit reads where the base unit reads 0
@@ -37,8 +38,10 @@ int unitCount();
 /// Null for a code that no unit has; any int may be asked for.
 const Unit *unitOf(int code);
 
-/// The code of the unit that is written `text`; -1 where none is, or where `text` is null.
-int codeOfUnit(const char *text);
+/// The code of the unit whose text is `text`; failing that, of the one unit that has it as a spelling, first
+/// as written, then in any case. -1 if there is none, or if the case decides between several meanings: "MOHM"
+/// is neither "mohm" nor "Mohm". docs/dictionary-format.md lists the spellings.
+int codeOfUnit(const QString &text);
 
 /// English word for a dimension.
 const char *nameOf(Dimension dimension);

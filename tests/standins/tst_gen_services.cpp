@@ -125,8 +125,37 @@ private Q_SLOTS:
             QCOMPARE(gen__torvex_get_str_units(qPrintable(unit.text)), unit.code);
         }
         QCOMPARE(texts.size(), units().size());
-        for (const char *unknown : {"", "furlong", "MM", " mm", "mm ", static_cast<const char *>(nullptr)})
+        for (const char *unknown : {"", "furlong", " mm", "mm ", static_cast<const char *>(nullptr)})
             QCOMPARE(gen__torvex_get_str_units(unknown), -1);
+    }
+
+    /// The page has a row for each unit: text, dimension, names in any case, names as written.
+    void unitSpellings()
+    {
+        QFile page(ZUDUNMAF_PAGES "/dictionary-format.md");
+        QVERIFY(page.open(QIODevice::ReadOnly));
+        const QStringList rows = QString::fromUtf8(page.readAll()).section("\n## Units", 1).split("\n| `");
+        QCOMPARE(rows.size() - 1, units().size());
+        for (const QByteArray &encoding : localEncodings()) {
+            setLocalEncoding(encoding);
+            for (const UnitInfo &unit : units()) {
+                const QStringList cells = ("`" + rows[unit.code + 1]).section('\n', 0, 0).split(" |");
+                QCOMPARE(namesIn(cells[0]) << cells[1].trimmed(), QStringList({unit.text, unit.dimension}));
+                for (const QString &name : namesIn(cells[2])) {
+                    for (const QString &typed : {name, name.toUpper(), name.toLower()})
+                        QVERIFY2(isReadAs(typed, unit.code), qPrintable(typed));
+                }
+                const QStringList asWritten = namesIn(cells[3]);
+                for (const QString &name : asWritten) {
+                    QVERIFY2(isReadAs(name, unit.code), qPrintable(name));
+                    for (const QString &typed : {name.toUpper(), name.toLower()})
+                        QVERIFY2(asWritten.contains(typed) || codeOf(typed) != unit.code, qPrintable(typed));
+                }
+            }
+            for (const char *unknown :
+                 {"MOHM", "MOHMS", "MV", "MF", "MA", "MH", "MS", "Ms", "mhz", "mHz", "M", "k"})
+                QCOMPARE(codeOf(unknown), -1);
+        }
     }
 
     void unitsConvert()
@@ -195,6 +224,29 @@ private:
     {
         const QString typed = row.section(' ', 1);
         return QString::fromLocal8Bit(typed.toLocal8Bit()) == typed;
+    }
+    /// The names between backquotes.
+    static QStringList namesIn(const QString &cell)
+    {
+        const QStringList parts = cell.split('`');
+        QStringList names;
+        for (int i = 1; i < parts.size(); i += 2)
+            names << parts[i];
+        return names;
+    }
+    static int codeOf(const QString &typed)
+    {
+        return gen__torvex_get_str_units(typed.toLocal8Bit().constData());
+    }
+    /// With either character for micro and for ohm, as far as the local encoding has it.
+    static bool isReadAs(const QString &name, int code)
+    {
+        const QString other =
+            QString(name).replace(QChar(0xB5), QChar(0x3BC)).replace(QChar(0x3A9), QChar(0x2126));
+        const QStringList both{name, other};
+        return std::all_of(both.begin(), both.end(), [code](const QString &typed) {
+            return QString::fromLocal8Bit(typed.toLocal8Bit()) != typed || codeOf(typed) == code;
+        });
     }
     /// A file of its own for each content, unless the name is given.
     QString write(const QByteArray &content, const QString &name = "user.ini")

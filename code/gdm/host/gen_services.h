@@ -22,8 +22,8 @@ extern "C" {
 /// leaves the label empty.
 GDM_EXPORT const char *gen__nls_nlst(const char *key);
 
-/// The prompt of an attribute as the user reads it, for the two texts of its definition. Never null. It goes to
-/// gen__str_cmp_reg() as it is and nowhere else, so that the host chooses its encoding.
+/// The prompt of an attribute as the user reads it, for the two texts of its definition. Never null. It goes
+/// to gen__str_cmp_reg() as it is and nowhere else, so that the host chooses its encoding.
 GDM_EXPORT const char *gen__nls_nlsa_get_att_prompt(const char *name, const char *prompt);
 
 /// Reads a boolean configuration value. On success `value` is nonzero for true; `origin` takes a byte that
@@ -43,9 +43,9 @@ GDM_EXPORT void gen__mem_free(void *memory, int, const char *file, int line);
 /// 0 where the two texts are equal but for case.
 GDM_EXPORT int gen__str_cmp_nc(const char *a, const char *b);
 
-/// True if `text` matches `pattern`; "*" matches every text, the empty one too. `text` is the name of a definition in
-/// the encoding of the dictionary, or an answer of gen__nls_nlsa_get_att_prompt(). `pattern` is what the user typed, in
-/// the local 8-bit encoding and cut after 64 bytes.
+/// True if `text` matches `pattern`; "*" matches every text, the empty one too. `text` is the name of a
+/// definition in the encoding of the dictionary, or an answer of gen__nls_nlsa_get_att_prompt(). `pattern` is
+/// what the user typed, in the local 8-bit encoding and cut after 64 bytes.
 GDM_EXPORT bool gen__str_cmp_reg(const char *text, const char *pattern);
 
 /// Converts `*value` in place from the units `source` to the units `target`. A code of -1 leaves it alone.
@@ -63,8 +63,8 @@ GDM_EXPORT void gen__torvex_units_convert_f(float *value, int unitsClass, int co
 /// is empty where there is nothing to say. Never null.
 GDM_EXPORT const char *gen__torvex_cur_units_str(int unitsClass, int displayUnits);
 
-/// The code of a unit text as gen__torvex_cur_units_str() writes it, in the local 8-bit encoding; -1 for any
-/// other.
+/// The code of a unit text in the local 8-bit encoding: at least of each that gen__torvex_cur_units_str()
+/// returns. A host can know other spellings too; -1 for a text that is no unit.
 GDM_EXPORT int gen__torvex_get_str_units(const char *text);
 }
 

@@ -21,9 +21,9 @@ DmlAttrLWI::DmlAttrLWI(const DmlAttrLWI &other) = default;
 DmlAttrLWI &DmlAttrLWI::operator=(const DmlAttrLWI &other)
 {
     QTableWidgetItem::operator=(other);
-    // Through the virtual setters: a filter item then copies the condition and keeps its own record, whatever the
-    // static type of the reference. Priming is skipped if both items point to the same record, since it would wipe
-    // what is to be copied.
+    // Through the virtual setters: a filter item then copies the condition and keeps its own record, whatever
+    // the static type of the reference. Priming is skipped if both items point to the same record, since it
+    // would wipe what is to be copied.
     if (recordIn<void>(m_attrValue) == recordIn<void>(other.m_attrValue))
         m_dmlAttribute = other.m_dmlAttribute;
     else

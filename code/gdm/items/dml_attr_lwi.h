@@ -30,8 +30,8 @@ public:
     /// no display units. Its QTableWidgetItem type is UserType, as for all items here: itemType() tells the
     /// kinds apart.
     explicit DmlAttrLWI(ItemType_Enum itemType = ItemType_None);
-    /// Copies the item with its settings. Variants are copied, so a copy of an AttrFilterLWI in this class points to
-    /// the other item's record, does not own it, and must not use it once that item is gone.
+    /// Copies the item with its settings. Variants are copied, so a copy of an AttrFilterLWI in this class
+    /// points to the other item's record, does not own it, and must not use it once that item is gone.
     DmlAttrLWI(const DmlAttrLWI &other);
     /// Assigns what the copy constructor copies, the definition and the value through the virtual setters: an
     /// AttrFilterLWI on the left keeps its own record, also through a reference to this class.
