@@ -168,6 +168,19 @@ private Q_SLOTS:
         QCOMPARE(item->attrValue().toFloat(), 2.0f);
     }
 
+    /// docs/host-contract.md warns hosts: the largest entry lies outside the definition's limits.
+    void limitsAreRoundedInDisplayUnits()
+    {
+        FeatureAttrLWI *item = add<FeatureAttrLWI>(real("gap", 0.005, 0.1, 0.05f, 2));
+        item->setDisplayUnits(1);
+        const auto box = edit<QDoubleSpinBox>();
+        QCOMPARE(box->minimum(), 0.0);
+        QCOMPARE(box->maximum(), 0.004);
+        box->setValue(box->maximum());
+        commit(box.get());
+        QCOMPARE(item->attrValue().toFloat(), 0.1016f);
+    }
+
     void strayEditorLeavesTheItem()
     {
         const auto isLeftAlone = [](QWidget *stray, const DmlAttrLWI *item) {
