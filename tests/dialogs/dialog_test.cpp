@@ -1,11 +1,11 @@
 #include "dialog_test.h"
 
+#include "commit_watch.h"
 #include "dml/dml_control.h"
 #include "gdm/gdm_qt.h"
 #include "gen/gen_control.h"
 
 #include <QScreen>
-#include <QStyledItemDelegate>
 
 using namespace Zudunmaf;
 
@@ -24,38 +24,6 @@ void watchMessages(QtMsgType type, const QMessageLogContext &context, const QStr
     g_forward(type, context, text);
 }
 
-/// Passes every call on to the library's delegate and notes the commits.
-class CommitWatch : public QStyledItemDelegate
-{
-public:
-    explicit CommitWatch(QAbstractItemDelegate *inner)
-        : QStyledItemDelegate(inner)
-        , m_inner(inner)
-    {
-    }
-    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
-                          const QModelIndex &index) const override
-    {
-        return m_inner->createEditor(parent, option, index);
-    }
-    void setEditorData(QWidget *editor, const QModelIndex &index) const override
-    {
-        m_inner->setEditorData(editor, index);
-    }
-    void setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const override
-    {
-        DialogTest::events << "commit";
-        m_inner->setModelData(editor, model, index);
-    }
-    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
-    {
-        return m_inner->sizeHint(option, index);
-    }
-
-private:
-    QAbstractItemDelegate *m_inner;
-};
-
 /// A dialog that notes what its base calls.
 template <class Dialog>
 class Watched : public Dialog
@@ -66,6 +34,8 @@ public:
     {
         DialogTest::events << "pass";
         Dialog::filterAttributeList();
+        DialogTest::currentAfterPass =
+            DialogTest::currentName(this->template findChild<QTableWidget *>(QStringLiteral("topView")));
     }
     void addButtonClickedCB(QTableWidgetItem *item) override
     {
@@ -158,7 +128,8 @@ void DialogTest::create(int did)
     static_cast<DialogUser &>(*this) = DialogUser(*dialog);
     if (!missing().isEmpty())
         qFatal("the dialog has no %s", qPrintable(missing()));
-    dialog->setItemDelegate(new CommitWatch(chosenList->itemDelegate()));
+    dialog->setItemDelegate(new CommitWatch(chosenList->itemDelegate(),
+                                            [](QWidget *, const QModelIndex &) { events << "commit"; }));
     connect(dialog.get(), &QDialog::accepted, this, [this] { events << "accepted"; });
     connect(dialog.get(), &QDialog::rejected, this, [this] { events << "rejected"; });
     auto *menu = dialog->findChild<QMenu *>(QString(), Qt::FindDirectChildrenOnly);

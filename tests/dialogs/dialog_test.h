@@ -51,6 +51,8 @@ public:
     /// What happened, in order: "commit", "pass" of the filter, "+name" and "-name" of the hooks, "menu",
     /// "accepted", "rejected".
     static inline QStringList events;
+    /// The current attribute of the top view as a subclass finds it right after the library's filterAttributeList().
+    static inline QString currentAfterPass;
     /// Runs at the end of the add hook, until the test function ends.
     static inline std::function<void()> afterAdding;
 

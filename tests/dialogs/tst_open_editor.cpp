@@ -1,6 +1,14 @@
 #include "dialog_test.h"
 
+#include "dml/dml_control.h"
+#include "gdm/gdm_qt.h"
+#include "tvx/tvx_control.h"
+
 #include <QAbstractSpinBox>
+#include <QClipboard>
+#include <QListWidget>
+
+using namespace Zudunmaf;
 
 /// One cell editor: how it opens, what it takes, and what becomes of it when the user does something else.
 class OpenEditorTest : public DialogTest
@@ -71,6 +79,151 @@ private Q_SLOTS:
         QCOMPARE(results(), QStringList(pick("note = bc", "bc")));
     }
 
+    /// Neither the editor's three decimals nor its limits reach a value that nobody has changed.
+    void untouchedValuesKeepTheirBits_data() { addWays({"Enter", "elsewhere"}); }
+    void untouchedValuesKeepTheirBits()
+    {
+        loadDictionary(R"(
+            {"name": "coating", "type": "float", "entities": "all", "default": 12.3, "min": 5, "max": 100, "units": "um"},
+            {"name": "gap", "type": "float", "entities": "all", "default": 0.0004, "min": 0, "max": 1, "units": "mm"},
+            {"name": "drill", "type": "float", "entities": "all", "default": 0.3, "min": 0, "max": 6, "units": "mm"},
+            {"name": "layers", "type": "integer", "entities": "all", "default": 4, "min": 1, "max": 64},
+            {"name": "finish", "type": "option", "entities": "all", "options": ["matt", "gloss"]})");
+        const int inch = 0;
+        dialog->setDisplayUnits(inch);
+        handInValue("layers", 500);
+        choose({"coating", "gap", "drill", "finish"});
+        const QList<QByteArray> before = records();
+        for (const QString &attribute : visibleNames(chosenList)) {
+            click(chosenList, attribute);
+            press(Qt::Key_F2);
+            QVERIFY(editor());
+            if (way() == "Enter")
+                press(Qt::Key_Return);
+            else
+                click(filterText);
+        }
+        // In the filter dialog, Enter sets a condition that was not set: the whole range, or the first entry.
+        if (!inFilter() || way() == "elsewhere")
+            QCOMPARE(records(), before);
+        else
+            QCOMPARE(results().join(';'),
+                     "1 <= layers <= 64;5.000 <= coating <= 100.000;0.000 <= gap <= 1.000;"
+                     "0.000 <= drill <= 6.000;finish = matt");
+    }
+
+    void valueBeyondTheLimitsIsReplacedByEntering()
+    {
+        if (inFilter())
+            QSKIP("a range is within its limits");
+        handInValue("width", 500);
+        enter("width", "100");
+        QCOMPARE(results(), QStringList("100"));
+    }
+
+    void arrowsStopAtTheLimits()
+    {
+        choose({"width"});
+        click(chosenList, "width");
+        press(Qt::Key_F2);
+        type("99");
+        press({Qt::Key_Up, Qt::Key_Up, Qt::Key_PageUp, Qt::Key_Return});
+        QCOMPARE(results(), QStringList(pick("100 <= width <= 100", "100")));
+    }
+
+    void refusedEntryStaysAsItCame_data() { addWays({"typed", "pasted"}); }
+    void refusedEntryStaysAsItCame()
+    {
+        choose({"depth"});
+        press(Qt::Key_F2);
+        auto *line = QApplication::focusWidget()->findChild<QLineEdit *>();
+        QGuiApplication::clipboard()->setText("99999999999");
+        if (way() == "typed")
+            type("99999999999");
+        else
+            press(Qt::Key_V, Qt::ControlModifier);
+        press(Qt::Key_Return);
+        QVERIFY(editor() && dialog->isVisible());
+        QCOMPARE(line->selectedText(), QString("99999999999"));
+        QCOMPARE(dialog->findChild<QLabel *>("editorNote")->text(), QString("At most 2000.000 mm"));
+        press(Qt::Key_Escape);
+        QVERIFY(!editor() && !dialog->findChild<QLabel *>("editorNote")->isVisible());
+        QCOMPARE(results(), QStringList(pick("depth", "0.500")));
+        QVERIFY(!events.contains("commit"));
+    }
+
+    void refusedBoundOutlivesTheOtherOne()
+    {
+        if (!inFilter())
+            QSKIP("values have one box");
+        choose({LongName});
+        press(Qt::Key_F2);
+        type("3000000000\t7");
+        const auto boxes = editor()->findChildren<QAbstractSpinBox *>();
+        QCOMPARE(boxes[0]->text(), QString("3000000000"));
+        press(Qt::Key_Return);
+        QVERIFY(editor() && boxes[0]->hasFocus());
+        type("3\t");
+        press(Qt::Key_Return);
+        QCOMPARE(results(), QStringList("3 <= %1 <= 7").replaceInStrings("%1", LongName));
+        QCOMPARE(events.count("commit"), 1);
+    }
+
+    void limitsAreInTheUnitsOfTheEditor()
+    {
+        dialog->setDisplayUnits(0);
+        choose({"depth"});
+        press(Qt::Key_F2);
+        type("-200");
+        QCOMPARE(dialog->findChild<QLabel *>("editorNote")->text(),
+                 pick("At least -100.000 mm", "At least -3.937 inch"));
+    }
+
+    void textWithChoicesTakesAnyText()
+    {
+        if (inFilter())
+            QSKIP("a condition on a text has no choices");
+        loadDictionary(
+            R"({"name": "marking", "type": "text", "entities": "all", "choices": ["White", "yellow", "wide"]})");
+        choose({"marking"});
+        const QStringList edits[] = {{"^", ""},       {"v", "White"},  {"WHITE", "WHITE"}, {"w", "w"},
+                                     {"wv", "White"}, {"Wvv", "wide"}, {"*", "wide"},      {"<", ""}};
+        for (const QStringList &edit : edits) {
+            press(Qt::Key_F2);
+            for (const QChar key : edit[0]) {
+                if (key == '*')
+                    clickChoice("wi", "wide");
+                else if (key == 'v' || key == '^')
+                    press(key == 'v' ? Qt::Key_Down : Qt::Key_Up);
+                else if (key == '<')
+                    press(Qt::Key_Delete);
+                else
+                    type(key);
+            }
+            press(Qt::Key_Return);
+            QCOMPARE(results(), QStringList(edit[1]));
+            QVERIFY(!dialog->findChild<QListWidget *>("textChoices") ||
+                    !dialog->findChild<QListWidget *>("textChoices")->isVisible());
+        }
+    }
+
+    void focusGoesFromEditorToTable()
+    {
+        choose({"note", "width", "depth", "finish"});
+        for (const char *attribute : {"note", "width", "depth", "finish"}) {
+            for (int key : {Qt::Key_Return, Qt::Key_Escape}) {
+                click(chosenList, attribute);
+                press(Qt::Key_F2);
+                QList<QWidget *> visited;
+                const auto watch = connect(qApp, &QApplication::focusChanged, this,
+                                           [&](QWidget *, QWidget *now) { visited << now; });
+                press(key);
+                disconnect(watch);
+                QCOMPARE(visited, QList<QWidget *>{chosenList});
+            }
+        }
+    }
+
     void bothDecimalSigns_data() { addWays({"C", "de_DE", "fr_FR"}); }
     void bothDecimalSigns()
     {
@@ -90,6 +243,36 @@ private Q_SLOTS:
             press(key, Qt::KeypadModifier);
         press(Qt::Key_Return);
         QCOMPARE(resultOf("depth"), pick("4.200 <= depth <= 2000.000", "4.200"));
+    }
+
+private:
+    /// Another dialog, over these attributes.
+    void loadDictionary(const QByteArray &attributes)
+    {
+        QString error;
+        QVERIFY2(dml::loadJson(R"({"dictionaries": [{"id": 7, "attributes": [)" + attributes + "]}]}", "here",
+                               &error),
+                 qPrintable(error));
+        QVERIFY(open(7));
+    }
+
+    /// A chosen row of this attribute, with this value in the dialog of values.
+    void handInValue(const QString &attribute, const QVariant &value)
+    {
+        const std::unique_ptr<QTableWidgetItem> item(dialog->findItemByAttrName(attribute)->clone());
+        if (!inFilter())
+            dynamic_cast<DmlAttrLWI &>(*item).setAttrValue(value);
+        QVERIFY(tvx::addChosen(*dialog, *item));
+    }
+
+    void clickChoice(const char *typed, const char *choice) const
+    {
+        type(typed);
+        auto *list = dialog->findChild<QListWidget *>("textChoices");
+        QVERIFY(list && list->isVisible());
+        QCOMPARE(list->count(), 1);
+        clickAt(list->viewport(),
+                list->visualItemRect(list->findItems(choice, Qt::MatchExactly).first()).center());
     }
 };
 

@@ -1,6 +1,11 @@
 #include "dialog_test.h"
 
+#include "dml/dml_control.h"
+#include "gen/gen_control.h"
+
 #include <QScrollBar>
+
+using namespace Zudunmaf;
 
 class PaintCounter : public QObject
 {
@@ -152,6 +157,35 @@ private Q_SLOTS:
         topView->selectAll();
         click(addButton);
         QVERIFY2(saysMore(topView), "nothing is left");
+    }
+
+    void currentRowIsThereForASubclass()
+    {
+        setFilter("pad_2");
+        QCOMPARE(currentAfterPass, QString("pad_20"));
+        setFilter("nothing has this");
+        QCOMPARE(currentAfterPass, QString());
+    }
+
+    void failedFillIsMadeGood_data() { addWays({"configuration", "dictionary"}); }
+    void failedFillIsMadeGood()
+    {
+        gen::setConfigurationFile(way() == "configuration" ? "missing.ini" : "");
+        QVERIFY(open(way() == "configuration" ? 0 : 7));
+        QCOMPARE(topView->rowCount(), 0);
+        QCOMPARE(topView->accessibleDescription(),
+                 QString("The attributes could not be read, or there is no such dictionary."));
+        type("x");
+        QCOMPARE(topView->rowCount(), 0);
+        gen::setConfigurationFile("");
+        QVERIFY(dml::loadJson(R"({"dictionaries": [{"id": 7, "attributes": [{"name": "axis", "group": "Tools",
+                "type": "boolean", "entities": "all", "default": true}]}]})",
+                              "here"));
+        entityList->setCurrentIndex(0);
+        press(Qt::Key_Backspace);
+        QCOMPARE(entityList->currentIndex(), 0);
+        QCOMPARE(visibleNames(topView).first(), QString(way() == "configuration" ? "plated" : "axis"));
+        QVERIFY(groupList->findText(way() == "configuration" ? "Holes" : "Tools") > 0);
     }
 
     void matchesAreMarked_data() { addWays({"AD_11", "p*?1", "pad_[12]1", "**"}); }

@@ -77,8 +77,12 @@ private Q_SLOTS:
         press(Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(results().join(';'), pick("5 <= width <= 100;8 <= width <= 100", "8"));
         dialog->setDisplayUnits(1);
+        chosenList->clearSelection();
+        events.clear();
         doubleClick(topView, "width");
+        QCOMPARE(events, inFilter() ? QStringList("+width") : QStringList());
         QCOMPARE(chosenList->rowCount(), inFilter() ? 3 : 1);
+        QCOMPARE(selectedNames(chosenList), QStringList("width"));
         afterAdding = [this] { dialog->setDisplayUnits(0); };
         events.clear();
         topView->selectAll();

@@ -1,10 +1,12 @@
 // Works both dialogs over the stand-ins by the events on the standard input, each a line of three numbers: what is done,
 // and two numbers from which follows where. Looks after each whether all that must always hold still does, and ends
 // with status 1 where it does not. The same lines do the same in every process. monkey.py writes them.
+#include "commit_watch.h"
 #include "dml/dml_control.h"
 #include "gdm/gdm_qt.h"
 #include "gen/gen_control.h"
 #include "tvx/tvx_control.h"
+#include "value_watch.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -48,6 +50,7 @@ public:
             (void)QTest::qWaitForWindowActive(m_dialog.get());
         }
         m_filtered = false;
+        m_values.begin(m_dialog.get());
         if (kind < 50)
             press(a % 12, b);
         else if (kind < 84)
@@ -74,7 +77,7 @@ public:
     /// Tells in one line what does not hold; empty where all does.
     QString fault() const
     {
-        QString fault = s_warning;
+        QString fault = s_warning.isEmpty() ? m_values.fault(m_dialog.get()) : s_warning;
         QSet<const void *> records;
         for (int cell = 0; fault.isEmpty() && cell < 2 * (rowsOf(0) + rowsOf(1)); ++cell) {
             const bool chosen = cell / 2 >= rowsOf(0);
@@ -108,6 +111,7 @@ private:
         m_dialog.reset(new AttributesFilterDialog(dictionary));
         if (number % 2)
             m_dialog.reset(new FeatureAttributesDialog(dictionary));
+        m_values.attach(m_dialog.get());
         QObject::connect(m_dialog->findChild<QMenu *>(), &QMenu::triggered, &m_popupTimer, [this] {
             if (m_popupChoice % 5)
                 return;
@@ -262,6 +266,7 @@ private:
         return QString();
     }
 
+    ValueWatch m_values;
     std::unique_ptr<TvxAttributesSelectionDialog> m_dialog, m_beside, m_done;
     bool m_filtered = false;
     QTimer m_popupTimer;

@@ -1,0 +1,46 @@
+#ifndef TESTS_SUPPORT_COMMIT_WATCH_H
+#define TESTS_SUPPORT_COMMIT_WATCH_H
+
+#include <QStyledItemDelegate>
+
+#include <functional>
+#include <utility>
+
+/// A delegate that forwards to another one, and reports each commit before it takes effect.
+class CommitWatch : public QStyledItemDelegate
+{
+public:
+    using Report = std::function<void(QWidget *editor, const QModelIndex &index)>;
+
+    /// `inner` becomes the parent.
+    CommitWatch(QAbstractItemDelegate *inner, Report report)
+        : QStyledItemDelegate(inner)
+        , m_inner(inner)
+        , m_report(std::move(report))
+    {
+    }
+    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                          const QModelIndex &index) const override
+    {
+        return m_inner->createEditor(parent, option, index);
+    }
+    void setEditorData(QWidget *editor, const QModelIndex &index) const override
+    {
+        m_inner->setEditorData(editor, index);
+    }
+    void setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const override
+    {
+        m_report(editor, index);
+        m_inner->setModelData(editor, model, index);
+    }
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        return m_inner->sizeHint(option, index);
+    }
+
+private:
+    QAbstractItemDelegate *m_inner;
+    Report m_report;
+};
+
+#endif
