@@ -91,6 +91,9 @@ public:
                 addInAnyCase(name, code);
             }
         }
+        // Last: a unit's own text wins over every spelling.
+        for (int code = 0; code < unitCount(); ++code)
+            m_asWritten.insert(QString::fromLatin1(units[code].text), code);
     }
 
     int codeOf(const QString &name) const

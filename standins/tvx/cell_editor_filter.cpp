@@ -14,8 +14,21 @@ namespace Zudunmaf
 namespace tvx
 {
 
+namespace
+{
+
+/// True for a spin box that would replace its text by its last value before a step, or when it loses the focus.
+bool holdsRefusedText(const QWidget *widget)
+{
+    const auto *box = qobject_cast<const QAbstractSpinBox *>(widget);
+    return box && NumberEntry(*box).state() != NumberEntry::Accepted;
+}
+
+} // namespace
+
 CellEditorFilter::CellEditorFilter(QWidget *editor, const QString &name)
     : QObject(editor)
+    , m_editor(editor)
 {
     // An editor that accepts the focus itself stands for all its widgets.
     auto candidates = editor->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
@@ -25,10 +38,15 @@ CellEditorFilter::CellEditorFilter(QWidget *editor, const QString &name)
         if (widget->focusPolicy() & Qt::TabFocus)
             m_widgets.append(widget);
     }
-    editor->installEventFilter(this);
+    install();
+    nameWidgets(editor, name);
+}
+
+void CellEditorFilter::install()
+{
+    m_editor->installEventFilter(this);
     for (QWidget *widget : std::as_const(m_widgets))
         widget->installEventFilter(this);
-    nameWidgets(editor, name);
 }
 
 /// A label before a widget is part of its name.
@@ -72,33 +90,47 @@ bool CellEditorFilter::eventFilter(QObject *watched, QEvent *event)
         return true;
     case QEvent::KeyPress:
         return filterKey(widget, static_cast<QKeyEvent *>(event));
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::ContextMenu:
+        // The arrows of a spin box, and its menu with steps. The text is a widget of its own.
+        return holdsRefusedText(widget);
     default:
         return QObject::eventFilter(watched, event);
     }
 }
 
-bool CellEditorFilter::filterKey(const QWidget *widget, const QKeyEvent *event)
+bool CellEditorFilter::filterKey(QWidget *widget, const QKeyEvent *event)
 {
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
+        if (widget->inherits("QTextEdit") || widget->inherits("QPlainTextEdit"))
+            return false;
         // Held down, the key that opened the editor would store what it shows.
         if (!event->isAutoRepeat())
             Q_EMIT entered();
         return true;
     case Qt::Key_Tab:
-        if (widget != m_widgets.value(m_widgets.size() - 1))
-            return false;
-        Q_EMIT left();
-        return true;
+        return leaveBy(m_widgets.value(m_widgets.size() - 1), widget);
     case Qt::Key_Backtab:
-        if (widget != m_widgets.value(0))
-            return false;
-        Q_EMIT left();
-        return true;
+        return leaveBy(m_widgets.value(0), widget);
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        return holdsRefusedText(widget);
     default:
         return false;
     }
+}
+
+bool CellEditorFilter::leaveBy(const QWidget *last, const QWidget *widget)
+{
+    if (widget != last)
+        return false;
+    Q_EMIT left();
+    return true;
 }
 
 /// Delivers the event to the widget alone. A spin box that loses the focus or is hidden replaces a text that it refuses by
@@ -106,8 +138,7 @@ bool CellEditorFilter::filterKey(const QWidget *widget, const QKeyEvent *event)
 void CellEditorFilter::deliverKeepingText(QWidget *widget, QEvent *event)
 {
     const auto *box = qobject_cast<const QAbstractSpinBox *>(widget);
-    QLineEdit *line =
-        box && NumberEntry(*box).state() != NumberEntry::Accepted ? NumberEntry::lineOf(*box) : nullptr;
+    QLineEdit *line = holdsRefusedText(widget) ? NumberEntry::lineOf(*box) : nullptr;
     const QString typed = line ? line->text() : QString();
     static_cast<QObject *>(widget)->event(event);
     if (line)

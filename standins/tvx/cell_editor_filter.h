@@ -25,6 +25,8 @@ public:
     /// `name` is the attribute that is edited.
     CellEditorFilter(QWidget *editor, const QString &name);
 
+    /// Puts this filter before all others of the editor. The view puts the delegate's first with each commit.
+    void install();
     /// Gives the focus to the first widget of the editor that accepts it.
     void focusFirst();
 
@@ -39,9 +41,11 @@ protected:
 
 private:
     void nameWidgets(QWidget *editor, const QString &name);
-    bool filterKey(const QWidget *widget, const QKeyEvent *event);
+    bool filterKey(QWidget *widget, const QKeyEvent *event);
+    bool leaveBy(const QWidget *last, const QWidget *widget);
     static void deliverKeepingText(QWidget *widget, QEvent *event);
 
+    QWidget *m_editor;
     /// The widgets that Tab reaches, in tab order.
     QVector<QWidget *> m_widgets;
 };

@@ -135,6 +135,7 @@ bool ChosenTable::edit(const QModelIndex &index, EditTrigger trigger, QEvent *ev
         return false;
     if (indexWidget(value) && indexWidget(value) != m_editor) {
         m_editor = indexWidget(value);
+        m_editedIndex = value;
         prepareEditor(value.row());
     }
     return true;
@@ -144,19 +145,22 @@ void ChosenTable::prepareEditor(int row)
 {
     makeRoomFor(m_editor);
     forgetRefusal();
-    const auto boxes = m_editor->findChildren<QAbstractSpinBox *>();
-    for (QAbstractSpinBox *box : boxes)
-        NumberEntry::acceptEveryNumber(box);
+    m_isHiddenEdit = false;
+    auto boxes = m_editor->findChildren<QAbstractSpinBox *>();
     if (auto *box = qobject_cast<QAbstractSpinBox *>(m_editor.data()))
+        boxes.append(box);
+    for (QAbstractSpinBox *box : std::as_const(boxes))
         NumberEntry::acceptEveryNumber(box);
-    TextChoices::attach(m_editor, *rowItem(row));
+    if (const auto *choices = TextChoices::attach(m_editor, *rowItem(row)))
+        connect(this, &ChosenTable::editingEnded, choices, &QWidget::hide);
 
     m_content = new EditorContent(m_editor, *rowItem(row));
-    connect(m_content, &EditorContent::edited, this, &ChosenTable::showRefusal);
-    auto *filter = new CellEditorFilter(m_editor, item(row, NameColumn)->text());
-    connect(filter, &CellEditorFilter::entered, this, &ChosenTable::enterEditing);
-    connect(filter, &CellEditorFilter::left, this, &ChosenTable::finishEditing);
-    filter->focusFirst();
+    connect(m_content, &EditorContent::edited, this, &ChosenTable::noteEdit);
+    const QTableWidgetItem *name = item(row, NameColumn);
+    m_filter = new CellEditorFilter(m_editor, name ? name->text() : QString());
+    connect(m_filter, &CellEditorFilter::entered, this, &ChosenTable::enterEditing);
+    connect(m_filter, &CellEditorFilter::left, this, &ChosenTable::finishEditing);
+    m_filter->focusFirst();
     Q_EMIT editingStarted();
 }
 
@@ -169,22 +173,45 @@ void ChosenTable::makeRoomFor(const QWidget *editor)
 
 void ChosenTable::finishEditing()
 {
+    if (m_isHiddenEdit)
+        dropEditing();
+    else
+        finishAcceptedEditing();
+}
+
+void ChosenTable::finishAcceptedEditing()
+{
     const QPointer<QWidget> editor = m_editor;
     if (editor)
         commitData(editor);
-    if (editor)
+    // What is stored may make the host end the edit.
+    if (editor && editor == m_editor)
         closeEditor(editor, QAbstractItemDelegate::NoHint);
 }
 
 bool ChosenTable::tryFinishEditing()
 {
     if (isEntryRefused()) {
-        showRefusal();
+        showMessage(m_content->refusal());
         m_content->selectRefused();
         return false;
     }
     finishEditing();
     return true;
+}
+
+/// After a plain hide() nothing follows, and the edit is dropped; after accept(), accepted() in the same call.
+void ChosenTable::hideEvent(QHideEvent *event)
+{
+    AttributeTable::hideEvent(event);
+    if (event->spontaneous() || !m_editor)
+        return;
+    m_isHiddenEdit = true;
+    const auto drop = [this] {
+        if (m_isHiddenEdit)
+            dropEditing();
+    };
+    QMetaObject::invokeMethod(this, drop, Qt::QueuedConnection);
 }
 
 void ChosenTable::enterEditing()
@@ -205,14 +232,51 @@ bool ChosenTable::isEntryRefused() const
     return m_content && m_content->isRefused();
 }
 
-void ChosenTable::showRefusal()
+void ChosenTable::noteEdit()
 {
     if (!m_editor)
         return;
+    // A sign alone is refused only when it is entered.
+    showMessage(m_content->isUnfinished() ? QString() : m_content->refusal());
+    Q_EMIT editorChanged();
+}
+
+void ChosenTable::showMessage(const QString &message)
+{
     if (!m_note)
         m_note = new EditorNote(window());
-    m_note->showMessage(m_content->refusal(), *m_editor);
-    Q_EMIT editorChanged();
+    m_note->showMessage(message, *m_editor);
+    m_content->describeRefused(message);
+}
+
+void ChosenTable::rememberRefusal()
+{
+    m_lastRefusal = textOf(texts::NotStored)
+                        .arg(m_editor->accessibleName(), m_content->refusedText(), m_content->refusal());
+    m_isRefusalNew = true;
+    QMetaObject::invokeMethod(
+        this, [this] { m_isRefusalNew = false; }, Qt::QueuedConnection);
+}
+
+void ChosenTable::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    if (!m_isRefusalNew)
+        forgetRefusal();
+    AttributeTable::currentChanged(current, previous);
+}
+
+/// The view loads an open editor again from an item that has changed. What the user has entered stays.
+void ChosenTable::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                              const QVector<int> &roles)
+{
+    const bool isEdited = m_editor && topLeft == m_editedIndex;
+    if (isEdited && m_content->isChanged()) {
+        viewport()->update();
+        return;
+    }
+    AttributeTable::dataChanged(topLeft, bottomRight, roles);
+    if (isEdited)
+        m_content->restart(*itemFromIndex(topLeft));
 }
 
 void ChosenTable::commitData(QWidget *editor)
@@ -220,15 +284,18 @@ void ChosenTable::commitData(QWidget *editor)
     if (!editor || editor != m_editor)
         return;
     if (isEntryRefused()) {
-        m_lastRefusal = textOf(texts::NotStored)
-                            .arg(editor->accessibleName(), m_content->refusedText(), m_content->refusal());
+        rememberRefusal();
         return;
     }
     m_content->interpret();
     if (!m_content->isChanged())
         return;
     AttributeTable::commitData(editor);
-    m_content->remember();
+    const QTableWidgetItem *value = editor == m_editor ? itemFromIndex(m_editedIndex) : nullptr;
+    if (!value)
+        return;
+    m_content->restart(*value);
+    m_filter->install();
 }
 
 void ChosenTable::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
@@ -239,12 +306,11 @@ void ChosenTable::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHin
         const bool hadFocus = focus == editor || editor->isAncestorOf(focus);
         m_editor = nullptr;
         m_content = nullptr;
+        m_filter = nullptr;
         if (m_note)
             m_note->hide();
         setEditorWidth(0);
-        // Before the editor is hidden: Qt would give the focus to the first widget of the dialog in between. Since its
-        // commit, the delegate is the first to filter the editor's events, and would close it a second time.
-        editor->removeEventFilter(itemDelegate());
+        // Before the editor is hidden: Qt would give the focus to the first widget of the dialog in between.
         if (hadFocus)
             setFocus();
     }

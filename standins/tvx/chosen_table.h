@@ -3,6 +3,7 @@
 
 #include "tvx/attribute_table.h"
 
+#include <QPersistentModelIndex>
 #include <QPointer>
 
 #include <memory>
@@ -13,6 +14,7 @@ namespace Zudunmaf
 namespace tvx
 {
 
+class CellEditorFilter;
 class EditorContent;
 class EditorNote;
 
@@ -51,8 +53,11 @@ public:
     /// The open editor; null if there is none.
     QWidget *openEditor() const { return m_editor; }
     /// Closes an open editor and stores what the user has changed. A refused entry leaves the row as it was, and
-    /// lastRefusal() says so. Does nothing if no editor is open.
+    /// lastRefusal() says so. Does nothing if no editor is open; drops the edit if the table has been hidden since it
+    /// began.
     void finishEditing();
+    /// The same for a dialog that is accepted, which hides before it says so.
+    void finishAcceptedEditing();
     /// The same, but with a refused entry the editor stays open, its entry selected; false then.
     bool tryFinishEditing();
     /// Closes an open editor and leaves the row as it was.
@@ -60,7 +65,7 @@ public:
 
     /// True while an editor is open on an entry that the limits refuse.
     bool isEntryRefused() const;
-    /// What became of the last refused entry, as a sentence for the user; empty if it is of no concern any more.
+    /// What became of the last refused entry, as a sentence for the user; empty once the user has gone on to another row.
     QString lastRefusal() const { return m_lastRefusal; }
     void forgetRefusal() { m_lastRefusal.clear(); }
 
@@ -76,26 +81,37 @@ Q_SIGNALS:
 
 protected:
     bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
+    void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                     const QVector<int> &roles = QVector<int>()) override;
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void commitData(QWidget *editor) override;
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
     void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private:
     void putBehind(std::vector<Row> rows);
     void prepareEditor(int row);
     void makeRoomFor(const QWidget *editor);
     void enterEditing();
-    void showRefusal();
+    void noteEdit();
+    void showMessage(const QString &message);
+    void rememberRefusal();
     void requestMenuAtCurrentRow();
     void requestMenu(int row, const QPoint &globalPosition);
     void followFocus(const QWidget *old, const QWidget *now);
 
     QPointer<QWidget> m_editor;
+    QPersistentModelIndex m_editedIndex;
     /// Of the open editor, which owns it.
     QPointer<EditorContent> m_content;
-    EditorNote *m_note = nullptr;
+    QPointer<CellEditorFilter> m_filter;
+    QPointer<EditorNote> m_note;
     QString m_lastRefusal;
+    /// The refusal belongs to the event that is being delivered, which may change the current row too.
+    bool m_isRefusalNew = false;
+    bool m_isHiddenEdit = false;
 };
 
 } // namespace tvx

@@ -136,7 +136,7 @@ QString DialogStatus::offerText() const
 {
     if (m_choice.dictionary() < 0)
         return textOf(texts::NoDictionary);
-    if (m_choice.isFillMissing())
+    if (m_choice.isFillMissing() && m_widgets.topView->rowCount() == 0)
         return textOf(texts::NotRead);
     return textOf(m_choice.isNarrowed() ? texts::NothingMatches : texts::NothingLeft);
 }

@@ -6,13 +6,11 @@
 #include "tvx/number_entry.h"
 
 #include <QAbstractSpinBox>
-#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMetaProperty>
 #include <QTableWidgetItem>
 
-#include <algorithm>
-#include <iterator>
 #include <utility>
 
 namespace Zudunmaf
@@ -23,13 +21,19 @@ namespace tvx
 namespace
 {
 
-bool holdsContent(const QWidget *widget)
+/// The widgets with a content of their own: a user property in the sense of Qt. Those within such a widget belong to it.
+QVector<QWidget *> partsOf(QWidget *widget)
 {
-    return qobject_cast<const QLineEdit *>(widget) || qobject_cast<const QComboBox *>(widget) ||
-           qobject_cast<const QAbstractSpinBox *>(widget);
+    if (widget->metaObject()->userProperty().isValid())
+        return {widget};
+    QVector<QWidget *> parts;
+    const auto children = widget->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget *child : children)
+        parts += partsOf(child);
+    return parts;
 }
 
-/// The line of a widget that can be typed into; null where it has none.
+/// The line of a widget that can be typed into; null if it has none.
 QLineEdit *lineOf(QWidget *part)
 {
     if (const auto *box = qobject_cast<const QAbstractSpinBox *>(part))
@@ -45,8 +49,7 @@ QString textOf(const QWidget *part)
         return box->text();
     if (const auto *box = qobject_cast<const QComboBox *>(part))
         return box->currentText();
-    const auto *line = qobject_cast<const QLineEdit *>(part);
-    return line ? line->text() : QString();
+    return part->metaObject()->userProperty().read(part).toString();
 }
 
 bool isCondition(const QTableWidgetItem &item)
@@ -70,18 +73,20 @@ QString unitsOf(const QTableWidgetItem &item)
 
 EditorContent::EditorContent(QWidget *editor, const QTableWidgetItem &item)
     : QObject(editor)
+    , m_parts(partsOf(editor))
     , m_units(unitsOf(item))
-    , m_isUnset(isCondition(item) && !item.data(DmlAttrValueRole).isValid())
 {
-    if (holdsContent(editor)) {
-        m_parts.append(editor);
-    } else {
-        const auto children = editor->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
-        std::copy_if(children.begin(), children.end(), std::back_inserter(m_parts), holdsContent);
-    }
-    m_atOpening = content();
-    m_showsValue = showsValueOf(item);
+    restart(item);
     connectParts();
+}
+
+void EditorContent::restart(const QTableWidgetItem &item)
+{
+    m_loaded = content();
+    m_isUnset = isCondition(item) && !item.data(DmlAttrValueRole).isValid();
+    m_showsValue = showsValueOf(item);
+    m_isTouched = false;
+    m_isConfirmed = false;
 }
 
 void EditorContent::connectParts()
@@ -105,12 +110,20 @@ void EditorContent::noteEdit()
     Q_EMIT edited();
 }
 
+QStringList EditorContent::texts() const
+{
+    QStringList texts;
+    texts.reserve(m_parts.size());
+    for (const QWidget *part : m_parts)
+        texts.append(textOf(part));
+    return texts;
+}
+
 QStringList EditorContent::content() const
 {
-    QStringList content;
+    QStringList content = texts();
+    // Entries of a list may read alike.
     for (const QWidget *part : m_parts) {
-        content.append(textOf(part));
-        // Entries of a list may read alike.
         const auto *box = qobject_cast<const QComboBox *>(part);
         if (box && !box->isEditable())
             content.append(QString::number(box->currentIndex()));
@@ -122,22 +135,19 @@ QStringList EditorContent::content() const
 bool EditorContent::showsValueOf(const QTableWidgetItem &item) const
 {
     const QString cell = item.text();
-    QStringList texts;
-    for (const QWidget *part : m_parts)
-        texts.append(textOf(part));
-    const QString shown = texts.join(QLatin1String(" to "));
+    const QString shown = texts().join(QLatin1String(" to "));
     const bool isNumber = m_parts.size() == 1 && qobject_cast<const QAbstractSpinBox *>(m_parts.first());
     return cell == shown || (isNumber && cell.startsWith(shown + QLatin1Char(' ')));
 }
 
 bool EditorContent::isChanged() const
 {
-    return m_isConfirmed || content() != m_atOpening || (m_isTouched && !m_showsValue);
+    return m_parts.isEmpty() || m_isConfirmed || content() != m_loaded || (m_isTouched && !m_showsValue);
 }
 
 const QAbstractSpinBox *EditorContent::refusedBox() const
 {
-    if (content() == m_atOpening)
+    if (content() == m_loaded)
         return nullptr;
     const QAbstractSpinBox *refused = nullptr;
     for (const QWidget *part : m_parts) {
@@ -146,6 +156,12 @@ const QAbstractSpinBox *EditorContent::refusedBox() const
             refused = box;
     }
     return refused;
+}
+
+bool EditorContent::isUnfinished() const
+{
+    const QAbstractSpinBox *box = refusedBox();
+    return box && NumberEntry(*box).state() == NumberEntry::Unfinished;
 }
 
 QString EditorContent::refusal() const
@@ -171,6 +187,16 @@ void EditorContent::selectRefused() const
     }
 }
 
+void EditorContent::describeRefused(const QString &message) const
+{
+    const QWidget *refused = refusedBox();
+    for (QWidget *part : m_parts) {
+        const QString description = part == refused ? message : QString();
+        if (part->accessibleDescription() != description)
+            part->setAccessibleDescription(description);
+    }
+}
+
 void EditorContent::interpret() const
 {
     for (QWidget *part : m_parts) {
@@ -181,16 +207,7 @@ void EditorContent::interpret() const
 
 void EditorContent::confirm()
 {
-    m_isConfirmed = m_isUnset && !m_atOpening.join(QString()).isEmpty();
-}
-
-void EditorContent::remember()
-{
-    m_isUnset = false;
-    m_atOpening = content();
-    m_showsValue = true;
-    m_isTouched = false;
-    m_isConfirmed = false;
+    m_isConfirmed = m_isUnset && !texts().join(QString()).isEmpty();
 }
 
 } // namespace tvx

@@ -14,13 +14,13 @@ namespace Zudunmaf
 namespace tvx
 {
 
-/// What an open cell editor holds, compared with what it held when it was opened. The delegate stores whatever an
-/// editor shows; this class tells whether the user has changed it, and whether it is a number that the limits refuse.
-/// A child of the editor.
+/// What an open cell editor holds, compared with what it held when it was loaded. The delegate stores whatever an editor
+/// shows; this class says whether the user has changed it, and whether it is a number that the limits refuse. A child
+/// of the editor.
 ///
-/// Content that is changed and changed back counts as unchanged. But where the editor showed something else than the
-/// item's value when it opened, as a number outside the limits or the first entry of an option without a value, to pick
-/// or type just that is a change.
+/// Content that is changed and changed back counts as unchanged. But if the editor did not show the item's value when it
+/// was loaded, such as for a number outside the limits or an option without a value, entering just what it showed is a
+/// change. An editor without any content that can be read always counts as changed.
 class EditorContent : public QObject
 {
     Q_OBJECT
@@ -29,23 +29,27 @@ public:
     /// `editor` has been loaded from `item`, the value item of its row.
     EditorContent(QWidget *editor, const QTableWidgetItem &item);
 
+    /// Takes the present content as the unchanged one: the editor has been loaded again, or its content stored.
+    void restart(const QTableWidgetItem &item);
+
     bool isChanged() const;
     /// True for an entry that must not be stored.
     bool isRefused() const { return refusedBox() != nullptr; }
-    /// Why the entry is refused, as a sentence with the limit and its units; empty where it is not.
+    /// True if the refused entry may become a number as the user types on.
+    bool isUnfinished() const;
+    /// Why the entry is refused, as a sentence with the limit and its units; empty if it is not.
     QString refusal() const;
-    /// The text of the refused entry; empty where none is refused.
+    /// The text of the refused entry; empty if none is refused.
     QString refusedText() const;
     /// Gives the focus to the box with the refused entry and selects it.
     void selectRefused() const;
+    /// Makes `message` the accessible description of the box with the refused entry, and clears that of the others.
+    void describeRefused(const QString &message) const;
 
-    /// Has the spin boxes read their texts. Not for a refused entry, which they would replace.
+    /// Makes the spin boxes read their texts. Not for a refused entry, which they would replace.
     void interpret() const;
-    /// Enter was pressed: what the editor shows counts as entered where the item is a condition that is not set. An empty
-    /// text does not.
+    /// Counts what the editor shows as entered if the item is a condition that is not set. An empty text does not count.
     void confirm();
-    /// Takes the present content, which has just been stored, as the unchanged one.
-    void remember();
 
 Q_SIGNALS:
     /// Emitted at each change of the content, by the user or by the program.
@@ -54,14 +58,16 @@ Q_SIGNALS:
 private:
     void connectParts();
     void noteEdit();
+    QStringList texts() const;
     QStringList content() const;
     bool showsValueOf(const QTableWidgetItem &item) const;
     const QAbstractSpinBox *refusedBox() const;
 
+    /// The widgets that hold the content.
     QVector<QWidget *> m_parts;
-    QStringList m_atOpening;
+    QStringList m_loaded;
     QString m_units;
-    bool m_isUnset;
+    bool m_isUnset = false;
     bool m_showsValue = true;
     bool m_isTouched = false;
     bool m_isConfirmed = false;

@@ -1,7 +1,6 @@
 #include "tvx/editor_note.h"
 
 #include <QAccessible>
-#include <QApplication>
 #include <QToolTip>
 
 #include <algorithm>
@@ -43,17 +42,16 @@ EditorNote::EditorNote(QWidget *window)
 
 void EditorNote::showMessage(const QString &message, const QWidget &editor)
 {
+    const bool isNew = message != text();
     setText(message);
-    if (QWidget *focus = QApplication::focusWidget();
-        focus && (focus == &editor || editor.isAncestorOf(focus)))
-        focus->setAccessibleDescription(message);
-    if (message.isEmpty()) {
-        hide();
+    setHidden(message.isEmpty());
+    if (message.isEmpty())
         return;
-    }
     showBesideEditor(this, editor);
-    QAccessibleEvent alert(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    if (isNew) {
+        QAccessibleEvent alert(this, QAccessible::Alert);
+        QAccessible::updateAccessibility(&alert);
+    }
 }
 
 } // namespace tvx

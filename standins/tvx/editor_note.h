@@ -20,8 +20,7 @@ class EditorNote : public QLabel
 public:
     explicit EditorNote(QWidget *window);
 
-    /// Shows the message and announces it to a screen reader, as the description of the widget that has the focus.
-    /// Hides the note for an empty message.
+    /// Shows the message beside the editor and alerts a screen reader to a new one. Hides the note for an empty message.
     void showMessage(const QString &message, const QWidget &editor);
 };
 

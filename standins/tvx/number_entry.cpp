@@ -4,9 +4,12 @@
 
 #include <QDoubleSpinBox>
 #include <QLineEdit>
+#include <QLocale>
 #include <QRegularExpression>
 #include <QSpinBox>
 #include <QValidator>
+
+#include <utility>
 
 namespace Zudunmaf
 {
@@ -16,10 +19,23 @@ namespace tvx
 namespace
 {
 
+bool holdsNumber(const QAbstractSpinBox &box)
+{
+    return qobject_cast<const QSpinBox *>(&box) || qobject_cast<const QDoubleSpinBox *>(&box);
+}
+
 int decimalsOf(const QAbstractSpinBox &box)
 {
     const auto *decimal = qobject_cast<const QDoubleSpinBox *>(&box);
     return decimal ? decimal->decimals() : 0;
+}
+
+std::pair<double, double> limitsOf(const QAbstractSpinBox &box)
+{
+    if (const auto *whole = qobject_cast<const QSpinBox *>(&box))
+        return {whole->minimum(), whole->maximum()};
+    const auto *decimal = qobject_cast<const QDoubleSpinBox *>(&box);
+    return decimal ? std::make_pair(decimal->minimum(), decimal->maximum()) : std::make_pair(0.0, 0.0);
 }
 
 /// Accepts what the box accepts, and holds every other number as one that is not finished. A fraction is a number for
@@ -30,13 +46,14 @@ public:
     explicit EveryNumberValidator(QAbstractSpinBox *box)
         : QValidator(box)
         , m_box(box)
-        , m_number(QStringLiteral("^\\s*[+-]?\\d*(\\.\\d{0,%1})?\\s*$").arg(qMax(1, decimalsOf(*box))))
+        , m_number(QStringLiteral("^\\s*[+-]?\\d*([.,]\\d*)?\\s*$"))
     {
     }
 
     State validate(QString &input, int &position) const override
     {
-        input.replace(QLatin1Char(','), QLatin1Char('.'));
+        const QString point(m_box->locale().decimalPoint());
+        input.replace(QLatin1Char(point == QLatin1String(".") ? ',' : '.'), point);
         const State state = m_box->validate(input, position);
         return state == Invalid && m_number.match(input).hasMatch() ? Intermediate : state;
     }
@@ -55,7 +72,8 @@ NumberEntry::NumberEntry(const QAbstractSpinBox &box)
 
 void NumberEntry::acceptEveryNumber(QAbstractSpinBox *box)
 {
-    lineOf(*box)->setValidator(new EveryNumberValidator(box));
+    if (holdsNumber(*box))
+        lineOf(*box)->setValidator(new EveryNumberValidator(box));
 }
 
 QLineEdit *NumberEntry::lineOf(const QAbstractSpinBox &box)
@@ -67,31 +85,31 @@ NumberEntry::State NumberEntry::state() const
 {
     QString text = m_box.text();
     int position = 0;
-    if (m_box.validate(text, position) == QValidator::Acceptable)
+    if (!holdsNumber(m_box) || m_box.validate(text, position) == QValidator::Acceptable)
         return Accepted;
     bool isNumber = false;
-    const double number = QLocale::c().toDouble(text.trimmed(), &isNumber);
-    if (isNumber && number < QLocale::c().toDouble(minimum()))
+    const double number = m_box.locale().toDouble(text.trimmed(), &isNumber);
+    if (!isNumber)
+        return Unfinished;
+    const auto limits = limitsOf(m_box);
+    if (number < limits.first)
         return TooLow;
-    if (isNumber && number > QLocale::c().toDouble(maximum()))
-        return TooHigh;
-    return NoNumber;
+    return number > limits.second ? TooHigh : TooPrecise;
 }
 
 QString NumberEntry::minimum() const
 {
-    if (const auto *box = qobject_cast<const QSpinBox *>(&m_box))
-        return QString::number(box->minimum());
-    const auto *box = qobject_cast<const QDoubleSpinBox *>(&m_box);
-    return box ? QString::number(box->minimum(), 'f', box->decimals()) : QString();
+    return written(limitsOf(m_box).first);
 }
 
 QString NumberEntry::maximum() const
 {
-    if (const auto *box = qobject_cast<const QSpinBox *>(&m_box))
-        return QString::number(box->maximum());
-    const auto *box = qobject_cast<const QDoubleSpinBox *>(&m_box);
-    return box ? QString::number(box->maximum(), 'f', box->decimals()) : QString();
+    return written(limitsOf(m_box).second);
+}
+
+QString NumberEntry::written(double number) const
+{
+    return QString::number(number, 'f', decimalsOf(m_box));
 }
 
 QString NumberEntry::refusal(const QString &units) const
@@ -99,14 +117,18 @@ QString NumberEntry::refusal(const QString &units) const
     const auto withUnits = [&units](const QString &number) {
         return units.isEmpty() ? number : number + QLatin1Char(' ') + units;
     };
+    const int decimals = decimalsOf(m_box);
     switch (state()) {
     case TooLow:
         return textOf(texts::AtLeast).arg(withUnits(minimum()));
     case TooHigh:
         return textOf(texts::AtMost).arg(withUnits(maximum()));
-    case NoNumber:
-        return textOf(decimalsOf(m_box) > 0 ? texts::NumberNeeded : texts::WholeNumberNeeded)
-            .arg(minimum(), withUnits(maximum()));
+    case TooPrecise:
+        if (decimals > 0)
+            return textOf(texts::MostDecimals).arg(decimals);
+        return textOf(texts::WholeNumberNeeded).arg(minimum(), withUnits(maximum()));
+    case Unfinished:
+        return textOf(texts::NumberNeeded).arg(minimum(), withUnits(maximum()));
     case Accepted:
         break;
     }

@@ -11,32 +11,40 @@ namespace Zudunmaf
 namespace tvx
 {
 
-/// The number that is being typed into a spin box: whether the box accepts it, and which limit it breaks.
-/// Refers to the box, which must outlive it.
+/// The number that is being typed into a QSpinBox or QDoubleSpinBox: whether the box accepts it, and which limit it
+/// breaks. Every text in a spin box of another class is accepted. Refers to the box, which must outlive it.
 ///
-/// A spin box of Qt drops each key that would lead beyond a limit, so that 150 becomes 15. After
-/// acceptEveryNumber() its text is what was typed, pasted or dropped, while its value stays the last one within
-/// the limits.
+/// A spin box of Qt drops each key that would lead beyond a limit, so that 150 becomes 15. After acceptEveryNumber() its
+/// text is what was typed or pasted, while its value stays the last one within the limits.
 class NumberEntry
 {
 public:
-    enum State { Accepted, TooLow, TooHigh, NoNumber };
+    enum State {
+        Accepted,
+        Unfinished, ///< no number yet, such as a sign alone
+        TooLow,
+        TooHigh,
+        TooPrecise ///< more decimals than the box has
+    };
 
     explicit NumberEntry(const QAbstractSpinBox &box);
 
-    /// Lets the user type any number, with a point or a comma as its decimal separator.
+    /// Lets the user type any number, with a point or a comma as its decimal separator. Does nothing to a spin box of
+    /// another class.
     static void acceptEveryNumber(QAbstractSpinBox *box);
     /// The line of text inside a spin box.
     static QLineEdit *lineOf(const QAbstractSpinBox &box);
 
     State state() const;
-    /// The limits as the box writes numbers.
+    /// The limits with the decimals of the box, as cells and lines write numbers.
     QString minimum() const;
     QString maximum() const;
     /// A sentence on why the entry is refused, with the limits in `units`; empty for an accepted entry.
     QString refusal(const QString &units) const;
 
 private:
+    QString written(double number) const;
+
     const QAbstractSpinBox &m_box;
 };
 

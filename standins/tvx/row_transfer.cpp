@@ -77,7 +77,7 @@ void RowTransfer::addSelected()
     Q_EMIT transferred();
 }
 
-/// What was refused before is of no concern to what the user does now.
+/// Also clears the message on an entry that was refused before.
 void RowTransfer::finishEditing()
 {
     m_chosen->forgetRefusal();

@@ -67,7 +67,7 @@ void SelectionController::connectButtons()
     connect(m_widgets.buttonBox, &QDialogButtonBox::accepted, this, &SelectionController::acceptDialog);
     connect(m_widgets.buttonBox, &QDialogButtonBox::rejected, this, &SelectionController::rejectDialog);
     // For a host that ends the dialog by its slots, and connects to these signals later.
-    connect(m_dialog, &QDialog::accepted, this, [this] { m_widgets.chosenList->finishEditing(); });
+    connect(m_dialog, &QDialog::accepted, this, [this] { m_widgets.chosenList->finishAcceptedEditing(); });
     connect(m_dialog, &QDialog::rejected, this, [this] { m_widgets.chosenList->dropEditing(); });
 }
 
@@ -117,18 +117,6 @@ void SelectionController::rejectDialog()
 {
     m_widgets.chosenList->dropEditing();
     m_dialog->reject();
-}
-
-/// QDialog hides before it says how it ends. Its accepted(), in the same call, stores what is open; after a plain hide()
-/// nothing follows.
-void SelectionController::dropEditingUnlessAccepted()
-{
-    const QPointer<QWidget> editor = m_widgets.chosenList->openEditor();
-    const auto drop = [this, editor] {
-        if (editor && editor == m_widgets.chosenList->openEditor())
-            m_widgets.chosenList->dropEditing();
-    };
-    QMetaObject::invokeMethod(this, drop, Qt::QueuedConnection);
 }
 
 void SelectionController::setDisplayUnits(int units)
@@ -187,7 +175,8 @@ void SelectionController::refill()
     const int entity = m_widgets.entityList->currentIndex();
     m_dialog->buildInitialLists();
     const QSignalBlocker blocker(m_widgets.entityList);
-    m_widgets.entityList->setCurrentIndex(entity);
+    if (entity >= 0 && entity < m_widgets.entityList->count())
+        m_widgets.entityList->setCurrentIndex(entity);
 }
 
 void SelectionController::setContextMenu(QMenu *menu)
@@ -244,8 +233,6 @@ bool SelectionController::eventFilter(QObject *watched, QEvent *event)
     }
     if (watched == m_dialog && event->type() == QEvent::Resize)
         m_widgets.fitToHeight();
-    if (watched == m_dialog && event->type() == QEvent::Hide && !event->spontaneous())
-        dropEditingUnlessAccepted();
     return QObject::eventFilter(watched, event);
 }
 

@@ -64,7 +64,6 @@ private:
     void connectShortcuts();
     void acceptDialog();
     void rejectDialog();
-    void dropEditingUnlessAccepted();
     void offerChanged();
     void refill();
     void fitNameWidth();

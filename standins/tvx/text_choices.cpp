@@ -31,12 +31,12 @@ void addChoices(QComboBox *box, const DmlAttrDef &definition)
 
 } // namespace
 
-void TextChoices::attach(QWidget *editor, const QTableWidgetItem &item)
+TextChoices *TextChoices::attach(QWidget *editor, const QTableWidgetItem &item)
 {
     auto *box = qobject_cast<QComboBox *>(editor);
     const auto *definition = static_cast<const DmlAttrDef *>(item.data(DmlAttrDefRole).value<void *>());
     if (!box || !definition || definition->type != DmlAttrText)
-        return;
+        return nullptr;
     if (box->count() == 0)
         addChoices(box, *definition);
     box->setEditable(true);
@@ -44,7 +44,7 @@ void TextChoices::attach(QWidget *editor, const QTableWidgetItem &item)
     box->setInsertPolicy(QComboBox::NoInsert);
     box->setCompleter(nullptr);
     box->lineEdit()->selectAll();
-    new TextChoices(box);
+    return new TextChoices(box);
 }
 
 TextChoices::TextChoices(QComboBox *box)
@@ -67,16 +67,24 @@ TextChoices::TextChoices(QComboBox *box)
 void TextChoices::offer(const QString &typed)
 {
     clear();
-    for (int index = 0; index < m_box->count() && !typed.isEmpty(); ++index) {
-        const QString choice = m_box->itemText(index);
-        const bool isNew = choice != typed && findItems(choice, Qt::MatchExactly).isEmpty();
-        if (isNew && choice.startsWith(typed, Qt::CaseInsensitive))
-            addItem(choice);
-    }
+    addItems(matches(typed));
     if (count() > 0)
         showBesideEditor(this, *m_box);
     else
         hide();
+}
+
+/// Each choice once, and not the text itself.
+QStringList TextChoices::matches(const QString &typed) const
+{
+    QStringList found;
+    for (int index = 0; index < m_box->count() && !typed.isEmpty(); ++index) {
+        const QString choice = m_box->itemText(index);
+        if (choice != typed && choice.startsWith(typed, Qt::CaseInsensitive))
+            found.append(choice);
+    }
+    found.removeDuplicates();
+    return found;
 }
 
 bool TextChoices::pick(int step)
@@ -89,8 +97,6 @@ bool TextChoices::pick(int step)
 
 bool TextChoices::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Hide || event->type() == QEvent::FocusOut)
-        hide();
     if (event->type() != QEvent::KeyPress || !isVisible())
         return QListWidget::eventFilter(watched, event);
     const auto *key = static_cast<QKeyEvent *>(event);

@@ -2,6 +2,7 @@
 #define TVX_TEXT_CHOICES_H
 
 #include <QListWidget>
+#include <QStringList>
 
 class QComboBox;
 class QTableWidgetItem;
@@ -24,8 +25,9 @@ public:
     /// Makes the editor of a text with choices one in which every text can be typed, and attaches such a list to it. Any
     /// other editor is left as it is. `item` is the value item of the row.
     ///
-    /// An item without a value leaves its editor empty; the choices are added here.
-    static void attach(QWidget *editor, const QTableWidgetItem &item);
+    /// An item without a value leaves its editor empty; the choices are added here. Returns the list, which the caller
+    /// hides when the edit ends; null for any other editor.
+    static TextChoices *attach(QWidget *editor, const QTableWidgetItem &item);
 
     QSize sizeHint() const override;
 
@@ -35,6 +37,7 @@ protected:
 private:
     explicit TextChoices(QComboBox *box);
     void offer(const QString &typed);
+    QStringList matches(const QString &typed) const;
     bool pick(int step);
 
     QComboBox *m_box;

@@ -29,7 +29,7 @@ TopTable::Pass::Pass(TopTable *table)
         return;
     m_table->setUpdatesEnabled(false);
     m_table->verticalHeader()->setUpdatesEnabled(false);
-    m_table->m_announcedCurrent = m_table->currentIndex();
+    m_table->rememberAnnounced();
 }
 
 TopTable::Pass::~Pass()
@@ -73,7 +73,7 @@ void TopTable::fill(const QList<QTableWidgetItem *> &items)
     setAutoScroll(!found);
     makeRowCurrent(found ? found->row() : 0);
     setAutoScroll(autoScroll);
-    m_announcedCurrent = currentIndex();
+    rememberAnnounced();
     if (found)
         verticalScrollBar()->setValue(scrolled);
 }
@@ -135,17 +135,28 @@ void TopTable::requestRow(int row)
     makeRowCurrent(row);
 }
 
-/// The view has not heard of what became current in the pass: goes back in silence to what it knows, and on from there.
+void TopTable::rememberAnnounced()
+{
+    m_announcedCurrent = currentIndex();
+    m_announcedSelection = selectionModel()->selection();
+}
+
+/// Restores without a signal what was current and selected before the pass, and then sets what is so now with signals.
 void TopTable::announceCurrentRow()
 {
-    const int row = currentRow();
-    if (currentIndex() == m_announcedCurrent)
+    const QModelIndex current = currentIndex();
+    const QItemSelection selection = selectionModel()->selection();
+    if (current == m_announcedCurrent && selection == m_announcedSelection)
         return;
+    const auto set = [this](const QModelIndex &index, const QItemSelection &rows) {
+        selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+        selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect);
+    };
     {
         const QSignalBlocker blocker(selectionModel());
-        makeRowCurrent(QModelIndex(m_announcedCurrent).row());
+        set(m_announcedCurrent, m_announcedSelection);
     }
-    makeRowCurrent(row);
+    set(current, selection);
 }
 
 QTableWidgetItem *TopTable::findByName(const QString &name)

@@ -4,6 +4,7 @@
 #include "tvx/attribute_table.h"
 
 #include <QHash>
+#include <QItemSelection>
 #include <QPersistentModelIndex>
 #include <QTimer>
 
@@ -71,6 +72,7 @@ private:
     void forgetRowNumbers();
     int firstVisibleRow();
     void requestRow(int row);
+    void rememberAnnounced();
     void announceCurrentRow();
 
     MatchHighlightDelegate *m_delegate;
@@ -86,8 +88,9 @@ private:
     int m_fills = 0;
     /// Waits for the event loop, so that many rows are announced at once.
     QTimer m_announcement;
-    /// The current index that the view and its listeners know of.
+    /// What the view and its listeners have been told is current and selected.
     QPersistentModelIndex m_announcedCurrent;
+    QItemSelection m_announcedSelection;
 };
 
 } // namespace tvx

@@ -54,6 +54,7 @@ constexpr char AtLeast[] = "@$@#tvx@$@#GENERAL@$@#40@$@#At least %1";
 constexpr char AtMost[] = "@$@#tvx@$@#GENERAL@$@#41@$@#At most %1";
 constexpr char NumberNeeded[] = "@$@#tvx@$@#GENERAL@$@#42@$@#A number from %1 to %2";
 constexpr char WholeNumberNeeded[] = "@$@#tvx@$@#GENERAL@$@#43@$@#A whole number from %1 to %2";
+constexpr char MostDecimals[] = "@$@#tvx@$@#GENERAL@$@#45@$@#At most %1 decimals";
 constexpr char NotStored[] = "@$@#tvx@$@#GENERAL@$@#44@$@#%1: \"%2\" was not stored. %3.";
 constexpr char TypeBoolean[] = "@$@#tvx@$@#GENERAL@$@#34@$@#boolean";
 constexpr char TypeText[] = "@$@#tvx@$@#GENERAL@$@#35@$@#text";

@@ -87,6 +87,7 @@ void DialogTest::init()
 void DialogTest::cleanup()
 {
     afterAdding = nullptr;
+    atCommit = nullptr;
     dialog.reset();
     dml::unloadAll();
     gen::setLanguage(QString());
@@ -128,8 +129,11 @@ void DialogTest::create(int did)
     static_cast<DialogUser &>(*this) = DialogUser(*dialog);
     if (!missing().isEmpty())
         qFatal("the dialog has no %s", qPrintable(missing()));
-    dialog->setItemDelegate(new CommitWatch(chosenList->itemDelegate(),
-                                            [](QWidget *, const QModelIndex &) { events << "commit"; }));
+    dialog->setItemDelegate(new CommitWatch(chosenList->itemDelegate(), [](QWidget *, const QModelIndex &) {
+        events << "commit";
+        if (atCommit)
+            atCommit();
+    }));
     connect(dialog.get(), &QDialog::accepted, this, [this] { events << "accepted"; });
     connect(dialog.get(), &QDialog::rejected, this, [this] { events << "rejected"; });
     auto *menu = dialog->findChild<QMenu *>(QString(), Qt::FindDirectChildrenOnly);

@@ -55,6 +55,8 @@ public:
     static inline QString currentAfterPass;
     /// Runs at the end of the add hook, until the test function ends.
     static inline std::function<void()> afterAdding;
+    /// Runs at the start of each commit, until the test function ends.
+    static inline std::function<void()> atCommit;
 
 private Q_SLOTS:
     void initTestCase_data();

@@ -5,10 +5,31 @@
 #include "tvx/tvx_control.h"
 
 #include <QAbstractSpinBox>
-#include <QClipboard>
+#include <QCheckBox>
 #include <QListWidget>
+#include <QStyledItemDelegate>
 
 using namespace Zudunmaf;
+
+/// Edits every cell with a check box, and counts the commits.
+class CheckBoxDelegate : public QStyledItemDelegate
+{
+public:
+    CheckBoxDelegate(QObject *parent, int *commits)
+        : QStyledItemDelegate(parent)
+        , m_commits(commits)
+    {
+    }
+    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &, const QModelIndex &) const override
+    {
+        return new QCheckBox(parent);
+    }
+    void setEditorData(QWidget *, const QModelIndex &) const override {}
+    void setModelData(QWidget *, QAbstractItemModel *, const QModelIndex &) const override { ++*m_commits; }
+
+private:
+    int *m_commits;
+};
 
 /// One cell editor: how it opens, what it takes, and what becomes of it when the user does something else.
 class OpenEditorTest : public DialogTest
@@ -43,40 +64,6 @@ private Q_SLOTS:
         QCOMPARE(resultOf("width"), pick("42 <= width <= 100", "42"));
         QVERIFY(chosenList->hasFocus() && dialog->isVisible());
         QCOMPARE(events.count("commit"), 1);
-    }
-
-    void rangeByKeyboard()
-    {
-        if (!inFilter())
-            QSKIP("values have one box");
-        choose({"note", "width", "depth"});
-        enter("width", "9\t5");
-        enter("depth", "2.25\t-1.5");
-        const QStringList lines = {"note", "5 <= width <= 9", "-1.500 <= depth <= 2.250"};
-        QCOMPARE(results(), lines);
-        for (const char *attribute : {"width", "depth"}) {
-            click(chosenList, attribute);
-            press(Qt::Key_F2);
-            const QPointer<QWidget> from = QApplication::focusWidget();
-            press(Qt::Key_Tab);
-            QVERIFY(from && !from->hasFocus() && editor()->isAncestorOf(QApplication::focusWidget()));
-            press(Qt::Key_Backtab, Qt::ShiftModifier);
-            QVERIFY(from && from->hasFocus());
-            type("1");
-            press(Qt::Key_Escape);
-            QVERIFY(!editor() && chosenList->hasFocus() && dialog->isVisible());
-            QCOMPARE(currentName(chosenList), QString(attribute));
-        }
-        QCOMPARE(results(), lines);
-        QCOMPARE(events.count("commit"), 2);
-    }
-
-    void deleteInsideDeletesText()
-    {
-        choose({"note"});
-        enter("note", "abc");
-        press({Qt::Key_F2, Qt::Key_Home, Qt::Key_Delete, Qt::Key_Return});
-        QCOMPARE(results(), QStringList(pick("note = bc", "bc")));
     }
 
     /// Neither the editor's three decimals nor its limits reach a value that nobody has changed.
@@ -131,27 +118,6 @@ private Q_SLOTS:
         QCOMPARE(results(), QStringList(pick("100 <= width <= 100", "100")));
     }
 
-    void refusedEntryStaysAsItCame_data() { addWays({"typed", "pasted"}); }
-    void refusedEntryStaysAsItCame()
-    {
-        choose({"depth"});
-        press(Qt::Key_F2);
-        auto *line = QApplication::focusWidget()->findChild<QLineEdit *>();
-        QGuiApplication::clipboard()->setText("99999999999");
-        if (way() == "typed")
-            type("99999999999");
-        else
-            press(Qt::Key_V, Qt::ControlModifier);
-        press(Qt::Key_Return);
-        QVERIFY(editor() && dialog->isVisible());
-        QCOMPARE(line->selectedText(), QString("99999999999"));
-        QCOMPARE(dialog->findChild<QLabel *>("editorNote")->text(), QString("At most 2000.000 mm"));
-        press(Qt::Key_Escape);
-        QVERIFY(!editor() && !dialog->findChild<QLabel *>("editorNote")->isVisible());
-        QCOMPARE(results(), QStringList(pick("depth", "0.500")));
-        QVERIFY(!events.contains("commit"));
-    }
-
     void refusedBoundOutlivesTheOtherOne()
     {
         if (!inFilter())
@@ -160,13 +126,95 @@ private Q_SLOTS:
         press(Qt::Key_F2);
         type("3000000000\t7");
         const auto boxes = editor()->findChildren<QAbstractSpinBox *>();
+        press(Qt::Key_Backtab, Qt::ShiftModifier);
+        QVERIFY(boxes[0]->hasFocus());
         QCOMPARE(boxes[0]->text(), QString("3000000000"));
-        press(Qt::Key_Return);
-        QVERIFY(editor() && boxes[0]->hasFocus());
+        QVERIFY(boxes[1]->accessibleDescription().isEmpty());
+        press({Qt::Key_Tab, Qt::Key_Return});
+        QVERIFY(editor());
+        QVERIFY(boxes[0]->hasFocus());
         type("3\t");
         press(Qt::Key_Return);
         QCOMPARE(results(), QStringList("3 <= %1 <= 7").replaceInStrings("%1", LongName));
         QCOMPARE(events.count("commit"), 1);
+    }
+
+    void unfinishedEntryIsRefusedAtTheEnd()
+    {
+        choose({"depth"});
+        press(Qt::Key_F2);
+        type("-");
+        const auto *note = dialog->findChild<QLabel *>("editorNote");
+        QVERIFY(!note->isVisible());
+        press(Qt::Key_Return);
+        QVERIFY(editor());
+        QVERIFY(note->isVisible());
+        QCOMPARE(note->text(), QString("A number from -100.000 to 2000.000 mm"));
+        press(Qt::Key_Escape);
+        QVERIFY(!note->isVisible());
+    }
+
+    void refusalIsToldUntilTheNextRow()
+    {
+        choose({"plated", "note", "width"});
+        click(chosenList, "width");
+        press(Qt::Key_F2);
+        type("500");
+        click(chosenList, "note");
+        QVERIFY(description->text().contains("At most 100"));
+        press(Qt::Key_Up);
+        QVERIFY(!description->text().contains("At most 100"));
+    }
+
+    void hostReactsToACommit_data() { addWays({"units", "reject"}); }
+    void hostReactsToACommit()
+    {
+        choose({"width"});
+        atCommit = [this] {
+            if (way() == "units")
+                dialog->setDisplayUnits(1);
+            else
+                dialog->reject();
+        };
+        enter("width", "55");
+        QVERIFY(!editor());
+        QCOMPARE(events.count("commit"), 1);
+        QCOMPARE(results(), QStringList(pick("55 <= width <= 100", "55")));
+    }
+
+    void hostChangesTheItemOfAnOpenEditor()
+    {
+        if (inFilter())
+            QSKIP("a condition is changed in its record");
+        choose({"depth"});
+        auto &item = dynamic_cast<DmlAttrLWI &>(*dialog->getChosenList().first());
+        press(Qt::Key_F2);
+        item.setAttrValue(12.34567);
+        item.setData(Qt::StatusTipRole, "new");
+        click(filterText);
+        QCOMPARE(item.attrValue().toDouble(), 12.34567);
+        click(chosenList, "depth");
+        press(Qt::Key_F2);
+        type("55");
+        item.setData(Qt::StatusTipRole, "newer");
+        press(Qt::Key_Return);
+        QCOMPARE(item.attrValue().toDouble(), 55.0);
+    }
+
+    void editorOfAForeignDelegate()
+    {
+        int commits = 0;
+        dialog->setItemDelegate(new CheckBoxDelegate(dialog.get(), &commits));
+        choose({"width"});
+        for (int changed : {0, 1}) {
+            click(chosenList, "width");
+            press(Qt::Key_F2);
+            if (changed)
+                press(Qt::Key_Space);
+            click(filterText);
+            QVERIFY(!editor());
+            QCOMPARE(commits, changed);
+        }
     }
 
     void limitsAreInTheUnitsOfTheEditor()
@@ -235,10 +283,7 @@ private Q_SLOTS:
             const QString number = QString::number(QString(keys).replace(',', '.').toDouble(), 'f', 3);
             QCOMPARE(resultOf("depth"), pick("%1 <= depth <= 2000.000", "%1").replace("%1", number));
         }
-        QCOMPARE(chosenList->item(0, Value)->text(), pick("1999.000 to 2000.000", "1999.000"));
         press(Qt::Key_F2);
-        for (const QAbstractSpinBox *box : editor()->findChildren<QAbstractSpinBox *>())
-            QVERIFY(box->text() == "1999.000" || box->text() == "2000.000");
         for (int key : {Qt::Key_4, Qt::Key_Comma, Qt::Key_2})
             press(key, Qt::KeypadModifier);
         press(Qt::Key_Return);

@@ -137,26 +137,23 @@ private Q_SLOTS:
 
     void emptyTablesSayWhy()
     {
-        QList<QImage> pictures;
-        const auto saysMore = [&](const QTableWidget *table) {
-            const QImage picture = screenshot(table->viewport(), table->viewport()->rect());
-            QImage blank(picture.size(), picture.format());
-            blank.fill(picture.pixelColor(0, 0));
-            const bool isNew = picture != blank && !pictures.contains(picture);
-            pictures << picture;
-            return isNew;
-        };
-        QVERIFY(saysMore(chosenList));
+        QStringList reasons = {chosenList->accessibleDescription()};
         setFilter("nothing has this");
-        QVERIFY2(saysMore(topView), "nothing matches");
+        reasons << topView->accessibleDescription();
+        const QImage painted = screenshot(topView->viewport(), topView->viewport()->rect());
+        QImage blank(painted.size(), painted.format());
+        blank.fill(painted.pixelColor(0, 0));
+        QVERIFY(painted != blank);
         QVERIFY(open(-2));
-        QVERIFY2(saysMore(topView), "no dictionary");
-        if (inFilter())
-            return;
-        QVERIFY(open());
-        topView->selectAll();
-        click(addButton);
-        QVERIFY2(saysMore(topView), "nothing is left");
+        reasons << topView->accessibleDescription();
+        if (!inFilter()) {
+            QVERIFY(open());
+            topView->selectAll();
+            click(addButton);
+            reasons << topView->accessibleDescription();
+        }
+        QVERIFY(!reasons.contains(QString()));
+        QCOMPARE(reasons.removeDuplicates(), 0);
     }
 
     void currentRowIsThereForASubclass()
@@ -262,22 +259,15 @@ private Q_SLOTS:
         click(clearButton);
         clickHeader(topView, Name);
         QCOMPARE(visibleNames(topView), walk);
+        // Equal values keep their order. They are 0, 1, 2, 0 ... for the pads; the filter dialog shows none.
+        clickHeader(topView, Value);
+        const QStringList pads = visibleNames(topView).filter("pad_");
+        QCOMPARE(pads.mid(0, 2), QStringList({"pad_00", pick("pad_01", "pad_03")}));
         choose({"pad_02", "pad_01", "note"});
         clickHeader(chosenList, Name);
         QCOMPARE(visibleNames(chosenList), QStringList({"note", "pad_01", "pad_02"}));
         enter("pad_02", "7");
         QVERIFY(resultOf("pad_02").contains('7') && !resultOf("pad_01").contains('7'));
-    }
-
-    /// The defaults of the pads are 0, 1, 2, 0 ..., which the filter dialog does not show.
-    void rowsOfEqualTextKeepTheirOrder()
-    {
-        clickHeader(topView, Value);
-        QStringList pads = visibleNames(topView).filter("pad_");
-        const auto value = [](const QString &pad) { return inFilter() ? 0 : pad.mid(4).toInt() % 3; };
-        QVERIFY(std::is_sorted(pads.begin(), pads.end(), [&](const QString &one, const QString &other) {
-            return std::make_pair(value(one), one) < std::make_pair(value(other), other);
-        }));
     }
 };
 
