@@ -98,21 +98,12 @@ private Q_SLOTS:
         if (QTest::currentTestFailed())
             return;
         QCoreApplication::processEvents();
-
-        const bool staysOpen =
-            deed == "beyond" && (left.end == StoresUnlessRefused || left.end == AcceptsUnlessRefused);
-        const bool closes = left.end == Accepts || left.end == AcceptsUnlessRefused || left.end == Rejects;
-        QCOMPARE(editor() != nullptr, staysOpen);
-        QCOMPARE(dialog->isVisible(), staysOpen || !closes);
+        verifyWhatIsOpen(kind, left, deed);
         const QString result = resultOf(kind, left, deed);
+        const QString commit = QString("commit " + left.next).replace("%1", kind.attribute).trimmed();
         QCOMPARE(int(events.count("commit")), result == kind.stored ? 0 : 1);
         if (result != kind.stored)
-            QCOMPARE(events.mid(0, 2).join(' '),
-                     QString("commit " + left.next).replace("%1", kind.attribute).trimmed());
-        if (staysOpen)
-            QVERIFY(qApp->focusWidget()->findChild<QLineEdit *>()->hasSelectedText());
-        else if (deed == "beyond" && left.end == Stores)
-            QVERIFY2(description->text().contains(kind.refusal), qPrintable(description->text()));
+            QCOMPARE(events.mid(0, 2).join(' '), commit);
         if (way() == "remove" || way() == "clear all")
             click(undoButton);
         QCOMPARE(DialogTest::resultOf(kind.attribute), result);
@@ -204,6 +195,19 @@ private:
         QVERIFY(note->isVisible());
         QCOMPARE(note->text(), kind.refusal);
         QCOMPARE(qApp->focusWidget()->accessibleDescription(), kind.refusal);
+    }
+
+    void verifyWhatIsOpen(const Kind &kind, const Way &way, const QString &deed) const
+    {
+        const bool staysOpen =
+            deed == "beyond" && (way.end == StoresUnlessRefused || way.end == AcceptsUnlessRefused);
+        const bool closes = way.end == Accepts || way.end == AcceptsUnlessRefused || way.end == Rejects;
+        QCOMPARE(editor() != nullptr, staysOpen);
+        QCOMPARE(dialog->isVisible(), staysOpen || !closes);
+        if (staysOpen)
+            QVERIFY(qApp->focusWidget()->findChild<QLineEdit *>()->hasSelectedText());
+        else if (deed == "beyond" && way.end == Stores)
+            QVERIFY2(description->text().contains(kind.refusal), qPrintable(description->text()));
     }
 
     void pressOn(QComboBox *list, int key) const
