@@ -11,10 +11,15 @@ function(zudunmaf_target target)
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
         target_compile_options(${target} PRIVATE -fno-semantic-interposition)
     endif()
-    # The file name in a report reads from the root of the tree, wherever the tree was built.
+    # File names in reports are relative to the root of the tree. ccache with a base directory calls the compiler with
+    # paths relative to the build directory.
+    file(RELATIVE_PATH root_from_build "${CMAKE_BINARY_DIR}" "${PROJECT_SOURCE_DIR}/")
     target_compile_options(${target} PRIVATE
         -Wall -Wextra -Wpedantic
         "-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=")
+    if(root_from_build)
+        target_compile_options(${target} PRIVATE "-fmacro-prefix-map=${root_from_build}=")
+    endif()
     target_compile_definitions(${target} PRIVATE QT_NO_KEYWORDS QT_NO_FOREACH)
     if(ZUDUNMAF_WERROR)
         target_compile_options(${target} PRIVATE -Werror)

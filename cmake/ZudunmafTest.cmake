@@ -1,12 +1,33 @@
-# zudunmaf_test(NAME SOURCES ... LIBRARIES ...): a test program of Qt Test, and the test of that name that runs it,
-# without a display and under a locale of UTF-8.
+# Labels: "fast" is the inner loop, "slow" is the rest.
+
+# zudunmaf_add_test(NAME LABEL [ENVIRONMENT ...] [TIMEOUT seconds] COMMAND ...)
+function(zudunmaf_add_test name label)
+    cmake_parse_arguments(PARSE_ARGV 2 test "" "TIMEOUT" "ENVIRONMENT;COMMAND")
+    if(NOT test_TIMEOUT)
+        set(test_TIMEOUT 300)
+    endif()
+    add_test(NAME ${name} COMMAND ${test_COMMAND})
+    set_tests_properties(${name} PROPERTIES
+        LABELS ${label}
+        ENVIRONMENT "LC_ALL=C.UTF-8;${test_ENVIRONMENT}"
+        TIMEOUT ${test_TIMEOUT})
+endfunction()
+
+# zudunmaf_missing_test(NAME LABEL WHAT): ctest reports a test that cannot run here as skipped, not as absent.
+function(zudunmaf_missing_test name label what)
+    message(WARNING "${what} was not found: the test ${name} is skipped")
+    add_test(NAME ${name} COMMAND "${CMAKE_COMMAND}" -E echo "skipped: ${what} was not found")
+    set_tests_properties(${name} PROPERTIES LABELS ${label} SKIP_REGULAR_EXPRESSION "skipped: ")
+endfunction()
+
+# zudunmaf_test(NAME SOURCES ... LIBRARIES ...): a Qt Test program, run without a display.
 function(zudunmaf_test name)
     cmake_parse_arguments(PARSE_ARGV 1 test "" "" "SOURCES;LIBRARIES")
     add_executable(${name} ${test_SOURCES})
     zudunmaf_target(${name})
+    # Empty, since a test program includes its own .moc file.
+    set_source_files_properties("${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/mocs_compilation.cpp"
+        PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
     target_link_libraries(${name} PRIVATE ${test_LIBRARIES} Qt${ZUDUNMAF_QT_MAJOR}::Test)
-    add_test(NAME ${name} COMMAND ${name})
-    set_tests_properties(${name} PROPERTIES
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8"
-        TIMEOUT 300)
+    zudunmaf_add_test(${name} fast COMMAND ${name} ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
 endfunction()

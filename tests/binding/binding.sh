@@ -1,6 +1,7 @@
 #!/bin/sh
 # binding.sh needed|relocations|symbols LIBRARY HOST_HEADERS: prints what is wrong and fails.
 set -eu
+export LC_ALL=C
 library=$2
 
 case $1 in

@@ -11,7 +11,8 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QTableWidget>
-#include <QtTest>
+#include <QTest>
+#include <QTimer>
 
 #include <functional>
 #include <memory>

@@ -15,8 +15,8 @@
 #include <QMimeData>
 #include <QSet>
 #include <QTableWidget>
+#include <QTest>
 #include <QTimer>
-#include <QtTest>
 
 #include <algorithm>
 #include <iostream>

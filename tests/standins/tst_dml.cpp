@@ -6,7 +6,7 @@
 #include "json_table.h"
 
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include <limits>
 

@@ -3,7 +3,7 @@
 #include "gen/gen_control.h"
 #include "local_encoding.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <clocale>
 

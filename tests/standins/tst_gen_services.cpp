@@ -5,7 +5,7 @@
 #include "json_table.h"
 #include "local_encoding.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <algorithm>
 #include <cmath>

@@ -6,7 +6,8 @@
 #include "gdm/gdm_qt.h"
 
 #include <QApplication>
-#include <QtTest>
+#include <QSignalSpy>
+#include <QTest>
 
 #include <cstring>
 #include <list>
