@@ -39,6 +39,8 @@ function(zudunmaf_precompile kind)
     endif()
     foreach(target ${ARGN})
         target_precompile_headers(${target} REUSE_FROM ${carrier})
+        # A program is compiled with -fPIE unless Qt asks for -fPIC, which it does not on each architecture.
+        target_compile_options(${target} PRIVATE -fPIC)
     endforeach()
     if(kind STREQUAL "test")
         # Qt Test defines the folder of each target, for QFINDTESTDATA alone. GCC refuses a precompiled header in which a

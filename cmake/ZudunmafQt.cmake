@@ -13,6 +13,10 @@ set(ZUDUNMAF_QT_MAJOR "${zudunmaf_qt_default}" CACHE STRING "Major version of Qt
 set_property(CACHE ZUDUNMAF_QT_MAJOR PROPERTY STRINGS 6 5 4)
 
 set(CMAKE_AUTOMOC ON)
+# moc needs none of the libraries that a target links.
+set(CMAKE_AUTOGEN_ORIGIN_DEPENDS OFF)
+# The target "autogen" runs moc for all targets.
+set(CMAKE_GLOBAL_AUTOGEN_TARGET ON)
 
 if(ZUDUNMAF_QT_MAJOR EQUAL 4)
     find_package(Qt4 4.8 REQUIRED COMPONENTS QtCore QtGui)

@@ -15,7 +15,7 @@ endfunction()
 
 # zudunmaf_missing_test(NAME LABEL WHAT): ctest reports a test that cannot run here as skipped, not as absent.
 function(zudunmaf_missing_test name label what)
-    message(WARNING "${what} was not found: the test ${name} is skipped")
+    message(STATUS "${what} was not found: the test ${name} is skipped")
     add_test(NAME ${name} COMMAND "${CMAKE_COMMAND}" -E echo "skipped: ${what} was not found")
     set_tests_properties(${name} PROPERTIES LABELS ${label} SKIP_REGULAR_EXPRESSION "skipped: ")
 endfunction()

@@ -3,9 +3,11 @@ layouts. Runs inside gdb, which reads the layouts from the debug information:
 
     gdb -batch -nx -x scripts/abi_description.py LIBRARY
 
+A library of another architecture takes gdb-multiarch, and its own nm in the environment as NM.
 Texts are made to be compared line by line; nothing in them depends on addresses or on where the tree was built.
 """
 
+import os
 import re
 import subprocess
 
@@ -28,7 +30,7 @@ def run(*command):
 
 def symbols(library, *options):
     """Lines of nm as (value, size, kind, name)."""
-    for line in run("nm", "-DCS", *options, library):
+    for line in run(os.environ.get("NM", "nm"), "-DCS", *options, library):
         match = re.match(r"([0-9a-f]+)? ?([0-9a-f]+)? *([A-Za-z]) (.+)", line.strip())
         if match:
             yield match.groups()
@@ -55,9 +57,9 @@ def print_vtables(library):
     entries = {}
     for line in run("readelf", "-rCW", library):
         words = line.split(None, 4)
-        if len(words) == 5 and words[2] == "R_X86_64_64":
+        if len(words) == 5 and words[2] in ("R_X86_64_64", "R_AARCH64_ABS64"):
             entries[int(words[0], 16)] = re.sub(r" \+ 0$", "", words[4])
-        elif len(words) == 4 and words[2] == "R_X86_64_RELATIVE":
+        elif len(words) == 4 and re.match(r"R_[A-Z0-9_]+_RELATIV", words[2]):
             # A function that the library calls without a detour is referred to by its address.
             entries[int(words[0], 16)] = " = ".join(sorted(named.get(int(words[3], 16), "-")))
     for value, size, _, name in sorted(symbols(library, "--defined-only"), key=lambda symbol: symbol[3]):

@@ -4,6 +4,7 @@
 #   scripts/check-abi.sh            both versions of Qt, in build/qt6-dev and build/qt5-dev
 #   scripts/check-abi.sh --update   writes the baseline anew; belongs to a change that CHANGELOG.md tells of
 #   scripts/check-abi.sh [--update] MAJOR BUILD_DIRECTORY   one version, from where it is built already
+# GDB and NM in the environment name the tools for another architecture; the baseline is the same.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -13,12 +14,13 @@ if [ "${1:-}" = --update ]; then
     update=yes
     shift
 fi
-install_packages gdb binutils
+gdb=${GDB:-gdb}
+install_packages "$gdb" binutils
 
 describe() { # BUILD_DIRECTORY
     local library
     for library in code/libzudunmaf.so standins/tvx/libzudunmaf_tvx.so; do
-        gdb -batch -nx -ex 'set auto-load no' -x scripts/abi_description.py "$(realpath "$1/$library")"
+        "$gdb" -batch -nx -ex 'set auto-load no' -x scripts/abi_description.py "$(realpath "$1/$library")"
     done
 }
 
@@ -43,7 +45,7 @@ for major in 6 5; do
     # shellcheck disable=SC2046
     install_packages $(build_packages "$major")
     cmake --preset "qt$major-dev" >/dev/null
-    cmake --build --preset "qt$major-dev" --target zudunmaf zudunmaf_tvx >/dev/null
+    cmake --build --preset "qt$major-dev" --target zudunmaf zudunmaf_tvx
     compare "$major" "build/qt$major-dev"
 done
 exit $status

@@ -1,52 +1,187 @@
 #!/usr/bin/env bash
-# Checks the sources without running them: format, include directions, catalogues, pages, the API reference, clang-tidy
-# and clazy. Ends with a nonzero status where one of them finds something.
-#   scripts/check.sh           all of them
-#   scripts/check.sh --quick   all but clang-tidy and clazy
+# Checks the tree without running it, and ends with a nonzero status if a check finds something.
+#   scripts/check.sh            all checks
+#   scripts/check.sh --quick    all but the two slow ones, tidy and clazy
+#   scripts/check.sh NAME... [FILE...]
+#                               some of format includes versions facts qt4 names shell messages pages reference tidy
+#                               clazy, on some files; a file is told from a check by a slash
+# scripts/check-rules-test.sh breaks each rule once and expects this script to notice.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
 
-# shellcheck disable=SC2046
-install_packages clang-format clang-tidy clazy $(build_packages 6)
+quick=(format includes versions facts qt4 names shell messages pages reference)
+slow=(tidy clazy)
 
-mapfile -t sources < <(git ls-files -co --exclude-standard -- '*.cpp' '*.h')
+names=()
+only=()
+for argument in "$@"; do
+    case "$argument" in
+        */*) only+=("$argument") ;;
+        *) names+=("$argument") ;;
+    esac
+done
 
-echo "== format"
-clang-format --dry-run -Werror "${sources[@]}"
-
-echo "== include directions"
-wrong_way() { # FOLDER REGEX: prints and fails where a file below FOLDER includes what REGEX names
-    if grep -rnE "#include +[\"<].*($2)" "$1"; then
-        echo "$1 must not include this" >&2
-        return 1
+tracked() { # PATHSPEC...: those of the files that are wanted
+    if [ ${#only[@]} -gt 0 ]; then
+        git ls-files -co --exclude-standard -- "$@" | { grep -xF "$(printf '%s\n' "${only[@]}")" || [ $? -eq 1 ]; }
+    else
+        git ls-files -co --exclude-standard -- "$@"
     fi
 }
-wrong_way code '(tvx|gen|dml|standins)/[a-z_]*_control\.h|standins/'
-wrong_way code/gdm/host '(items|editing|dialogs)/'
-wrong_way code/gdm/items '(editing|dialogs)/'
-wrong_way code/gdm/editing 'dialogs/'
-if grep -rn 'QT_VERSION' code --include='*.h' --include='*.cpp' | grep -v '^code/gdm/host/qt_compat.h:'; then
-    echo "versions of Qt are told apart in qt_compat.h alone" >&2
+
+none() { # REASON, then lines on standard input: there must be none
+    local found
+    found=$(cat)
+    [ -z "$found" ] || { printf '%s\n^ %s\n' "$found" "$1" >&2; return 1; }
+}
+
+forbid() { # REASON REGEX, then file names on standard input: no line of them may match
+    { xargs -r grep -nHE -e "$2" || [ $? -eq 123 ]; } | none "$1"
+}
+
+without() { # REGEX: the lines that do not match
+    grep -vE "$1" || [ $? -eq 1 ]
+}
+
+check_format() {
+    install_packages clang-format
+    tracked '*.cpp' '*.h' | xargs -r clang-format --dry-run -Werror
+}
+
+# Quoted includes that each folder may have, as a regular expression. Angle brackets are for the system alone.
+contract='gdm/host/[^/]*|gdm/items/attr_(records|roles)\.h|gdm/dialogs/tvx_attributes_selection_dialog\.h'
+allowed() {
+    case "$1" in
+        code/gdm) echo 'gdm/(items|dialogs)/[^/]*' ;;
+        code/gdm/host) echo 'gdm/host/[^/]*' ;;
+        code/gdm/items) echo 'gdm/(host|items)/[^/]*' ;;
+        code/gdm/conditions) echo 'gdm/(host|items|conditions)/[^/]*' ;;
+        code/gdm/editing) echo 'gdm/(host|items|editing)/[^/]*' ;;
+        code/gdm/dialogs) echo 'gdm/(host|items|conditions|editing|dialogs)/[^/]*' ;;
+        standins/common) echo "common/[^/]*|$contract" ;;
+        standins/gen) echo "(common|gen)/[^/]*|$contract" ;;
+        standins/dml) echo "(common|dml)/[^/]*|gen/gen_control\.h|$contract" ;;
+        standins/tvx) echo "(common|tvx)/[^/]*|$contract" ;;
+        demo) echo '[^/]*|(tvx|gen|dml)/[a-z]*_control\.h|gdm/(host|items|dialogs)/[^/]*|gdm/gdm_qt\.h' ;;
+    esac
+}
+
+check_includes() {
+    local folder pattern status=0
+    while read -r folder; do
+        pattern=$(allowed "$folder")
+        if [ -z "$pattern" ]; then
+            echo "$folder has no allow-list in scripts/check.sh" >&2
+            status=1
+            continue
+        fi
+        tracked ":(glob)$folder/*.h" ":(glob)$folder/*.cpp" | xargs -r grep -nHE '^ *# *include' |
+            without "include +(\"($pattern)\"|<[^/>]*>)|include +<sys/[^/>]*>" |
+            none "$folder must not include this" || status=1
+    done < <(tracked 'code/*.h' 'code/*.cpp' 'standins/*.h' 'standins/*.cpp' 'demo/*.h' 'demo/*.cpp' |
+        xargs -r -n 1 dirname | sort -u)
+    return $status
+}
+
+check_versions() {
+    tracked 'code/*.h' 'code/*.cpp' | without '^code/gdm/host/qt_compat\.h$' |
+        forbid "only code/gdm/host/qt_compat.h distinguishes versions of Qt" 'QT_VERSION'
+}
+
+# One place for each fact.
+check_facts() {
+    local status=0
+    tracked 'code/*.cpp' 'standins/*.cpp' 'demo/*.cpp' 'code/*.h' 'standins/*.h' 'demo/*.h' |
+        without '/(message_keys|tvx_texts)\.h$' |
+        forbid "message keys belong into message_keys.h or tvx_texts.h" '^[^/]*"@\$@#[A-Za-z]' || status=1
+    tracked 'code/*.cpp' 'code/*.h' | without '/config_keys\.h$' |
+        forbid "configuration keys belong into config_keys.h" '"edt_' || status=1
+    tracked 'tests/*.cpp' 'tests/*.h' |
+        forbid "times are measured in bench/, not in tests" 'QElapsedTimer|QBENCHMARK|std::chrono' || status=1
+    return $status
+}
+
+# code/gdm stays source compatible with Qt 4.8.
+check_qt4() {
+    tracked 'code/*.cpp' 'code/*.h' | forbid "not in Qt 4.8: see docs/porting-qt.md" \
+        'QStringLiteral|# *include <Qt[A-Z][A-Za-z]*/|connect\([^)]*, *&|^ *class .*\bfinal\b'
+}
+
+check_names() {
+    tracked '*.cpp' '*.h' | without '(^|/)[a-z0-9_]+\.(cpp|h)$' | none "file names are in snake_case"
+}
+
+check_shell() {
+    install_packages shellcheck
+    tracked '*.sh' .ci/run | xargs -r shellcheck --severity=warning
+}
+
+check_messages() {
+    install_packages gettext
+    scripts/extract-messages.sh --check
+}
+
+check_pages() {
+    scripts/check-docs.sh
+}
+
+check_reference() {
+    scripts/docs.sh
+}
+
+# The compilation database of the sanitizer build, which has everything and no precompiled headers. Runs moc and
+# compiles nothing.
+lint_tree=build/qt6-asan
+lint_tree_is_ready=
+prepare_lint_tree() {
+    [ -z "$lint_tree_is_ready" ] || return 0
+    # shellcheck disable=SC2046
+    install_packages $(build_packages 6) $(test_packages)
+    cmake --preset qt6-asan >/dev/null && cmake --build --preset qt6-asan --target autogen >/dev/null || return 1
+    lint_tree_is_ready=yes
+}
+
+run_tidy() { # OPTION..., file names on standard input
+    # Warnings in system headers are counted and not shown.
+    xargs -r -P 2 -n 2 clang-tidy --quiet -p "$lint_tree" "$@" 2>&1 | without '^[0-9]+ warnings? generated\.$'
+}
+
+check_tidy() {
+    install_packages clang-tidy
+    prepare_lint_tree || return 1
+    local status=0
+    tracked 'code/*.cpp' 'standins/*.cpp' 'demo/*.cpp' | run_tidy || status=1
+    # In tests, only the length of functions. Clang has warnings of its own about Qt Test.
+    tracked 'tests/*.cpp' | without '^tests/package/' |
+        run_tidy --checks='-*,readability-function-size' --extra-arg=-w || status=1
+    return $status
+}
+
+check_clazy() {
+    install_packages clazy
+    prepare_lint_tree || return 1
+    local checks=level0,level1,detaching-member,qt-keywords,reserve-candidates
+    checks+=,no-connect-3arg-lambda,no-range-loop-reference,no-overloaded-signal,no-fully-qualified-moc-types
+    tracked 'code/*.cpp' 'standins/*.cpp' 'demo/*.cpp' |
+        xargs -r -P 2 -n 2 clazy-standalone -p "$lint_tree" -checks="$checks" -extra-arg=-Werror 2>&1 |
+        without '^[0-9]+ warnings? generated\.$'
+}
+
+[ ${#names[@]} -gt 0 ] || names=("${quick[@]}" "${slow[@]}")
+[ "${names[0]}" != --quick ] || names=("${quick[@]}" "${names[@]:1}")
+install_packages git
+failed=()
+for name in "${names[@]}"; do
+    if ! declare -F "check_$name" >/dev/null; then
+        echo "usage: scripts/check.sh [--quick | NAME...], with names of: ${quick[*]} ${slow[*]}" >&2
+        exit 2
+    fi
+    echo "== $name"
+    # set -e does not hold in here: each check returns its own status.
+    "check_$name" || failed+=("$name")
+done
+if [ ${#failed[@]} -gt 0 ]; then
+    echo "Failed: ${failed[*]}" >&2
     exit 1
 fi
-
-echo "== catalogues"
-scripts/extract-messages.sh --check
-
-echo "== pages and API reference"
-scripts/check-docs.sh
-scripts/docs.sh
-[ "${1:-}" = --quick ] && exit 0
-
-echo "== clang-tidy"
-cmake --preset qt6-dev >/dev/null
-cmake --build --preset qt6-dev
-mapfile -t units < <(git ls-files -co --exclude-standard -- 'code/*.cpp' 'standins/*.cpp' 'demo/*.cpp')
-printf '%s\n' "${units[@]}" | xargs -P 2 -n 4 clang-tidy --quiet -p build/qt6-dev 2>/dev/null
-
-echo "== clazy"
-checks=level0,level1,detaching-member,qt-keywords,reserve-candidates
-checks+=,no-connect-3arg-lambda,no-range-loop-reference,no-overloaded-signal,no-fully-qualified-moc-types
-printf '%s\n' "${units[@]}" | xargs -P 2 -n 4 clazy-standalone -p build/qt6-dev -checks="$checks" \
-    -extra-arg=-Werror 2>&1 | { grep -E 'error:|warning:' || true; }

@@ -11,10 +11,10 @@ cd "$(dirname "$0")/.."
 major=${ZUDUNMAF_QT_MAJOR:-6}
 # shellcheck disable=SC2046
 install_packages $(build_packages "$major")
+echo "Building in build/qt$major-dev" >&2
 cmake --preset "qt$major-dev" >/dev/null
-cmake --build --preset "qt$major-dev" --target zudunmaf_demo >/dev/null
+cmake --build --preset "qt$major-dev" --target zudunmaf_demo zudunmaf_catalogues >&2
 demo="build/qt$major-dev/demo/zudunmaf-demo"
-
 if [ $# -gt 0 ]; then
     exec "$demo" "$@"
 fi

@@ -21,13 +21,18 @@ build=build/qt6-fuzz
 cmake --preset qt6-fuzz >/dev/null
 cmake --build --preset qt6-fuzz
 
-for corpus in fuzz/corpus/*/; do
-    target="$(basename "$corpus")"
-    echo "== $target"
-    # What is found new goes into the build directory; the corpus of the tree is only read.
-    mkdir -p "$build/corpus/$target"
+# Two at a time. What is found new goes into the build directory; the corpus of the tree is only read.
+fuzz() { # TARGET
+    local log="$build/$1.log" status=0
+    mkdir -p "$build/corpus/$1"
     QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 LSAN_OPTIONS=suppressions=tests/lsan.supp:print_suppressions=0 \
-        "$build/fuzz/fuzz_$target" "$limit" -timeout=10 -max_len=4096 -verbosity=0 -print_final_stats=1 \
-        -artifact_prefix="$build/$target-" "$build/corpus/$target" "$corpus" 2>&1 |
-        { grep -vE '^(Seed|INFO|stat::(new|slow|peak))' || true; }
-done
+        "$build/fuzz/fuzz_$1" "$limit" -timeout=10 -max_len=4096 -verbosity=0 -print_final_stats=1 \
+        -artifact_prefix="$build/$1-" "$build/corpus/$1" "fuzz/corpus/$1" >"$log" 2>&1 || status=$?
+    echo "== $1: exit status $status after $SECONDS seconds"
+    grep -vE '^(Seed|INFO|stat::(new|slow|peak))' "$log" || true
+    return $status
+}
+export -f fuzz
+export limit build
+# The two that take longest start first.
+{ printf '%s\n' definition filter_text && ls fuzz/corpus; } | awk '!seen[$0]++' | xargs -P 2 -I{} bash -euc 'fuzz {}'

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Builds the Debian packages for one version of Qt in build/qtN-package/packages and has lintian read them: what it says
+# Builds the Debian packages for one version of Qt in build/qtN-release/packages and has lintian read them: what it says
 # fails unless packaging/overrides names it with a reason. --try installs them on this machine, runs the demo and
-# removes them again; it needs root.
+# removes them again; it needs root, or sudo.
 #   scripts/packages-deb.sh [6|5] [--try]
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -21,11 +21,11 @@ for argument in "$@"; do
 done
 
 # shellcheck disable=SC2046
-install_packages $(build_packages "$major") dpkg-dev file fakeroot lintian
-tree="build/qt$major-package"
+install_packages $(build_packages "$major") libbenchmark-dev dpkg-dev file fakeroot lintian
+tree="build/qt$major-release"
 rm -rf "$tree/packages"
-cmake --preset "qt$major-package" >/dev/null
-cmake --build --preset "qt$major-package" --target package
+cmake --preset "qt$major-release" >/dev/null
+cmake --build --preset "qt$major-release" --target package
 packages=("$tree"/packages/*.deb)
 
 echo "== lintian"
@@ -36,10 +36,14 @@ lintian "${as_user[@]}" --tag-display-limit 0 --fail-on error,warning "${package
 [ -n "$try" ] || exit 0
 echo "== try"
 as_root=()
-[ "$(id -u)" -eq 0 ] || as_root=(sudo)
+if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || { echo "--try installs packages and needs root" >&2; exit 1; }
+    as_root=(sudo)
+fi
 mapfile -t names < <(for package in "${packages[@]}"; do dpkg-deb --field "$package" Package; done)
 pictures=$(mktemp -d)
 trap '"${as_root[@]}" dpkg --purge "${names[@]}" >/dev/null; rm -rf "$pictures"' EXIT
+echo "Installing${as_root:+ with sudo}, and removing again: ${names[*]}"
 "${as_root[@]}" dpkg --install "${packages[@]}" >/dev/null
 QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 zudunmaf-demo filter --walk "$pictures"
 pkg-config --print-errors --exists "zudunmaf-standins"

@@ -1,17 +1,69 @@
-# Sourced by the other scripts: install_packages NAME... installs those Debian packages that are missing.
-install_packages() {
-    local missing=() package
-    for package in "$@"; do
-        dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || missing+=("$package")
-    done
-    [ ${#missing[@]} -eq 0 ] && return 0
+# shellcheck shell=bash
+# Sourced by the other scripts.
+#
+# install_packages NAME...: installs the Debian packages that are missing, and says which before it does. As root it
+# calls apt-get, otherwise sudo. Without either, or where there is no apt-get, it prints one line that names what is
+# missing, installs nothing and ends the script.
 
-    local as_root=()
-    [ "$(id -u)" -eq 0 ] || as_root=(sudo)
-    echo "Installing: ${missing[*]}"
-    "${as_root[@]}" apt-get update -qq
-    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-        apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+# What to look for where there is no dpkg to ask: a command, or a pkg-config module with "pc:" before it.
+# Packages that are not listed are taken to be there.
+package_probe() {
+    case "$1" in
+        g++) echo c++ ;;
+        ninja-build) echo ninja ;;
+        gettext) echo msgfmt ;;
+        binutils) echo readelf ;;
+        xvfb) echo Xvfb ;;
+        clang) echo clang++ ;;
+        clazy) echo clazy-standalone ;;
+        dpkg-dev) echo dpkg-shlibdeps ;;
+        qt6-base-dev) echo pc:Qt6Widgets ;;
+        qt6-5compat-dev) echo pc:Qt6Core5Compat ;;
+        qtbase5-dev) echo pc:Qt5Widgets ;;
+        libbenchmark-dev) echo pc:benchmark ;;
+        cmake | pkg-config | python3 | git | ccache | clang-format | clang-tidy | doxygen | gdb | shellcheck) echo "$1" ;;
+        valgrind | file | fakeroot | lintian) echo "$1" ;;
+    esac
+}
+
+package_is_missing() {
+    local probe
+    if command -v dpkg-query >/dev/null; then
+        ! dpkg-query -W -f='${Status}' "$1" 2>/dev/null | grep -q 'install ok installed'
+        return
+    fi
+    probe=$(package_probe "$1")
+    case "$probe" in
+        '') return 1 ;;
+        pc:*) ! pkg-config --exists "${probe#pc:}" 2>/dev/null ;;
+        *) ! command -v "$probe" >/dev/null ;;
+    esac
+}
+
+install_packages() {
+    local missing=() as_root=() package
+    for package in "$@"; do
+        ! package_is_missing "$package" || missing+=("$package")
+    done
+    [ ${#missing[@]} -gt 0 ] || return 0
+
+    if ! command -v apt-get >/dev/null; then
+        echo "Missing (names of Debian packages): ${missing[*]}" >&2
+        exit 1
+    fi
+    if [ "$(id -u)" -ne 0 ]; then
+        if ! command -v sudo >/dev/null; then
+            echo "Missing; as root, run: apt-get install --no-install-recommends ${missing[*]}" >&2
+            exit 1
+        fi
+        as_root=(sudo)
+    fi
+    echo "Installing${as_root:+ with sudo}: ${missing[*]}"
+    if ! { "${as_root[@]}" apt-get update -qq && "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null; }; then
+        echo "Could not install: ${missing[*]}" >&2
+        exit 1
+    fi
 }
 
 # What a build of everything with this major version of Qt needs.
@@ -21,4 +73,9 @@ build_packages() {
         6) echo qt6-base-dev qt6-base-dev-tools qt6-5compat-dev libvulkan-dev qt6-translations-l10n ;;
         5) echo qtbase5-dev qttranslations5-l10n ;;
     esac
+}
+
+# What the tests need beside that.
+test_packages() {
+    echo xvfb python3 python3-jsonschema
 }

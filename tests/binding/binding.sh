@@ -11,8 +11,10 @@ needed)
     ;;
 relocations)
     # Exactly the declared services are left open, each as a jump slot of the procedure linkage table.
-    declared=$(grep -ohE '(gen|dml)__[a-z0-9_]+\(' "$3"/*.h | tr -d '(' | sort -u | sed 's/^/R_X86_64_JUMP_SLOT /')
-    found=$("$READELF" -rW "$library" | grep -E '(gen|dml)__' | awk '{ print $3, $5 }' | sed 's/@.*//' | sort -u)
+    declared=$(grep -ohE '(gen|dml)__[a-z0-9_]+\(' "$3"/*.h | tr -d '(' | sort -u | sed 's/^/JUMP_SLOT /')
+    # Names of relocations start with the architecture, such as R_X86_64_JUMP_SLOT, and can be cut at their end.
+    found=$("$READELF" -rW "$library" | grep -E '(gen|dml)__' | awk '{ print $3, $5 }' |
+        sed -E 's/@.*//; s/^R_[A-Z0-9]+(_64)?_JUMP_SL[A-Z]*/JUMP_SLOT/' | sort -u)
     wrong=$(test "$declared" = "$found" || printf 'declared:\n%s\nfound:\n%s\n' "$declared" "$found")
     ;;
 symbols)

@@ -146,22 +146,12 @@ private Q_SLOTS:
         const int whole = host().fallible;
         const QString good = host().state();
         QSet<QString> places;
-        const auto isReportedOnce = [&places](int k, const auto &step) {
-            host().failStatus = k % 2 ? -1 : 256;
-            host().failAt = host().fallible + k;
-            host().calls.clear();
-            host().reports.clear();
-            step();
-            host().failAt = 0;
-            const QString report = host().reports.join(' ');
-            places << report;
-            return QRegularExpression("^code/gdm/\\S+ [1-9]\\d*$").match(report).hasMatch();
-        };
         for (int k = 1; k <= whole; ++k) {
             made.reset();
             host().entities.clear();
             host().groups.clear();
-            QVERIFY(isReportedOnce(k, [&] { made = make(); }));
+            QVERIFY(isReportedOnce(
+                k, [&] { made = make(); }, &places));
             QCOMPARE(host().called("fill").size(), 2); // entities, and the one that did not fail
             QCOMPARE(host().groups.isEmpty(), !rows().isEmpty());
             QCOMPARE(host().called("setHeaderTitle").size(), 2);
@@ -174,7 +164,7 @@ private Q_SLOTS:
             host().top->setCurrentCell(3, 1);
             const QString before = host().state();
             const auto step = [&] { k ? made->setDisplayUnits(2) : made->filterAttributeList(); };
-            QVERIFY(isReportedOnce(qMax(k, 1), step));
+            QVERIFY(isReportedOnce(qMax(k, 1), step, &places));
             QCOMPARE(host().state(), before);
         }
         made->filterAttributeList();
@@ -243,6 +233,21 @@ private Q_SLOTS:
     }
 
 private:
+    /// Lets the k-th fallible service call from now on fail during a step. Returns whether it is reported once, with its
+    /// place in the sources, which is added to the places.
+    template <typename Step>
+    static bool isReportedOnce(int k, const Step &step, QSet<QString> *places)
+    {
+        host().failStatus = k % 2 ? -1 : 256;
+        host().failAt = host().fallible + k;
+        host().calls.clear();
+        host().reports.clear();
+        step();
+        host().failAt = 0;
+        const QString report = host().reports.join(' ');
+        *places << report;
+        return QRegularExpression("^code/gdm/\\S+ [1-9]\\d*$").match(report).hasMatch();
+    }
     std::unique_ptr<TvxAttributesSelectionDialog> make() const
     {
         if (m_feature)
