@@ -3,6 +3,8 @@
 # the tree names a script that can be run.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+. scripts/packages.sh
+install_packages git
 
 status=0
 complain() {

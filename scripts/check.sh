@@ -118,7 +118,6 @@ check_shell() {
 }
 
 check_messages() {
-    install_packages gettext
     scripts/extract-messages.sh --check
 }
 

@@ -1,12 +1,14 @@
-#!/bin/sh
+#!/usr/bin/env bash
 # Brings the message catalogues in po/ up to date with the message keys in the sources.
 #
 #   scripts/extract-messages.sh           writes po/zudunmaf.pot and merges it into every po/*.po
 #   scripts/extract-messages.sh --check   changes nothing; fails where the template is out of date, or a message is
 #                                         untranslated, fuzzy, or lost a placeholder
-set -eu
+set -euo pipefail
 
 cd "$(dirname "$0")/.."
+. scripts/packages.sh
+install_packages gettext
 template=po/zudunmaf.pot
 sources="code/gdm/host/message_keys.h standins/tvx/tvx_texts.h"
 
