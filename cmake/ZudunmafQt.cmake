@@ -16,7 +16,7 @@ set(CMAKE_AUTOMOC ON)
 # moc needs none of the libraries that a target links.
 set(CMAKE_AUTOGEN_ORIGIN_DEPENDS OFF)
 # The target "autogen" runs moc for all targets.
-set(CMAKE_GLOBAL_AUTOGEN_TARGET ON)
+set(CMAKE_GLOBAL_AUTOGEN_TARGET ${ZUDUNMAF_TOP_LEVEL})
 
 if(ZUDUNMAF_QT_MAJOR EQUAL 4)
     find_package(Qt4 4.8 REQUIRED COMPONENTS QtCore QtGui)

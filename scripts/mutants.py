@@ -35,7 +35,7 @@ NUMBER = re.compile(r"(?<![\w.])(\d+)(\.\d+)?f?(?![\w.])")
 CONDITION = re.compile(r"^(\s*(?:\} else )?(?:if|while) \()(.+)(\)(?: \{)?)$")
 NEGATION = re.compile(r"(?<![\w)\]])!(?=[\w(])")
 STATEMENT = re.compile(r"^\s+[\w:*(+\-].*;$")
-NO_STATEMENT = re.compile(r"^\s*(return\b.|using\b|typedef\b|friend\b|public\b|static_assert\b|for\b|if\b|else\b|case\b)")
+NO_STATEMENT = re.compile(r"^\s*(return\b.|using\b|typedef\b|friend\b|public\b|static_assert\b|for\b|if\b|else\b|case\b|default\b)")
 DECLARATION = re.compile(r"^\s*(?!delete\b|emit\b|Q_EMIT\b)((const|static|constexpr) )*[\w:]+(<.*>)? +[*&]*\w+( = |;|\(|\{|\[)")
 SKIPPED_LINE = re.compile(r"^\s*(#|//|\*|/\*|using\b|template\b|static_assert\b|Q_ASSERT|namespace\b)|\boperator\b|= 0;")
 
