@@ -27,6 +27,8 @@ install(DIRECTORY "${PROJECT_SOURCE_DIR}/code/gdm"
     FILES_MATCHING
     REGEX "/gdm_qt\\.h$"
     REGEX "/(attr_records|attr_roles|dml_attr_lwi|attr_filter_lwi|feature_attr_lwi)\\.h$"
+    REGEX "/(attr_condition|attr_assignment|chosen_items|condition_matcher)\\.h$"
+    REGEX "/(attr_documents|attr_restoring|filter_lines)\\.h$"
     REGEX "/(attributes_filter_dialog|feature_attributes_dialog|tvx_attributes_selection_dialog)\\.h$"
     REGEX "/(gdm_export|gen_services|dml_dictionary|message_keys|config_keys)\\.h$"
     PATTERN "editing" EXCLUDE)

@@ -20,6 +20,9 @@ TYPES = [
     "Zudunmaf::DmlAttrLWI", "Zudunmaf::DmlAttrLWI::ItemType_Enum",
     "Zudunmaf::AttrFilterLWI", "Zudunmaf::FeatureAttrLWI",
     "Zudunmaf::AttributesFilterDialog", "Zudunmaf::FeatureAttributesDialog",
+    "Zudunmaf::AttrCondition", "Zudunmaf::AttrAssignment", "Zudunmaf::ConditionMatcher",
+    "Zudunmaf::RestoreStatus", "Zudunmaf::RestoreResult", "Zudunmaf::RestoreTarget",
+    "Zudunmaf::LineStatus", "Zudunmaf::LineResult", "Zudunmaf::DocumentProblem",
     "TvxDataItem", "TvxAttributesSelectionDialog", "TvxAttributesSelectionDialog::Buttons_Enum",
 ]  # fmt: skip
 

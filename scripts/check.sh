@@ -63,7 +63,7 @@ allowed() {
         standins/gen) echo "(common|gen)/[^/]*|$contract" ;;
         standins/dml) echo "(common|dml)/[^/]*|gen/gen_control\.h|$contract" ;;
         standins/tvx) echo "(common|tvx)/[^/]*|$contract" ;;
-        demo) echo '[^/]*|(tvx|gen|dml)/[a-z]*_control\.h|gdm/(host|items|dialogs)/[^/]*|gdm/gdm_qt\.h' ;;
+        demo) echo '[^/]*|(tvx|gen|dml)/[a-z]*_control\.h|gdm/(host|items|conditions|dialogs)/[^/]*|gdm/gdm_qt\.h' ;;
     esac
 }
 

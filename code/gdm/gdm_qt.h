@@ -2,7 +2,8 @@
 #define GDM_GDM_QT_H
 
 /// Chief header of the library. In the order in which an attribute travels: the records and roles, the items
-/// that bind a definition to a condition or a value, and the two dialogs. Between them, internal, stand the
+/// that bind a definition to a condition or a value, the conditions and values as data of the host, and the two
+/// dialogs. Between them, internal, stand the
 /// delegate and the range editors of gdm/editing, which open over an item's cell and write back into the
 /// item.
 #include "gdm/items/attr_records.h"
@@ -12,6 +13,14 @@
 
 #include "gdm/items/attr_filter_lwi.h"
 #include "gdm/items/feature_attr_lwi.h"
+
+#include "gdm/conditions/attr_assignment.h"
+#include "gdm/conditions/attr_condition.h"
+#include "gdm/conditions/attr_documents.h"
+#include "gdm/conditions/attr_restoring.h"
+#include "gdm/conditions/chosen_items.h"
+#include "gdm/conditions/condition_matcher.h"
+#include "gdm/conditions/filter_lines.h"
 
 #include "gdm/dialogs/attributes_filter_dialog.h"
 #include "gdm/dialogs/feature_attributes_dialog.h"

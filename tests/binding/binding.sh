@@ -18,10 +18,13 @@ relocations)
     wrong=$(test "$declared" = "$found" || printf 'declared:\n%s\nfound:\n%s\n' "$declared" "$found")
     ;;
 symbols)
-    # What is visible of the library's own belongs to the five exported classes.
+    # What is visible of the library's own belongs to the exported classes, or is one of the exported functions.
     shown=$("$NM" -DC --defined-only "$library" | grep 'Zudunmaf::')
     classes='AttributesFilterDialog|FeatureAttributesDialog|DmlAttrLWI|AttrFilterLWI|FeatureAttrLWI'
-    wrong=$(printf '%s\n' "$shown" | grep -vE "^[0-9a-f]+ [A-Za-z] ([a-z -]+ )?Zudunmaf::($classes)(::|\$)" || true)
+    functions='conditionOf|assignmentOf|matches|restoreConditions|restoreAssignments|conditionsFromLines'
+    functions="$functions|(conditions|assignments)(To|From)Json|operator[!=]="
+    wrong=$(printf '%s\n' "$shown" | grep -vE \
+        "^[0-9a-f]+ [A-Za-z] ([a-z -]+ )?Zudunmaf::(($classes|ConditionMatcher)(::|\$)|($functions)\()" || true)
     for class in $(echo "$classes" | tr '|' ' '); do
         printf '%s\n' "$shown" | grep -q "vtable for Zudunmaf::$class\$" || wrong="$wrong no $class"
     done

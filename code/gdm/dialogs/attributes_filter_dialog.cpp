@@ -1,12 +1,14 @@
 #include "gdm/dialogs/attributes_filter_dialog.h"
 
+#include "gdm/conditions/chosen_items.h"
+#include "gdm/dialogs/chosen_entries.h"
 #include "gdm/dialogs/context_menu.h"
-#include "gdm/dialogs/dictionary_walk.h"
 #include "gdm/dialogs/group_names.h"
 #include "gdm/dialogs/offered_rows.h"
 #include "gdm/dialogs/row_filter.h"
 #include "gdm/editing/attr_item_delegate.h"
 #include "gdm/host/config_keys.h"
+#include "gdm/host/dictionary_walk.h"
 #include "gdm/host/host_text.h"
 #include "gdm/host/message_keys.h"
 #include "gdm/items/attr_access.h"
@@ -162,6 +164,17 @@ QStringList AttributesFilterDialog::getFiltersAsStringList() const
             lines.append(condition->toString());
     }
     return lines;
+}
+
+QList<AttrCondition> AttributesFilterDialog::conditions() const
+{
+    return chosenEntries<AttrFilterLWI>(*this, conditionOf);
+}
+
+QList<RestoreResult> AttributesFilterDialog::restoreConditions(const QList<AttrCondition> &conditions,
+                                                               const AddToChosen &add)
+{
+    return Zudunmaf::restoreConditions(conditions, restoreTarget(*this, add));
 }
 
 DmlAttrLWI *AttributesFilterDialog::createNewItem()

@@ -1,6 +1,7 @@
 #ifndef GDM_DIALOGS_ATTRIBUTES_FILTER_DIALOG_H
 #define GDM_DIALOGS_ATTRIBUTES_FILTER_DIALOG_H
 
+#include "gdm/conditions/attr_restoring.h"
 #include "gdm/dialogs/tvx_attributes_selection_dialog.h"
 
 #include <QStringList>
@@ -31,6 +32,13 @@ public:
     /// A line for each attribute of the chosen list, in its order: "5 <= width <= 9", "finish = matt", or the
     /// label alone where no condition is set.
     QStringList getFiltersAsStringList() const;
+    /// The conditions of the chosen list as values, in its order, as conditionOf() reads each. Unlike lines, they are
+    /// exact and can be saved: see gdm/conditions/attr_documents.h.
+    QList<AttrCondition> conditions() const;
+    /// Adds conditions to the chosen list through `add`, which hands them to the host's base, and returns one result
+    /// for each. Conditions that do not fit the dictionary any more are left out and stay the caller's. Call it before
+    /// the dialog is shown, and after setDisplayUnits().
+    QList<RestoreResult> restoreConditions(const QList<AttrCondition> &conditions, const AddToChosen &add);
     /// A new AttrFilterLWI without a definition, owned by the caller.
     DmlAttrLWI *createNewItem();
 

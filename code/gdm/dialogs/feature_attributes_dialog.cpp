@@ -1,12 +1,14 @@
 #include "gdm/dialogs/feature_attributes_dialog.h"
 
+#include "gdm/conditions/chosen_items.h"
+#include "gdm/dialogs/chosen_entries.h"
 #include "gdm/dialogs/context_menu.h"
-#include "gdm/dialogs/dictionary_walk.h"
 #include "gdm/dialogs/group_names.h"
 #include "gdm/dialogs/offered_rows.h"
 #include "gdm/dialogs/row_filter.h"
 #include "gdm/editing/attr_item_delegate.h"
 #include "gdm/host/config_keys.h"
+#include "gdm/host/dictionary_walk.h"
 #include "gdm/host/host_text.h"
 #include "gdm/host/message_keys.h"
 #include "gdm/items/attr_access.h"
@@ -177,6 +179,17 @@ void FeatureAttributesDialog::contextMenu_triggered(QAction *action)
     default:
         break;
     }
+}
+
+QList<AttrAssignment> FeatureAttributesDialog::assignments() const
+{
+    return chosenEntries<FeatureAttrLWI>(*this, assignmentOf);
+}
+
+QList<RestoreResult> FeatureAttributesDialog::restoreAssignments(const QList<AttrAssignment> &assignments,
+                                                                 const AddToChosen &add)
+{
+    return Zudunmaf::restoreAssignments(assignments, restoreTarget(*this, add));
 }
 
 DmlAttrLWI *FeatureAttributesDialog::createNewItem()

@@ -1,6 +1,7 @@
 #ifndef GDM_DIALOGS_FEATURE_ATTRIBUTES_DIALOG_H
 #define GDM_DIALOGS_FEATURE_ATTRIBUTES_DIALOG_H
 
+#include "gdm/conditions/attr_restoring.h"
 #include "gdm/dialogs/tvx_attributes_selection_dialog.h"
 
 class QAction;
@@ -26,6 +27,13 @@ public:
                                      Qt::WindowFlags flags = Qt::WindowFlags());
     ~FeatureAttributesDialog() override;
 
+    /// The values of the chosen list, in its order, as assignmentOf() reads each: exact, and in the units of the
+    /// definitions. They can be saved: see gdm/conditions/attr_documents.h.
+    QList<AttrAssignment> assignments() const;
+    /// Adds values to the chosen list through `add`, which hands them to the host's base, and returns one result for
+    /// each. Values that do not fit the dictionary any more, or a second one of an attribute, are left out and stay the
+    /// caller's. Call it before the dialog is shown, and after setDisplayUnits().
+    QList<RestoreResult> restoreAssignments(const QList<AttrAssignment> &assignments, const AddToChosen &add);
     /// A new FeatureAttrLWI without a definition, owned by the caller.
     DmlAttrLWI *createNewItem();
 

@@ -2,10 +2,10 @@
 #define GDM_DIALOGS_OFFERED_ROWS_H
 
 #include "gdm/dialogs/attribute_offer.h"
-#include "gdm/dialogs/dictionary_walk.h"
 #include "gdm/dialogs/owned_items.h"
 #include "gdm/dialogs/tvx_attributes_selection_dialog.h"
 #include "gdm/host/config_keys.h"
+#include "gdm/host/dictionary_walk.h"
 #include "gdm/host/host_text.h"
 #include "gdm/items/attr_roles.h"
 

@@ -6,6 +6,13 @@
 
 /// What the versions of Qt answer differently, each given one answer. Nothing else in the library looks at
 /// the version. Internal: not installed.
+/// Whether Qt has JSON. Without it, the functions of gdm/conditions/attr_documents.h are not defined.
+#if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
+#    define GDM_HAS_JSON 0
+#else
+#    define GDM_HAS_JSON 1
+#endif
+
 namespace Zudunmaf
 {
 namespace compat

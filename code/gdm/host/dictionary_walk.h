@@ -1,5 +1,5 @@
-#ifndef GDM_DIALOGS_DICTIONARY_WALK_H
-#define GDM_DIALOGS_DICTIONARY_WALK_H
+#ifndef GDM_HOST_DICTIONARY_WALK_H
+#define GDM_HOST_DICTIONARY_WALK_H
 
 #include "gdm/host/dml_dictionary.h"
 #include "gdm/host/gen_services.h"

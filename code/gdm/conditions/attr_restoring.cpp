@@ -1,0 +1,131 @@
+#include "gdm/conditions/attr_restoring.h"
+
+#include "gdm/conditions/available_items.h"
+#include "gdm/conditions/condition_record.h"
+#include "gdm/conditions/limit_check.h"
+#include "gdm/conditions/number_units.h"
+#include "gdm/host/host_text.h"
+#include "gdm/items/attr_access.h"
+#include "gdm/items/attr_filter_lwi.h"
+#include "gdm/items/attr_roles.h"
+#include "gdm/items/feature_attr_lwi.h"
+
+#include <memory>
+#include <vector>
+
+namespace Zudunmaf
+{
+
+namespace
+{
+
+typedef std::vector<std::unique_ptr<QTableWidgetItem>> RestoredItems;
+
+/// Adds what could be made; a null item belongs to an entry with a result already. All items exist before the first is
+/// added, because adding may have the available table filled again.
+void addAll(const RestoredItems &items, const AddToChosen &add, QList<RestoreResult> *results)
+{
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        if (items[i] && (!add || !add(*items[i])))
+            (*results)[int(i)] = refusal(RestoreNotAdded, "'%1' was not added to the chosen table",
+                                         items[i]->data(DmlAttrNameRole).toString());
+    }
+}
+
+RestoreResult makeCondition(const AttrCondition &condition, AvailableItems *available,
+                            std::unique_ptr<QTableWidgetItem> *made)
+{
+    const AttrFilterLWI *item = dynamic_cast<const AttrFilterLWI *>(available->find(condition.name));
+    if (!item)
+        return available->absence(condition.name);
+    DmlAttrValue record;
+    const RestoreResult result = fillRecord(condition, *definitionIn(item->dmlAttribute()), &record);
+    if (result.status == RestoreDone) {
+        made->reset(item->clone());
+        static_cast<AttrFilterLWI *>(made->get())->setAttrValue(variantOfRecord(&record));
+    }
+    return result;
+}
+
+/// Converts a float and checks every other value; `value` holds what the item takes.
+RestoreResult takeValue(const AttrAssignment &assignment, const DmlAttrDef &definition, int displayUnits,
+                        QVariant *value)
+{
+    *value = assignment.value;
+    if (!value->isValid()) {
+        if (definition.type == DmlAttrText || definition.type == DmlAttrOption)
+            *value = QString();
+        return RestoreResult();
+    }
+    switch (definition.type) {
+    case DmlAttrOption:
+        // An option without a default has an empty text, which names no entry.
+        if (!value->toString().isEmpty() && indexOfOption(definition, value->toString()) == -1)
+            return refusal(RestoreOptionGone, "there is no option '%1'", value->toString());
+        return RestoreResult();
+    case DmlAttrInteger:
+        return rangeResult(problemOfInteger(value->toDouble(), definition));
+    case DmlAttrFloat: {
+        const NumberUnits units(assignment.units, assignment.unitsText, definition.unitsClass);
+        if (units.isUnknown() || units.isOneWithout())
+            return unknownUnits(assignment.unitsText);
+        *value = units.converted(value->toDouble());
+        return rangeResult(problemOfFloat(value->toDouble(), definition, displayUnits));
+    }
+    default:
+        return RestoreResult();
+    }
+}
+
+RestoreResult makeAssignment(const AttrAssignment &assignment, AvailableItems *available,
+                             QSet<QString> *names, std::unique_ptr<QTableWidgetItem> *made)
+{
+    if (names->contains(assignment.name))
+        return refusal(RestoreDuplicate, "'%1' has a value already", assignment.name);
+    const FeatureAttrLWI *item = dynamic_cast<const FeatureAttrLWI *>(available->find(assignment.name));
+    if (!item)
+        return available->absence(assignment.name);
+    const DmlAttrDef &definition = *definitionIn(item->dmlAttribute());
+    if (assignment.type != definition.type)
+        return refusal(RestoreTypeChanged, "'%1' has another type now", assignment.name);
+    std::unique_ptr<FeatureAttrLWI> copy(static_cast<FeatureAttrLWI *>(item->clone()));
+    QVariant value;
+    const RestoreResult result = takeValue(assignment, definition, copy->displayUnits(), &value);
+    if (result.status != RestoreDone)
+        return result;
+    copy->setAttrValue(value);
+    names->insert(assignment.name);
+    *made = std::move(copy);
+    return result;
+}
+
+} // namespace
+
+QList<RestoreResult> restoreConditions(const QList<AttrCondition> &conditions, const RestoreTarget &target)
+{
+    AvailableItems available(target);
+    QList<RestoreResult> results;
+    RestoredItems items(std::size_t(conditions.size()));
+    for (int i = 0; i < int(conditions.size()); ++i)
+        results.append(makeCondition(conditions.at(i), &available, &items[std::size_t(i)]));
+    addAll(items, target.add, &results);
+    return results;
+}
+
+QList<RestoreResult> restoreAssignments(const QList<AttrAssignment> &assignments, const RestoreTarget &target)
+{
+    AvailableItems available(target);
+    QSet<QString> names;
+    for (const QTableWidgetItem *item : target.chosen) {
+        if (dynamic_cast<const FeatureAttrLWI *>(item))
+            names.insert(item->data(DmlAttrNameRole).toString());
+    }
+    QList<RestoreResult> results;
+    RestoredItems items(std::size_t(assignments.size()));
+    for (int i = 0; i < int(assignments.size()); ++i)
+        results.append(makeAssignment(assignments.at(i), &available, &names, &items[std::size_t(i)]));
+    addAll(items, target.add, &results);
+    return results;
+}
+
+} // namespace Zudunmaf

@@ -1,0 +1,76 @@
+#include "gdm/conditions/limit_check.h"
+
+#include "gdm/conditions/number_units.h"
+#include "gdm/items/attr_records.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace Zudunmaf
+{
+
+namespace
+{
+
+QString written(double number)
+{
+    return QString::number(number, 'g', 9);
+}
+
+QString beyond(double number, double minimum, double maximum)
+{
+    return QString(QLatin1String("%1 is beyond the limits %2 to %3"))
+        .arg(written(number), written(minimum), written(maximum));
+}
+
+double rounded(double limit)
+{
+    const double number = std::round(limit * 1000.0) / 1000.0;
+    return std::isfinite(number) ? number : limit;
+}
+
+double slackOf(double limit)
+{
+    const double slack = 4.0 * double(std::numeric_limits<float>::epsilon()) * std::fabs(limit);
+    return std::isfinite(slack) ? slack : 0.0;
+}
+
+} // namespace
+
+QString problemOfInteger(double number, const DmlAttrDef &definition)
+{
+    if (number != std::floor(number))
+        return QString(QLatin1String("%1 is no whole number")).arg(written(number));
+    if (number >= double(definition.intMin) && number <= double(definition.intMax))
+        return QString();
+    return beyond(number, definition.intMin, definition.intMax);
+}
+
+QString problemOfFloat(double number, const DmlAttrDef &definition, int displayUnits)
+{
+    // An exact number needs no services.
+    if (number >= definition.floatMin && number <= definition.floatMax)
+        return QString();
+    NumberUnits units(definition.unitsClass, QString(), definition.unitsClass);
+    if (displayUnits != -1)
+        units = NumberUnits(definition.unitsClass, QString(), displayUnits);
+    const double shown = units.converted(number);
+    const double minimum = units.converted(definition.floatMin);
+    const double maximum = units.converted(definition.floatMax);
+    const double least = std::min(minimum, rounded(minimum)) - slackOf(minimum);
+    const double greatest = std::max(maximum, rounded(maximum)) + slackOf(maximum);
+    if (shown >= least && shown <= greatest)
+        return QString();
+    return beyond(number, definition.floatMin, definition.floatMax);
+}
+
+QString problemOfOrder(double low, double high)
+{
+    if (low <= high)
+        return QString();
+    return QString(QLatin1String("the lower bound %1 is above the upper bound %2"))
+        .arg(written(low), written(high));
+}
+
+} // namespace Zudunmaf
