@@ -22,6 +22,11 @@ QString nameOf(const QTableWidgetItem &item)
     return item.data(DmlAttrNameRole).toString();
 }
 
+bool isCondition(const QTableWidgetItem &item)
+{
+    return item.data(DmlAttrFilterTextRole).isValid();
+}
+
 ChosenTable::Row copyOf(const QTableWidgetItem &item)
 {
     return {std::unique_ptr<QTableWidgetItem>(item.clone()), std::unique_ptr<QTableWidgetItem>(item.clone()),
@@ -172,7 +177,7 @@ bool RowTransfer::addCopyOf(const QTableWidgetItem &item)
 {
     const QString name = nameOf(item);
     const bool isAttribute = !name.isEmpty() && item.data(DmlAttrDefRole).value<void *>();
-    if (!isAttribute || valuesByName().contains(name))
+    if (!isAttribute || !isOfDialogsKind(item) || valuesByName().contains(name))
         return false;
     finishEditing();
     std::vector<ChosenTable::Row> copies;
@@ -183,13 +188,21 @@ bool RowTransfer::addCopyOf(const QTableWidgetItem &item)
     return true;
 }
 
+/// A dialog has items of one kind, and any row of either table shows which. Without a row, each kind is accepted.
+bool RowTransfer::isOfDialogsKind(const QTableWidgetItem &item) const
+{
+    const QTableWidgetItem *chosen = m_chosen->rowItem(0);
+    const QTableWidgetItem *known = chosen ? chosen : m_top->rowItem(0);
+    return !known || nameOf(*known).isEmpty() || isCondition(*known) == isCondition(item);
+}
+
 /// The value items of the chosen rows by attribute; empty in a dialog of conditions. A dialog has rows of one kind, and
 /// the first says which.
 QHash<QString, QTableWidgetItem *> RowTransfer::valuesByName() const
 {
     QHash<QString, QTableWidgetItem *> values;
     const QTableWidgetItem *first = m_chosen->rowItem(0);
-    if (!first || first->data(DmlAttrFilterTextRole).isValid())
+    if (!first || isCondition(*first))
         return values;
     const QList<QTableWidgetItem *> items = m_chosen->rowItems(false);
     for (QTableWidgetItem *item : items)

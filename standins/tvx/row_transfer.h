@@ -58,6 +58,7 @@ private:
     void reportAdded(const QString &name);
     void remove(const QVector<int> &rows);
     void finishEditing();
+    bool isOfDialogsKind(const QTableWidgetItem &item) const;
     QHash<QString, QTableWidgetItem *> valuesByName() const;
 
     TvxAttributesSelectionDialog *m_dialog;

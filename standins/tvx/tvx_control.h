@@ -19,7 +19,8 @@ namespace tvx
 ///
 /// The item is of the dialog's own class and holds a definition, whether made with createNewItem() or cloned
 /// from what findItemByAttrName() gives. False, and nothing added, where it names no attribute or holds no
-/// definition, or where it holds a value and the attribute has one in the list already. Conditions on one
+/// definition, where it is of the class of the other dialog, or where it holds a value and the attribute has one in
+/// the list already. Conditions on one
 /// attribute may be several.
 GDM_EXPORT bool addChosen(TvxAttributesSelectionDialog &dialog, const QTableWidgetItem &item);
 
