@@ -2,7 +2,7 @@
 
 #include "gdm/items/attr_roles.h"
 #include "gdm/items/feature_attr_lwi.h"
-#include "value_rows.h"
+#include "start_file.h"
 #include "walk_of_assign.h"
 
 namespace Zudunmaf::demo
@@ -32,9 +32,19 @@ QStringList AssignTask::resultLines() const
     return lines;
 }
 
-std::unique_ptr<StartRows> AssignTask::newStartRows()
+QByteArray AssignTask::resultDocument() const
 {
-    return std::make_unique<ValueRows>(m_dialog);
+    return assignmentsToJson(m_dialog.assignments());
+}
+
+QString AssignTask::start(const StartFile &file)
+{
+    // Its lines are for people: the numbers in them are rounded and in display units.
+    QList<AttrAssignment> assignments;
+    DocumentProblem problem;
+    if (!assignmentsFromJson(file.content(), &assignments, &problem))
+        return file.problemIn(problem);
+    return file.problemIn(m_dialog.restoreAssignments(assignments, addTo(m_dialog)), "assignments");
 }
 
 std::unique_ptr<Walk> AssignTask::newWalk(const QString &pictureDirectory)

@@ -16,7 +16,8 @@ public:
 
     TvxAttributesSelectionDialog &dialog() override;
     QStringList resultLines() const override;
-    std::unique_ptr<StartRows> newStartRows() override;
+    QByteArray resultDocument() const override;
+    QString start(const StartFile &file) override;
     std::unique_ptr<Walk> newWalk(const QString &pictureDirectory) override;
 
 private:

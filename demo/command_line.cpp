@@ -22,7 +22,8 @@ constexpr TextOption textOptions[] = {
     {"units", "text", "Display units, such as mm or inch."},
     {"language", "code", "Language of the dialog, such as de."},
     {"filter", "text", "Filter text to start with."},
-    {"start", "file", "Rows to start with, written as the program prints them."},
+    {"start", "file", "What to start with: a file of --save, or lines of the filter dialog as printed."},
+    {"save", "file", "File to save the result in after OK, as JSON."},
     {"walk", "dir", "Work the dialog by key and mouse, and save a picture of each step in <dir>."},
 };
 
@@ -94,6 +95,7 @@ void CommandLine::takeTexts()
     m_options.language = m_parser.value(latin("language"));
     m_options.filterText = m_parser.value(latin("filter"));
     m_options.startFile = m_parser.value(latin("start"));
+    m_options.saveFile = m_parser.value(latin("save"));
     m_options.walkDirectory = m_parser.value(latin("walk"));
     m_options.dark = m_parser.isSet(latin("dark"));
     m_options.accept = m_parser.isSet(latin("accept"));

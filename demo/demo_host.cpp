@@ -8,9 +8,8 @@
 #include "gdm/host/gen_services.h"
 #include "gen/gen_control.h"
 #include "report.h"
-#include "start_rows.h"
+#include "start_file.h"
 #include "task.h"
-#include "tvx/tvx_control.h"
 #include "walk.h"
 
 #include <QApplication>
@@ -20,6 +19,7 @@
 #include <QLineEdit>
 #include <QLocale>
 #include <QPushButton>
+#include <QSaveFile>
 
 namespace Zudunmaf::demo
 {
@@ -55,9 +55,11 @@ ExitCode DemoHost::run()
         return refuse(problem);
 
     const ExitCode code = work(*task);
-    if (code == ExitAccepted)
-        print(task->resultLines());
-    return code;
+    if (code != ExitAccepted)
+        return code;
+    print(task->resultLines());
+    problem = save(*task);
+    return problem.isEmpty() ? code : refuse(problem);
 }
 
 QString DemoHost::setUp()
@@ -128,17 +130,26 @@ QString DemoHost::prepare(Task &task)
     if (m_options.units != -1)
         dialog.setDisplayUnits(m_options.units);
     if (!m_options.startFile.isEmpty()) {
-        const std::unique_ptr<StartRows> rows = task.newStartRows();
-        const QString problem = rows->read(m_options.startFile);
+        StartFile file;
+        QString problem = file.read(m_options.startFile);
+        if (problem.isEmpty())
+            problem = task.start(file);
         if (!problem.isEmpty())
             return problem;
-        const QList<QTableWidgetItem *> items = rows->items();
-        for (const QTableWidgetItem *item : items)
-            tvx::addChosen(dialog, *item);
     }
     if (!m_options.filterText.isEmpty())
         widgets.filterText->setText(m_options.filterText);
     return QString();
+}
+
+QString DemoHost::save(const Task &task) const
+{
+    if (m_options.saveFile.isEmpty())
+        return QString();
+    QSaveFile file(m_options.saveFile);
+    if (file.open(QIODevice::WriteOnly) && file.write(task.resultDocument()) >= 0 && file.commit())
+        return QString();
+    return QStringLiteral("%1: %2").arg(m_options.saveFile, file.errorString());
 }
 
 ExitCode DemoHost::work(Task &task)

@@ -26,6 +26,7 @@ private:
     QString loadDictionary();
     QString readConfiguration();
     QString prepare(Task &task);
+    QString save(const Task &task) const;
 
     void speakLanguage();
     ExitCode work(Task &task);

@@ -16,10 +16,14 @@ public:
 
     TvxAttributesSelectionDialog &dialog() override;
     QStringList resultLines() const override;
-    std::unique_ptr<StartRows> newStartRows() override;
+    QByteArray resultDocument() const override;
+    QString start(const StartFile &file) override;
     std::unique_ptr<Walk> newWalk(const QString &pictureDirectory) override;
 
 private:
+    QString readLines(const StartFile &file, QList<AttrCondition> *conditions) const;
+
+    int m_did;
     AttributesFilterDialog m_dialog;
 };
 

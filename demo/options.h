@@ -16,6 +16,7 @@ struct Options {
     QString language;
     QString filterText;
     QString startFile;
+    QString saveFile;
     QString walkDirectory; ///< Not empty: the program itself works the dialog.
     int units = -1;        ///< Code of the display units, -1 for none.
     bool dark = false;     ///< Light text on a dark ground, whatever the desktop says.

@@ -29,34 +29,51 @@ refused() {
 }
 
 walk_of_filter() {
-    "$program" filter --walk pictures >got
+    "$program" filter --walk pictures --save walked.json >got
     printf '%s\n' '5 <= width <= 9' 'film_polarity = negative' 'layer_name' >wanted
     same "the lines of the walk"
     [ -s pictures/01-open.png ] && [ -s pictures/02-layer.png ] || fail "no pictures"
+    opened_again filter
 }
 
 walk_of_assign() {
-    "$program" assign --walk pictures --units mm >got
+    "$program" assign --walk pictures --units mm --save walked.json >got
     printf '%s\t%s\n' vertex_count 4 rotation '2.500 deg' shape octagon copper_note thin \
         corner_radius '0.010 inch' >wanted
     same "the lines of the walk"
     [ -s pictures/01-open.png ] || fail "no pictures"
+    opened_again assign --units inch
+    # Values are kept in the units of their definitions; only the lines follow the display units.
+    "$program" assign --accept --start walked.json --save again.json >got
+    cmp walked.json again.json || fail "other values under other units"
 }
 
-# What is printed can be given back, and comes out again as it was.
+# opened_again DIALOG ARGUMENT...: what was saved comes back byte for byte, with the lines of the file "wanted".
+opened_again() {
+    "$program" "$@" --accept --start walked.json --save again.json >got
+    same "the lines of what was saved"
+    cmp walked.json again.json || fail "another document"
+}
+
+# What is printed can be given back, and comes out again as it was; so does the document that is made of it.
 start_of_filter() {
     printf '%s\n' '5 <= width <= 9' '0.100 <= spacing_min <= 0.250' 'base_copper = 18 µm' 'remark = a = b <= c' \
         'locked' 'remark' 'width' >wanted
-    "$program" filter --accept --start wanted >got
+    "$program" filter --accept --start wanted --save walked.json >got
     same "the conditions of a start file"
-    refused 'wanted:2: there is no attribute' filter --accept --start wanted --dictionary "$(small_dictionary)"
-    start_line '5 <= wodth <= 9' wodth
-    start_line '0 <= width <= 9' '1 to 100'
+    opened_again filter
+    refused 'wanted:2: no attribute' filter --accept --start wanted --dictionary "$(small_dictionary)"
+    refused 'walked.json: conditions[1]: there is no attribute' \
+        filter --accept --start walked.json --dictionary small.json
+    start_line '5 <= wodth <= 9' "no attribute of the dictionary gives the line '5 <= wodth <= 9'"
+    start_line '5 <= width <= 9.5' 'no attribute'
+    start_line '5 <= remark <= 9' 'no attribute'
+    start_line 'width = 5' 'no attribute'
+    start_line '0 <= width <= 9' 'beyond the limits 1 to 100'
     start_line '9 <= width <= 5' 'above'
-    start_line '5 <= width <= 9.5' 'no whole number'
-    start_line '5 <= remark <= 9' 'takes no bounds'
-    start_line 'width = 5' 'equals nothing'
-    start_line 'film_polarity = upside' 'no option'
+    start_line 'film_polarity = upside' "no option 'upside'"
+    sed 's/"high": 9/"high": "nine"/' walked.json >bad
+    refused 'bad: conditions[0].high: is no number' filter --accept --start bad
 }
 
 small_dictionary() {
@@ -76,18 +93,32 @@ start_line() {
 }
 
 start_of_assign() {
-    printf '%s\t%s\n' width 12 line_width '0.012 inch' shape octagon fill_pattern '' remark 'two  words' \
-        mirrored '' scale_x 1.5 >lines
-    grep -v scale_x lines >wanted
-    "$program" assign --accept --units inch --start wanted >got
+    printf '%s\t%s\n' width 12 line_width '0.012 inch' shape octagon fill_pattern '' remark 'two  words' mirrored '' >wanted
+    cat >walked.json <<'JSON'
+{"version": 1, "assignments": [
+    {"name": "width", "type": "integer", "value": 12},
+    {"name": "line_width", "type": "float", "value": 12.3, "units": 2, "unitsText": "mil"},
+    {"name": "shape", "type": "option", "value": "octagon"},
+    {"name": "fill_pattern", "type": "option", "value": ""},
+    {"name": "remark", "type": "text", "value": "two  words"},
+    {"name": "mirrored", "type": "boolean", "value": true}]}
+JSON
+    "$program" assign --accept --units inch --start walked.json --save saved.json >got
     same "the values of a start file"
-    refused 'lines:7: there is no attribute' assign --accept --start lines
-    for line in 'width\tmany' 'width\t101' 'line_width\t3 ohm' 'line_width\t9 mm' 'shape\tflat' 'mirrored\tyes'; do
-        printf "remark\t\n$line\n" >bad
-        refused 'bad:2: ' assign --accept --start bad
-    done
-    printf 'width\nwidth\n' >bad
-    refused 'bad:2: ' assign --accept --start bad
+    mv saved.json walked.json
+    opened_again assign --units inch
+    start_value 's/: 12$/: 101/' 'assignments[0]: 101 is beyond the limits 1 to 100'
+    start_value 's/: 12$/: "many"/' 'assignments[0].value: is no whole number'
+    start_value 's/octagon/flat/' "no option 'flat'"
+    start_value 's/"mm"/"ohm"/' "the units 'ohm'"
+    start_value 's/line_width/scale_x/' "'scale_x' is not available"
+    start_value 's/line_width/width/' "'width' has a value already"
+}
+
+# start_value SED_SCRIPT WORD: refused, for the word.
+start_value() {
+    sed "$1" walked.json >bad
+    refused "$2" assign --accept --units inch --start bad
 }
 
 refusals() {
@@ -105,7 +136,8 @@ refusals() {
     refused 'bad.json' filter --accept --dictionary bad.json
     printf '[General]\nedt_disp_attr_by_prompt=perhaps\n' >bad.ini
     refused 'edt_disp_attr_by_prompt' filter --accept --config bad.ini
-    "$program" --help | grep -q -- '--start' || fail "no help"
+    refused 'nowhere/saved.json' filter --accept --save nowhere/saved.json
+    "$program" --help | grep -q -- '--save' || fail "no help"
     "$program" --version | grep -q '^zudunmaf-demo [0-9]' || fail "no version"
     # A walk over attributes that it does not know ends with the step.
     status=0
