@@ -133,7 +133,8 @@ void gen__torvex_units_convert_f(float *value, int unitsClass, int code)
 int gen__torvex_get_str_units(const char *text)
 {
     host().note("get_units", text);
-    return qstrcmp(text, "mm") == 0 ? 2 : 77;
+    const QList<QByteArray> known{"inch", "mm", "mil"};
+    return qstrcmp(text, "furlong") == 0 ? -1 : known.contains(text) ? int(known.indexOf(text)) + 1 : 77;
 }
 
 void gen__log_status_check(const char *file, int line)
