@@ -47,31 +47,49 @@ RestoreResult makeCondition(const AttrCondition &condition, AvailableItems *avai
     return result;
 }
 
-/// Converts a float and checks every other value; `value` holds what the item takes.
+/// Checks a number, and converts a float into the units of the definition.
+RestoreResult takeNumber(const AttrAssignment &assignment, const DmlAttrDef &definition, int displayUnits,
+                         QVariant *value)
+{
+    bool isNumber = false;
+    const double number = value->toDouble(&isNumber);
+    if (!isNumber)
+        return refusal(RestoreOutOfRange, "'%1' is no number", value->toString());
+    if (definition.type == DmlAttrInteger) {
+        const QString problem = problemOfInteger(number, definition);
+        if (problem.isEmpty())
+            *value = int(number);
+        return rangeResult(problem);
+    }
+    const NumberUnits units(assignment.units, assignment.unitsText, definition.unitsClass);
+    if (units.isUnknown() || units.isOneWithout())
+        return unknownUnits(assignment.unitsText);
+    *value = units.converted(number);
+    return rangeResult(problemOfFloat(value->toDouble(), definition, displayUnits));
+}
+
+/// Makes the value that the item takes, or says why the definition does not take it.
 RestoreResult takeValue(const AttrAssignment &assignment, const DmlAttrDef &definition, int displayUnits,
                         QVariant *value)
 {
     *value = assignment.value;
-    if (!value->isValid()) {
-        if (definition.type == DmlAttrText || definition.type == DmlAttrOption)
-            *value = QString();
+    const bool isText = definition.type == DmlAttrText || definition.type == DmlAttrOption;
+    if (isText)
+        *value = value->isValid() ? value->toString() : QString();
+    if (!value->isValid())
         return RestoreResult();
-    }
     switch (definition.type) {
+    case DmlAttrBoolean:
+        *value = value->toBool();
+        return RestoreResult();
     case DmlAttrOption:
         // An option without a default has an empty text, which names no entry.
         if (!value->toString().isEmpty() && indexOfOption(definition, value->toString()) == -1)
             return refusal(RestoreOptionGone, "there is no option '%1'", value->toString());
         return RestoreResult();
     case DmlAttrInteger:
-        return rangeResult(problemOfInteger(value->toDouble(), definition));
-    case DmlAttrFloat: {
-        const NumberUnits units(assignment.units, assignment.unitsText, definition.unitsClass);
-        if (units.isUnknown() || units.isOneWithout())
-            return unknownUnits(assignment.unitsText);
-        *value = units.converted(value->toDouble());
-        return rangeResult(problemOfFloat(value->toDouble(), definition, displayUnits));
-    }
+    case DmlAttrFloat:
+        return takeNumber(assignment, definition, displayUnits, value);
     default:
         return RestoreResult();
     }

@@ -36,7 +36,7 @@ struct RestoreResult {
 /// library's and is gone after the call.
 typedef std::function<bool(const QTableWidgetItem &item)> AddToChosen;
 
-/// What restoring goes by: a dialog's tables as they are before it. AttributesFilterDialog::restoreConditions() and
+/// The dictionary and the tables of a dialog before anything is restored. AttributesFilterDialog::restoreConditions() and
 /// FeatureAttributesDialog::restoreAssignments() fill it in.
 struct RestoreTarget {
     int did = -1; ///< The dictionary; negative for none.

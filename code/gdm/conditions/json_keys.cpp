@@ -22,7 +22,7 @@ struct Level {
     QSet<QString> keys;
 };
 
-/// The end of the text that begins at `start` with its quote, behind the closing quote.
+/// Returns the position after the closing quote of the text that opens at `start`.
 int endOfText(const QByteArray &json, int start)
 {
     int end = start + 1;

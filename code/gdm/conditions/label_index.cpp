@@ -47,7 +47,8 @@ QList<const DmlAttrDef *> LabelIndex::candidates(const QString &line) const
         labels << line.mid(start, end - start);
 
     QList<const DmlAttrDef *> found = m_withPlaceholder;
-    for (const QString &label : labels)
+    const QSet<QString> &each = labels;
+    for (const QString &label : each)
         found += m_byLabel.value(label);
     return found;
 }
