@@ -96,8 +96,14 @@ private Q_SLOTS:
         } else {
             attribute.setAttrValue(33);
         }
+        FeatureAttrLWI otherValue;
+        AttrFilterLWI otherCondition;
+        DmlAttrLWI &other = inFilter() ? static_cast<DmlAttrLWI &>(otherValue) : otherCondition;
+        other.setDmlAttribute(attribute.dmlAttribute());
+        QVERIFY(!tvx::addChosen(*dialog, other));
         QVERIFY(tvx::addChosen(*dialog, *item));
         QCOMPARE(tvx::addChosen(*dialog, *item), inFilter());
+        QVERIFY(!tvx::addChosen(*dialog, other));
         QVERIFY(!tvx::addChosen(*dialog, QTableWidgetItem()));
         QVERIFY(show());
         QCOMPARE(results().join(';'), pick("3 <= width <= 100;3 <= width <= 100", "33"));
