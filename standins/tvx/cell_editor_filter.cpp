@@ -17,11 +17,25 @@ namespace tvx
 namespace
 {
 
-/// True for a spin box that would replace its text by its last value before a step, or when it loses the focus.
 bool holdsRefusedText(const QWidget *widget)
 {
     const auto *box = qobject_cast<const QAbstractSpinBox *>(widget);
     return box && NumberEntry(*box).state() != NumberEntry::Accepted;
+}
+
+/// A step from beyond a limit stops at the limit. The box itself would step from its last value. False for a number that
+/// the box can step from.
+bool stepToLimit(const QWidget *widget)
+{
+    if (!holdsRefusedText(widget))
+        return false;
+    const auto *box = qobject_cast<const QAbstractSpinBox *>(widget);
+    const NumberEntry entry(*box);
+    if (entry.state() == NumberEntry::TooLow)
+        NumberEntry::lineOf(*box)->setText(entry.minimum());
+    else if (entry.state() == NumberEntry::TooHigh)
+        NumberEntry::lineOf(*box)->setText(entry.maximum());
+    return true;
 }
 
 } // namespace
@@ -85,6 +99,7 @@ bool CellEditorFilter::eventFilter(QObject *watched, QEvent *event)
         event->ignore();
         return true;
     case QEvent::FocusOut:
+    case QEvent::Show:
     case QEvent::Hide:
         deliverKeepingText(widget, event);
         return true;
@@ -94,7 +109,7 @@ bool CellEditorFilter::eventFilter(QObject *watched, QEvent *event)
     case QEvent::MouseButtonDblClick:
     case QEvent::ContextMenu:
         // The arrows of a spin box, and its menu with steps. The text is a widget of its own.
-        return holdsRefusedText(widget);
+        return stepToLimit(widget);
     default:
         return QObject::eventFilter(watched, event);
     }
@@ -119,7 +134,7 @@ bool CellEditorFilter::filterKey(QWidget *widget, const QKeyEvent *event)
     case Qt::Key_Down:
     case Qt::Key_PageUp:
     case Qt::Key_PageDown:
-        return holdsRefusedText(widget);
+        return stepToLimit(widget);
     default:
         return false;
     }
@@ -133,16 +148,18 @@ bool CellEditorFilter::leaveBy(const QWidget *last, const QWidget *widget)
     return true;
 }
 
-/// Delivers the event to the widget alone. A spin box that loses the focus or is hidden replaces a text that it refuses by
-/// its last value, and the text is what the user entered.
+/// Delivers the event to the widget alone. A spin box would replace a text that it refuses by its last value, so only its
+/// line hears of the focus then, and nothing of being shown or hidden, as when the window is minimised.
 void CellEditorFilter::deliverKeepingText(QWidget *widget, QEvent *event)
 {
-    const auto *box = qobject_cast<const QAbstractSpinBox *>(widget);
-    QLineEdit *line = holdsRefusedText(widget) ? NumberEntry::lineOf(*box) : nullptr;
-    const QString typed = line ? line->text() : QString();
-    static_cast<QObject *>(widget)->event(event);
-    if (line)
-        line->setText(typed);
+    QObject *receiver = widget;
+    if (holdsRefusedText(widget)) {
+        if (event->type() != QEvent::FocusOut)
+            return;
+        receiver = NumberEntry::lineOf(*static_cast<QAbstractSpinBox *>(widget));
+        widget->update();
+    }
+    receiver->event(event);
 }
 
 } // namespace tvx

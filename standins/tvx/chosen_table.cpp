@@ -5,7 +5,6 @@
 #include "tvx/editor_note.h"
 #include "tvx/number_entry.h"
 #include "tvx/text_choices.h"
-#include "tvx/tvx_texts.h"
 
 #include <QAbstractSpinBox>
 #include <QApplication>
@@ -144,13 +143,12 @@ bool ChosenTable::edit(const QModelIndex &index, EditTrigger trigger, QEvent *ev
 void ChosenTable::prepareEditor(int row)
 {
     makeRoomFor(m_editor);
-    forgetRefusal();
     m_isHiddenEdit = false;
     auto boxes = m_editor->findChildren<QAbstractSpinBox *>();
     if (auto *box = qobject_cast<QAbstractSpinBox *>(m_editor.data()))
         boxes.append(box);
     for (QAbstractSpinBox *box : std::as_const(boxes))
-        NumberEntry::acceptEveryNumber(box);
+        NumberEntry::acceptEveryText(box);
     if (const auto *choices = TextChoices::attach(m_editor, *rowItem(row)))
         connect(this, &ChosenTable::editingEnded, choices, &QWidget::hide);
 
@@ -194,6 +192,7 @@ bool ChosenTable::tryFinishEditing()
     if (isEntryRefused()) {
         showMessage(m_content->refusal());
         m_content->selectRefused();
+        m_content->announceRefused();
         return false;
     }
     finishEditing();
@@ -244,15 +243,15 @@ void ChosenTable::noteEdit()
 void ChosenTable::showMessage(const QString &message)
 {
     if (!m_note)
-        m_note = new EditorNote(window());
-    m_note->showMessage(message, *m_editor);
+        m_note = new EditorNote(viewport());
+    const QWidget *box = m_content->refusedBox();
+    m_note->showMessage(message, box ? *box : *m_editor);
     m_content->describeRefused(message);
 }
 
 void ChosenTable::rememberRefusal()
 {
-    m_lastRefusal = textOf(texts::NotStored)
-                        .arg(m_editor->accessibleName(), m_content->refusedText(), m_content->refusal());
+    m_lastRefusal = m_content->refusalSentences();
     m_isRefusalNew = true;
     QMetaObject::invokeMethod(
         this, [this] { m_isRefusalNew = false; }, Qt::QueuedConnection);
@@ -304,6 +303,8 @@ void ChosenTable::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHin
         // The window's focus, which stays where it is while the window is hidden.
         const QWidget *focus = window()->focusWidget();
         const bool hadFocus = focus == editor || editor->isAncestorOf(focus);
+        if (!m_isRefusalNew)
+            forgetRefusal();
         m_editor = nullptr;
         m_content = nullptr;
         m_filter = nullptr;

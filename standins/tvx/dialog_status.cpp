@@ -73,6 +73,12 @@ void setEnabled(QPushButton *button, bool enabled, QWidget *table)
     button->setEnabled(enabled);
 }
 
+void describe(QWidget *widget, const QString &description)
+{
+    if (widget->accessibleDescription() != description)
+        widget->setAccessibleDescription(description);
+}
+
 void setText(QLabel *label, const QString &text)
 {
     if (label->text() != text)
@@ -122,8 +128,8 @@ void DialogStatus::updateTexts() const
     TopTable *top = m_widgets.topView;
     ChosenTable *chosen = m_widgets.chosenList;
     top->setEmptyText(offerText());
-    top->setAccessibleDescription(top->shownEmptyText());
-    chosen->setAccessibleDescription(chosen->shownEmptyText());
+    describe(top, top->shownEmptyText());
+    describe(chosen, chosen->lastRefusal().isEmpty() ? chosen->shownEmptyText() : chosen->lastRefusal());
 
     setText(m_widgets.description, describedText());
     const QTableWidgetItem *current = chosen->rowItem(chosen->currentRow());

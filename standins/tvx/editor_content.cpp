@@ -4,8 +4,10 @@
 #include "gdm/items/attr_records.h"
 #include "gdm/items/attr_roles.h"
 #include "tvx/number_entry.h"
+#include "tvx/tvx_texts.h"
 
 #include <QAbstractSpinBox>
+#include <QAccessible>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMetaProperty>
@@ -145,17 +147,27 @@ bool EditorContent::isChanged() const
     return m_parts.isEmpty() || m_isConfirmed || content() != m_loaded || (m_isTouched && !m_showsValue);
 }
 
-const QAbstractSpinBox *EditorContent::refusedBox() const
+QVector<const QAbstractSpinBox *> EditorContent::refusedBoxes() const
 {
+    QVector<const QAbstractSpinBox *> refused;
     if (content() == m_loaded)
-        return nullptr;
-    const QAbstractSpinBox *refused = nullptr;
+        return refused;
     for (const QWidget *part : m_parts) {
         const auto *box = qobject_cast<const QAbstractSpinBox *>(part);
-        if (box && NumberEntry(*box).state() != NumberEntry::Accepted && (!refused || box->hasFocus()))
-            refused = box;
+        if (box && NumberEntry(*box).state() != NumberEntry::Accepted)
+            refused.append(box);
     }
     return refused;
+}
+
+const QAbstractSpinBox *EditorContent::refusedBox() const
+{
+    const auto boxes = refusedBoxes();
+    for (const QAbstractSpinBox *box : boxes) {
+        if (box->hasFocus())
+            return box;
+    }
+    return boxes.value(0);
 }
 
 bool EditorContent::isUnfinished() const
@@ -170,10 +182,14 @@ QString EditorContent::refusal() const
     return box ? NumberEntry(*box).refusal(m_units) : QString();
 }
 
-QString EditorContent::refusedText() const
+QString EditorContent::refusalSentences() const
 {
-    const QAbstractSpinBox *box = refusedBox();
-    return box ? box->text() : QString();
+    QStringList sentences;
+    const auto boxes = refusedBoxes();
+    for (const QAbstractSpinBox *box : boxes)
+        sentences.append(tvx::textOf(texts::NotStored)
+                             .arg(box->accessibleName(), box->text(), NumberEntry(*box).refusal(m_units)));
+    return sentences.join(QLatin1Char(' '));
 }
 
 void EditorContent::selectRefused() const
@@ -194,6 +210,15 @@ void EditorContent::describeRefused(const QString &message) const
         const QString description = part == refused ? message : QString();
         if (part->accessibleDescription() != description)
             part->setAccessibleDescription(description);
+    }
+}
+
+void EditorContent::announceRefused() const
+{
+    for (QWidget *part : m_parts) {
+        QAccessibleEvent event(part, QAccessible::DescriptionChanged);
+        if (part == refusedBox())
+            QAccessible::updateAccessibility(&event);
     }
 }
 

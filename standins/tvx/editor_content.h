@@ -37,14 +37,18 @@ public:
     bool isRefused() const { return refusedBox() != nullptr; }
     /// True if the refused entry may become a number as the user types on.
     bool isUnfinished() const;
-    /// Why the entry is refused, as a sentence with the limit and its units; empty if it is not.
+    /// The box with the refused entry, that which has the focus if there are two; null if none is refused.
+    const QAbstractSpinBox *refusedBox() const;
+    /// Why the entry is refused, with the limit and its units; empty if it is not.
     QString refusal() const;
-    /// The text of the refused entry; empty if none is refused.
-    QString refusedText() const;
+    /// The same as sentences, one for each refused box, with the texts in the boxes.
+    QString refusalSentences() const;
     /// Gives the focus to the box with the refused entry and selects it.
     void selectRefused() const;
     /// Makes `message` the accessible description of the box with the refused entry, and clears that of the others.
     void describeRefused(const QString &message) const;
+    /// Has a screen reader read that description once more.
+    void announceRefused() const;
 
     /// Makes the spin boxes read their texts. Not for a refused entry, which they would replace.
     void interpret() const;
@@ -61,7 +65,7 @@ private:
     QStringList texts() const;
     QStringList content() const;
     bool showsValueOf(const QTableWidgetItem &item) const;
-    const QAbstractSpinBox *refusedBox() const;
+    QVector<const QAbstractSpinBox *> refusedBoxes() const;
 
     /// The widgets that hold the content.
     QVector<QWidget *> m_parts;

@@ -10,23 +10,24 @@ namespace Zudunmaf
 namespace tvx
 {
 
-void showBesideEditor(QWidget *widget, const QWidget &editor)
+void showBeside(QWidget *widget, const QWidget &editor)
 {
-    const QWidget *window = widget->parentWidget();
-    const QSize size = widget->sizeHint().boundedTo(window->size());
-    const QPoint below = editor.mapTo(window, QPoint(0, editor.height()));
-    const QPoint above = editor.mapTo(window, QPoint(0, -size.height()));
-    QRect area(below.y() + size.height() <= window->height() ? below : above, size);
+    const QWidget *viewport = widget->parentWidget();
+    const QRect at(editor.mapTo(viewport, QPoint()), editor.size());
+    const int below = viewport->height() - at.bottom() - 1;
+    const bool isBelow = widget->sizeHint().height() <= below || below >= at.top();
+    const QSize size = widget->sizeHint().boundedTo(QSize(viewport->width(), isBelow ? below : at.top()));
+    QRect area(QPoint(at.left(), isBelow ? at.bottom() + 1 : at.top() - size.height()), size);
     if (editor.isRightToLeft())
-        area.moveRight(editor.mapTo(window, QPoint(editor.width() - 1, 0)).x());
-    area.moveLeft(std::clamp(area.left(), 0, window->width() - area.width()));
+        area.moveRight(at.right());
+    area.moveLeft(std::clamp(area.left(), 0, viewport->width() - area.width()));
     widget->setGeometry(area);
     widget->raise();
     widget->show();
 }
 
-EditorNote::EditorNote(QWidget *window)
-    : QLabel(window)
+EditorNote::EditorNote(QWidget *viewport)
+    : QLabel(viewport)
 {
     hide();
     setObjectName(QLatin1String("editorNote"));
@@ -47,7 +48,7 @@ void EditorNote::showMessage(const QString &message, const QWidget &editor)
     setHidden(message.isEmpty());
     if (message.isEmpty())
         return;
-    showBesideEditor(this, editor);
+    showBeside(this, editor);
     if (isNew) {
         QAccessibleEvent alert(this, QAccessible::Alert);
         QAccessible::updateAccessibility(&alert);

@@ -8,17 +8,18 @@ namespace Zudunmaf
 namespace tvx
 {
 
-/// Places a widget of the editor's window below the editor, or above it where there is no room below, and shows it.
-void showBesideEditor(QWidget *widget, const QWidget &editor);
+/// Places a child of the table's viewport below an editor, or a widget in it, and shows it; above, if there is more room.
+/// As a child of the viewport it moves with the rows.
+void showBeside(QWidget *widget, const QWidget &editor);
 
-/// A short message at an open cell editor, above the tables. It takes neither focus nor mouse, so that whatever the
+/// A short message at an open cell editor, above the cells. It takes neither focus nor mouse, so that whatever the
 /// user does next reaches its target at once.
 class EditorNote : public QLabel
 {
     Q_OBJECT
 
 public:
-    explicit EditorNote(QWidget *window);
+    explicit EditorNote(QWidget *viewport);
 
     /// Shows the message beside the editor and alerts a screen reader to a new one. Hides the note for an empty message.
     void showMessage(const QString &message, const QWidget &editor);

@@ -5,10 +5,10 @@
 #include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QLocale>
-#include <QRegularExpression>
 #include <QSpinBox>
 #include <QValidator>
 
+#include <algorithm>
 #include <utility>
 
 namespace Zudunmaf
@@ -38,15 +38,14 @@ std::pair<double, double> limitsOf(const QAbstractSpinBox &box)
     return decimal ? std::make_pair(decimal->minimum(), decimal->maximum()) : std::make_pair(0.0, 0.0);
 }
 
-/// Accepts what the box accepts, and holds every other number as one that is not finished. A fraction is a number for
-/// a box of whole numbers too: with the point dropped, 12.5 would read 125.
-class EveryNumberValidator : public QValidator
+/// Refuses no key. What the box does not accept stays as it was typed or pasted, for NumberEntry to refuse as a whole: with
+/// the point dropped, 12.5 in a box of whole numbers would read 125.
+class EveryTextValidator : public QValidator
 {
 public:
-    explicit EveryNumberValidator(QAbstractSpinBox *box)
+    explicit EveryTextValidator(QAbstractSpinBox *box)
         : QValidator(box)
         , m_box(box)
-        , m_number(QStringLiteral("^\\s*[+-]?\\d*([.,]\\d*)?\\s*$"))
     {
     }
 
@@ -54,13 +53,11 @@ public:
     {
         const QString point(m_box->locale().decimalPoint());
         input.replace(QLatin1Char(point == QLatin1String(".") ? ',' : '.'), point);
-        const State state = m_box->validate(input, position);
-        return state == Invalid && m_number.match(input).hasMatch() ? Intermediate : state;
+        return std::max(Intermediate, m_box->validate(input, position));
     }
 
 private:
     const QAbstractSpinBox *m_box;
-    QRegularExpression m_number;
 };
 
 } // namespace
@@ -70,10 +67,10 @@ NumberEntry::NumberEntry(const QAbstractSpinBox &box)
 {
 }
 
-void NumberEntry::acceptEveryNumber(QAbstractSpinBox *box)
+void NumberEntry::acceptEveryText(QAbstractSpinBox *box)
 {
     if (holdsNumber(*box))
-        lineOf(*box)->setValidator(new EveryNumberValidator(box));
+        lineOf(*box)->setValidator(new EveryTextValidator(box));
 }
 
 QLineEdit *NumberEntry::lineOf(const QAbstractSpinBox &box)
@@ -89,8 +86,10 @@ NumberEntry::State NumberEntry::state() const
         return Accepted;
     bool isNumber = false;
     const double number = m_box.locale().toDouble(text.trimmed(), &isNumber);
-    if (!isNumber)
-        return Unfinished;
+    if (!isNumber) {
+        const bool isSign = text.isEmpty() || text == QLatin1String("-") || text == QLatin1String("+");
+        return isSign ? Unfinished : NoNumber;
+    }
     const auto limits = limitsOf(m_box);
     if (number < limits.first)
         return TooLow;
@@ -128,6 +127,7 @@ QString NumberEntry::refusal(const QString &units) const
             return textOf(texts::MostDecimals).arg(decimals);
         return textOf(texts::WholeNumberNeeded).arg(minimum(), withUnits(maximum()));
     case Unfinished:
+    case NoNumber:
         return textOf(texts::NumberNeeded).arg(minimum(), withUnits(maximum()));
     case Accepted:
         break;

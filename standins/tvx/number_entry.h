@@ -14,14 +14,15 @@ namespace tvx
 /// The number that is being typed into a QSpinBox or QDoubleSpinBox: whether the box accepts it, and which limit it
 /// breaks. Every text in a spin box of another class is accepted. Refers to the box, which must outlive it.
 ///
-/// A spin box of Qt drops each key that would lead beyond a limit, so that 150 becomes 15. After acceptEveryNumber() its
+/// A spin box of Qt drops each key that would lead beyond a limit, so that 150 becomes 15. After acceptEveryText() its
 /// text is what was typed or pasted, while its value stays the last one within the limits.
 class NumberEntry
 {
 public:
     enum State {
         Accepted,
-        Unfinished, ///< no number yet, such as a sign alone
+        Unfinished, ///< empty, or a sign alone
+        NoNumber,
         TooLow,
         TooHigh,
         TooPrecise ///< more decimals than the box has
@@ -29,9 +30,9 @@ public:
 
     explicit NumberEntry(const QAbstractSpinBox &box);
 
-    /// Lets the user type any number, with a point or a comma as its decimal separator. Does nothing to a spin box of
+    /// Lets the user type any text, with a point or a comma as its decimal separator. Does nothing to a spin box of
     /// another class.
-    static void acceptEveryNumber(QAbstractSpinBox *box);
+    static void acceptEveryText(QAbstractSpinBox *box);
     /// The line of text inside a spin box.
     static QLineEdit *lineOf(const QAbstractSpinBox &box);
 

@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QTableWidgetItem>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -48,12 +49,19 @@ TextChoices *TextChoices::attach(QWidget *editor, const QTableWidgetItem &item)
 }
 
 TextChoices::TextChoices(QComboBox *box)
-    : QListWidget(box->window())
+    : QListWidget(box->parentWidget())
     , m_box(box)
 {
     hide();
     setObjectName(QLatin1String("textChoices"));
-    setFocusPolicy(Qt::NoFocus);
+    // A click must not give the focus to the table, which would end the edit.
+    setFocusPolicy(Qt::ClickFocus);
+    setFocusProxy(box);
+    setFrameStyle(QFrame::Panel | QFrame::Raised);
+    QPalette colours = palette();
+    colours.setColor(QPalette::Base, QToolTip::palette().color(QPalette::ToolTipBase));
+    colours.setColor(QPalette::Text, QToolTip::palette().color(QPalette::ToolTipText));
+    setPalette(colours);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     box->installEventFilter(this);
     connect(box, &QObject::destroyed, this, &QObject::deleteLater);
@@ -66,10 +74,11 @@ TextChoices::TextChoices(QComboBox *box)
 
 void TextChoices::offer(const QString &typed)
 {
+    m_typed = typed;
     clear();
     addItems(matches(typed));
     if (count() > 0)
-        showBesideEditor(this, *m_box);
+        showBeside(this, *m_box);
     else
         hide();
 }
@@ -87,11 +96,12 @@ QStringList TextChoices::matches(const QString &typed) const
     return found;
 }
 
+/// Up from the first choice leads back to what was typed.
 bool TextChoices::pick(int step)
 {
-    const int row = std::clamp(currentRow() + step, 0, count() - 1);
+    const int row = std::clamp(currentRow() + step, -1, count() - 1);
     setCurrentRow(row);
-    m_box->setEditText(item(row)->text());
+    m_box->setEditText(row < 0 ? m_typed : item(row)->text());
     return true;
 }
 
@@ -100,13 +110,22 @@ bool TextChoices::eventFilter(QObject *watched, QEvent *event)
     if (event->type() != QEvent::KeyPress || !isVisible())
         return QListWidget::eventFilter(watched, event);
     const auto *key = static_cast<QKeyEvent *>(event);
-    if (key->modifiers() & Qt::AltModifier)
-        return QListWidget::eventFilter(watched, event);
-    if (key->key() == Qt::Key_Down)
+    return !(key->modifiers() & Qt::AltModifier) && filterKey(key->key());
+}
+
+bool TextChoices::filterKey(int key)
+{
+    switch (key) {
+    case Qt::Key_Down:
         return pick(1);
-    if (key->key() == Qt::Key_Up)
+    case Qt::Key_Up:
         return pick(-1);
-    return QListWidget::eventFilter(watched, event);
+    case Qt::Key_Escape:
+        hide();
+        return true;
+    default:
+        return false;
+    }
 }
 
 QSize TextChoices::sizeHint() const

@@ -16,7 +16,7 @@ namespace tvx
 /// the editor, and so does a click.
 ///
 /// A completer would either replace what is typed or open a popup, which takes the next click for itself. The list is
-/// a plain child of the editor's window and never has the focus. It is deleted with the editor.
+/// a plain child of the table's viewport and leaves the focus to the editor. It is deleted with the editor.
 class TextChoices : public QListWidget
 {
     Q_OBJECT
@@ -39,8 +39,10 @@ private:
     void offer(const QString &typed);
     QStringList matches(const QString &typed) const;
     bool pick(int step);
+    bool filterKey(int key);
 
     QComboBox *m_box;
+    QString m_typed;
 };
 
 } // namespace tvx

@@ -113,8 +113,8 @@ private Q_SLOTS:
         choose({"width"});
         click(chosenList, "width");
         press(Qt::Key_F2);
-        type("99");
-        press({Qt::Key_Up, Qt::Key_Up, Qt::Key_PageUp, Qt::Key_Return});
+        type("150");
+        press({Qt::Key_Down, Qt::Key_Up, Qt::Key_PageUp, Qt::Key_Return});
         QCOMPARE(results(), QStringList(pick("100 <= width <= 100", "100")));
     }
 
@@ -164,6 +164,19 @@ private Q_SLOTS:
         QVERIFY(description->text().contains("At most 100"));
         press(Qt::Key_Up);
         QVERIFY(!description->text().contains("At most 100"));
+    }
+
+    void minimisedWindowKeepsARefusedEntry()
+    {
+        choose({"width"});
+        press(Qt::Key_F2);
+        auto *box = qobject_cast<QAbstractSpinBox *>(QApplication::focusWidget());
+        type("150");
+        QHideEvent hidden;
+        QShowEvent shown;
+        QCoreApplication::sendEvent(box, &hidden);
+        QCoreApplication::sendEvent(box, &shown);
+        QCOMPARE(box->text(), QString("150"));
     }
 
     void hostReactsToACommit_data() { addWays({"units", "reject"}); }
@@ -234,8 +247,9 @@ private Q_SLOTS:
         loadDictionary(
             R"({"name": "marking", "type": "text", "entities": "all", "choices": ["White", "yellow", "wide"]})");
         choose({"marking"});
-        const QStringList edits[] = {{"^", ""},       {"v", "White"},  {"WHITE", "WHITE"}, {"w", "w"},
-                                     {"wv", "White"}, {"Wvv", "wide"}, {"*", "wide"},      {"<", ""}};
+        const QStringList edits[] = {{"^", ""},        {"v", "White"},  {"WHITE", "WHITE"},
+                                     {"w", "w"},       {"wv", "White"}, {"wvv^^", "w"},
+                                     {"Wvvv", "wide"}, {"*", "wide"},   {"<", ""}};
         for (const QStringList &edit : edits) {
             press(Qt::Key_F2);
             for (const QChar key : edit[0]) {

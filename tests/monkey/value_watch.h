@@ -11,6 +11,8 @@
 #include <QSet>
 #include <QTableWidget>
 
+#include <algorithm>
+
 /// Checks that the value of a chosen attribute changes only by a commit that the user has caused, or by an action of the
 /// context menu. A commit is the user's if a key, a click or a drop has reached the editor since its last one.
 class ValueWatch : public QObject
@@ -40,7 +42,8 @@ public:
         m_values = valuesOf(dialog);
         const auto inCells =
             tableOf(dialog)->viewport()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
-        if (inCells.isEmpty())
+        if (std::none_of(inCells.begin(), inCells.end(),
+                         [](const QWidget *cell) { return cell->isVisible(); }))
             m_used.clear();
     }
 
