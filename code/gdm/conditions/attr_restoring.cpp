@@ -123,6 +123,7 @@ QList<RestoreResult> restoreConditions(const QList<AttrCondition> &conditions, c
 {
     AvailableItems available(target);
     QList<RestoreResult> results;
+    results.reserve(conditions.size());
     RestoredItems items(std::size_t(conditions.size()));
     for (int i = 0; i < int(conditions.size()); ++i)
         results.append(makeCondition(conditions.at(i), &available, &items[std::size_t(i)]));
@@ -139,6 +140,7 @@ QList<RestoreResult> restoreAssignments(const QList<AttrAssignment> &assignments
             names.insert(item->data(DmlAttrNameRole).toString());
     }
     QList<RestoreResult> results;
+    results.reserve(assignments.size());
     RestoredItems items(std::size_t(assignments.size()));
     for (int i = 0; i < int(assignments.size()); ++i)
         results.append(makeAssignment(assignments.at(i), &available, &names, &items[std::size_t(i)]));

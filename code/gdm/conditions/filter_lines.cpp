@@ -22,6 +22,7 @@ LineResult refusedLine(LineStatus status, const QString &reason)
 QString namesOf(const QList<LineResult> &readings)
 {
     QStringList names;
+    names.reserve(readings.size());
     for (const LineResult &reading : readings)
         names << QLatin1Char('\'') + reading.condition.name + QLatin1Char('\'');
     return names.join(QLatin1String(", "));
@@ -32,6 +33,7 @@ LineResult readLine(const QString &line, const LabelIndex &index, bool byPrompt)
 {
     QList<LineResult> readings;
     const QList<const DmlAttrDef *> candidates = index.candidates(line);
+    readings.reserve(candidates.size());
     for (const DmlAttrDef *definition : candidates) {
         const LineResult reading = readLineAs(*definition, byPrompt, line);
         if (reading.status != LineUnknown)
@@ -57,6 +59,7 @@ QList<LineResult> conditionsFromLines(const QStringList &lines, int did, bool by
         did >= 0 && walkDictionary([did] { return did; }, EntityAll, GDM_HERE,
                                    [&index](const DmlAttrDef *definition) { index.add(definition); });
     QList<LineResult> results;
+    results.reserve(lines.size());
     for (const QString &line : lines)
         results.append(isRead
                            ? readLine(line, index, byPrompt)

@@ -60,6 +60,7 @@ QString placeOf(const std::vector<Level> &levels)
 QString repeatedField(const QByteArray &json)
 {
     std::vector<Level> levels;
+    levels.reserve(4);
     for (int at = 0; at < int(json.size()); ++at) {
         const char character = json.at(at);
         if (character == '{' || character == '[') {

@@ -32,6 +32,7 @@ void LabelIndex::add(const DmlAttrDef *definition)
 QList<const DmlAttrDef *> LabelIndex::candidates(const QString &line) const
 {
     QSet<QString> labels;
+    labels.reserve(4);
     labels << line;
 
     const QString equals = QLatin1String(" = ");
