@@ -40,25 +40,7 @@ private Q_SLOTS:
                     QCOMPARE(bytes(*added[i]), bytes(*available[i]));
             }
 
-            const QList<LineResult> results = conditionsFromLines(lines, 3, byPrompt);
-            for (int i = 0; i < lines.size(); ++i) {
-                if (results[i].status != LineRead) {
-                    ++refused;
-                    const QString label = byPrompt
-                                              ? available[std::size_t(i)]->data(DmlAttrPromptRole).toString()
-                                              : conditions[i].name;
-                    QVERIFY2(results[i].status == LineAmbiguous || label.contains("%L"),
-                             qPrintable(lines[i]));
-                    continue;
-                }
-                ++read;
-                added.clear();
-                const RestoreResult result =
-                    restoreConditions({results[i].condition}, target(available, &added)).first();
-                QVERIFY2(result.status == RestoreDone, qPrintable(result.reason + '|' + lines[i]));
-                QCOMPARE(added[0]->toString(), lines[i]);
-                QCOMPARE(results[i].condition.name, conditions[i].name);
-            }
+            readBack(lines, conditions, available, byPrompt, &read, &refused);
         }
         // Labels alone collide, and those by prompt more often.
         QVERIFY2(read > 4 * refused && refused > 0, qPrintable(QString("%1 %2").arg(read).arg(refused)));
@@ -299,6 +281,29 @@ private:
                     added->emplace_back(static_cast<DmlAttrLWI *>(item.clone()));
                     return true;
                 }};
+    }
+
+    /// Each line is read as the condition that gave it, or is ambiguous.
+    static void readBack(const QStringList &lines, const QList<AttrCondition> &conditions,
+                         const RowSet &available, bool byPrompt, int *read, int *refused)
+    {
+        const QList<LineResult> results = conditionsFromLines(lines, 3, byPrompt);
+        for (int i = 0; i < lines.size(); ++i) {
+            if (results[i].status != LineRead) {
+                ++*refused;
+                const QString label = byPrompt ? available[std::size_t(i)]->data(DmlAttrPromptRole).toString()
+                                               : conditions[i].name;
+                QVERIFY2(results[i].status == LineAmbiguous || label.contains("%L"), qPrintable(lines[i]));
+                continue;
+            }
+            ++*read;
+            RowSet added;
+            const RestoreResult result =
+                restoreConditions({results[i].condition}, target(available, &added)).first();
+            QVERIFY2(result.status == RestoreDone, qPrintable(result.reason + '|' + lines[i]));
+            QCOMPARE(added[0]->toString(), lines[i]);
+            QCOMPARE(results[i].condition.name, conditions[i].name);
+        }
     }
 
     void makeDictionary()
