@@ -7,6 +7,55 @@
 
 using namespace Zudunmaf;
 
+namespace
+{
+
+AttrCondition condition(const char *name, int type, double low, double high, const QString &word = "mm",
+                        int units = 2)
+{
+    AttrCondition made;
+    made.name = name;
+    made.type = type;
+    made.isSet = true;
+    made.low = low;
+    made.high = high;
+    made.units = units;
+    (type == DmlAttrFloat ? made.unitsText : made.text) = word;
+    return made;
+}
+
+/// Conditions of a dictionary that has changed since, and what becomes of each.
+QList<QPair<AttrCondition, RestoreStatus>> changedConditions()
+{
+    return {
+        {condition("width", DmlAttrInteger, 5, 9), RestoreDone},
+        {condition("width", DmlAttrInteger, 5, 10), RestoreOutOfRange},
+        {condition("width", DmlAttrInteger, 4, 9), RestoreOutOfRange},
+        {condition("width", DmlAttrInteger, 7, 6), RestoreOutOfRange},
+        {condition("width", DmlAttrInteger, 5.5, 6), RestoreOutOfRange},
+        {condition("width", DmlAttrText, 5, 9), RestoreTypeChanged},
+        {condition("colour", DmlAttrOption, 0, 0, "deep green"), RestoreDone},
+        {condition("colour", DmlAttrOption, 0, 0, "green"), RestoreOptionGone},
+        {condition("colour", DmlAttrOption, 0, 0, ""), RestoreDone},
+        {condition("note", DmlAttrText, 0, 0, QString(199, 'x')), RestoreDone},
+        {condition("note", DmlAttrText, 0, 0, QString(200, 'x')), RestoreOutOfRange},
+        {condition("note", DmlAttrText, 0, 0, QString(QChar(0))), RestoreOutOfRange},
+        {condition("gone", DmlAttrInteger, 1, 2), RestoreNotAvailable},
+        {condition("never", DmlAttrInteger, 1, 2), RestoreNoSuchAttribute},
+        {condition("depth", DmlAttrFloat, -38.1, 2.5), RestoreDone},
+        {condition("depth", DmlAttrFloat, -1.5, 0.1, "inch", 1), RestoreDone},
+        {condition("depth", DmlAttrFloat, -1.5, double(0.1f), "inch", 1), RestoreDone},
+        {condition("depth", DmlAttrFloat, -1.5, 0.1, "inch", 99), RestoreDone}, // the text counts
+        {condition("depth", DmlAttrFloat, -38.1, 2.6), RestoreOutOfRange},
+        {condition("depth", DmlAttrFloat, -1.5, 0.101, "inch", 1), RestoreOutOfRange},
+        {condition("depth", DmlAttrFloat, std::nan(""), 0, "inch", 1), RestoreOutOfRange},
+        {condition("depth", DmlAttrFloat, -1, 0, "furlong", 5), RestoreUnknownUnits},
+        {condition("depth", DmlAttrFloat, -1, 0, "", -1), RestoreUnknownUnits},
+    };
+}
+
+} // namespace
+
 /// What was chosen is read, saved, restored, and read back from lines.
 class ConditionsTest : public ContractTest
 {
@@ -70,43 +119,7 @@ private Q_SLOTS:
         text("note", "");
         DmlAttrDef &gone = integer("gone", 0, 9, 0);
         host().dictionary = {&gone};
-        const auto condition = [](const char *name, int type, double low, double high,
-                                  const QString &word = "mm", int units = 2) {
-            AttrCondition made;
-            made.name = name;
-            made.type = type;
-            made.isSet = true;
-            made.low = low;
-            made.high = high;
-            made.units = units;
-            (type == DmlAttrFloat ? made.unitsText : made.text) = word;
-            return made;
-        };
-        const QList<QPair<AttrCondition, RestoreStatus>> cases{
-            {condition("width", DmlAttrInteger, 5, 9), RestoreDone},
-            {condition("width", DmlAttrInteger, 5, 10), RestoreOutOfRange},
-            {condition("width", DmlAttrInteger, 4, 9), RestoreOutOfRange},
-            {condition("width", DmlAttrInteger, 7, 6), RestoreOutOfRange},
-            {condition("width", DmlAttrInteger, 5.5, 6), RestoreOutOfRange},
-            {condition("width", DmlAttrText, 5, 9), RestoreTypeChanged},
-            {condition("colour", DmlAttrOption, 0, 0, "deep green"), RestoreDone},
-            {condition("colour", DmlAttrOption, 0, 0, "green"), RestoreOptionGone},
-            {condition("colour", DmlAttrOption, 0, 0, ""), RestoreDone},
-            {condition("note", DmlAttrText, 0, 0, QString(199, 'x')), RestoreDone},
-            {condition("note", DmlAttrText, 0, 0, QString(200, 'x')), RestoreOutOfRange},
-            {condition("note", DmlAttrText, 0, 0, QString(QChar(0))), RestoreOutOfRange},
-            {condition("gone", DmlAttrInteger, 1, 2), RestoreNotAvailable},
-            {condition("never", DmlAttrInteger, 1, 2), RestoreNoSuchAttribute},
-            {condition("depth", DmlAttrFloat, -38.1, 2.5), RestoreDone},
-            {condition("depth", DmlAttrFloat, -1.5, 0.1, "inch", 1), RestoreDone},
-            {condition("depth", DmlAttrFloat, -1.5, double(0.1f), "inch", 1), RestoreDone},
-            {condition("depth", DmlAttrFloat, -1.5, 0.1, "inch", 99), RestoreDone}, // the text counts
-            {condition("depth", DmlAttrFloat, -38.1, 2.6), RestoreOutOfRange},
-            {condition("depth", DmlAttrFloat, -1.5, 0.101, "inch", 1), RestoreOutOfRange},
-            {condition("depth", DmlAttrFloat, std::nan(""), 0, "inch", 1), RestoreOutOfRange},
-            {condition("depth", DmlAttrFloat, -1, 0, "furlong", 5), RestoreUnknownUnits},
-            {condition("depth", DmlAttrFloat, -1, 0, "", -1), RestoreUnknownUnits},
-        };
+        const QList<QPair<AttrCondition, RestoreStatus>> cases = changedConditions();
         host().dictionary << eachType();
         RowSet available = rowsOf<AttrFilterLWI>(false), added;
         available.erase(available.begin());
