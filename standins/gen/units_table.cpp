@@ -105,11 +105,8 @@ private:
     void addInAnyCase(const QString &name, int code)
     {
         const QString folded = name.toCaseFolded();
-        const auto known = m_inAnyCase.find(folded);
-        if (known == m_inAnyCase.end())
-            m_inAnyCase.insert(folded, code);
-        else if (*known != code)
-            *known = -1;
+        const bool isOther = m_inAnyCase.value(folded, code) != code;
+        m_inAnyCase.insert(folded, isOther ? -1 : code);
     }
 
     QHash<QString, int> m_asWritten;

@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QTimer>
 
 #include <algorithm>
 #include <utility>
@@ -210,7 +211,7 @@ void ChosenTable::hideEvent(QHideEvent *event)
         if (m_isHiddenEdit)
             dropEditing();
     };
-    QMetaObject::invokeMethod(this, drop, Qt::QueuedConnection);
+    QTimer::singleShot(0, this, drop);
 }
 
 void ChosenTable::enterEditing()
@@ -253,8 +254,7 @@ void ChosenTable::rememberRefusal()
 {
     m_lastRefusal = m_content->refusalSentences();
     m_isRefusalNew = true;
-    QMetaObject::invokeMethod(
-        this, [this] { m_isRefusalNew = false; }, Qt::QueuedConnection);
+    QTimer::singleShot(0, this, [this] { m_isRefusalNew = false; });
 }
 
 void ChosenTable::currentChanged(const QModelIndex &current, const QModelIndex &previous)

@@ -124,6 +124,7 @@ QStringList EditorContent::texts() const
 QStringList EditorContent::content() const
 {
     QStringList content = texts();
+    content.reserve(2 * m_parts.size());
     // Entries of a list may read alike.
     for (const QWidget *part : m_parts) {
         const auto *box = qobject_cast<const QComboBox *>(part);
@@ -150,6 +151,7 @@ bool EditorContent::isChanged() const
 QVector<const QAbstractSpinBox *> EditorContent::refusedBoxes() const
 {
     QVector<const QAbstractSpinBox *> refused;
+    refused.reserve(m_parts.size());
     if (content() == m_loaded)
         return refused;
     for (const QWidget *part : m_parts) {
@@ -186,6 +188,7 @@ QString EditorContent::refusalSentences() const
 {
     QStringList sentences;
     const auto boxes = refusedBoxes();
+    sentences.reserve(boxes.size());
     for (const QAbstractSpinBox *box : boxes)
         sentences.append(tvx::textOf(texts::NotStored)
                              .arg(box->accessibleName(), box->text(), NumberEntry(*box).refusal(m_units)));
@@ -198,7 +201,8 @@ void EditorContent::selectRefused() const
         if (part != refusedBox())
             continue;
         part->setFocus();
-        lineOf(part)->selectAll();
+        if (QLineEdit *line = lineOf(part))
+            line->selectAll();
         return;
     }
 }
@@ -207,7 +211,7 @@ void EditorContent::describeRefused(const QString &message) const
 {
     const QWidget *refused = refusedBox();
     for (QWidget *part : m_parts) {
-        const QString description = part == refused ? message : QString();
+        const QString description = refused && part == refused ? message : QString();
         if (part->accessibleDescription() != description)
             part->setAccessibleDescription(description);
     }
