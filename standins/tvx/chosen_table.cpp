@@ -10,7 +10,6 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
-#include <QTimer>
 
 #include <algorithm>
 #include <utility>
@@ -25,6 +24,8 @@ ChosenTable::ChosenTable(QWidget *parent)
 {
     setEditTriggers(DoubleClicked | EditKeyPressed);
     connect(qApp, &QApplication::focusChanged, this, &ChosenTable::followFocus);
+    m_afterEvent.setSingleShot(true);
+    connect(&m_afterEvent, &QTimer::timeout, this, &ChosenTable::endEvent);
 }
 
 ChosenTable::~ChosenTable()
@@ -207,11 +208,14 @@ void ChosenTable::hideEvent(QHideEvent *event)
     if (event->spontaneous() || !m_editor)
         return;
     m_isHiddenEdit = true;
-    const auto drop = [this] {
-        if (m_isHiddenEdit)
-            dropEditing();
-    };
-    QTimer::singleShot(0, this, drop);
+    m_afterEvent.start();
+}
+
+void ChosenTable::endEvent()
+{
+    m_isRefusalNew = false;
+    if (m_isHiddenEdit)
+        dropEditing();
 }
 
 void ChosenTable::enterEditing()
@@ -254,7 +258,7 @@ void ChosenTable::rememberRefusal()
 {
     m_lastRefusal = m_content->refusalSentences();
     m_isRefusalNew = true;
-    QTimer::singleShot(0, this, [this] { m_isRefusalNew = false; });
+    m_afterEvent.start();
 }
 
 void ChosenTable::currentChanged(const QModelIndex &current, const QModelIndex &previous)

@@ -5,6 +5,7 @@
 
 #include <QPersistentModelIndex>
 #include <QPointer>
+#include <QTimer>
 
 #include <memory>
 #include <vector>
@@ -94,6 +95,7 @@ private:
     void putBehind(std::vector<Row> rows);
     void prepareEditor(int row);
     void makeRoomFor(const QWidget *editor);
+    void endEvent();
     void enterEditing();
     void noteEdit();
     void showMessage(const QString &message);
@@ -112,6 +114,8 @@ private:
     /// The refusal belongs to the event that is being delivered, which may change the current row too.
     bool m_isRefusalNew = false;
     bool m_isHiddenEdit = false;
+    /// Fires when the event that is being delivered is over.
+    QTimer m_afterEvent;
 };
 
 } // namespace tvx
