@@ -75,7 +75,7 @@ void RowTransfer::addSelected()
     values += valuesOf(copies);
     {
         const TopTable::Pass pass(m_top);
-        m_chosen->appendRows(std::move(copies));
+        append(std::move(copies));
         reportAdded(entering);
     }
     m_chosen->selectItems(values);
@@ -143,6 +143,8 @@ void RowTransfer::remove(const QVector<int> &rows)
             m_dialog->removeButtonClickedCB(m_chosen->rowItem(row));
     }
     m_removals.push_back(m_chosen->takeRows(rows));
+    for (const ChosenTable::Row &row : m_removals.back())
+        m_valueNames.remove(nameOf(*row.value));
     const int below = rows.last() - static_cast<int>(rows.size()) + 1;
     m_chosen->makeRowCurrent(std::min(below, m_chosen->rowCount() - 1));
     m_isRemoving = false;
@@ -163,6 +165,7 @@ void RowTransfer::undoRemoval()
     rows.erase(std::remove_if(rows.begin(), rows.end(), isPresent), rows.end());
 
     const QVector<QTableWidgetItem *> values = valuesOf(rows);
+    rememberValues(rows);
     m_chosen->restoreRows(std::move(rows));
     {
         const TopTable::Pass pass(m_top);
@@ -177,15 +180,29 @@ bool RowTransfer::addCopyOf(const QTableWidgetItem &item)
 {
     const QString name = nameOf(item);
     const bool isAttribute = !name.isEmpty() && item.data(DmlAttrDefRole).value<void *>();
-    if (!isAttribute || !isOfDialogsKind(item) || valuesByName().contains(name))
+    if (!isAttribute || !isOfDialogsKind(item) || (!isCondition(item) && m_valueNames.contains(name)))
         return false;
     finishEditing();
     std::vector<ChosenTable::Row> copies;
     copies.push_back(copyOf(item));
-    m_chosen->appendRows(std::move(copies));
+    append(std::move(copies));
     reportAdded(name);
     Q_EMIT transferred();
     return true;
+}
+
+void RowTransfer::append(std::vector<ChosenTable::Row> rows)
+{
+    rememberValues(rows);
+    m_chosen->appendRows(std::move(rows));
+}
+
+void RowTransfer::rememberValues(const std::vector<ChosenTable::Row> &rows)
+{
+    for (const ChosenTable::Row &row : rows) {
+        if (!isCondition(*row.value))
+            m_valueNames.insert(nameOf(*row.value));
+    }
 }
 
 /// A dialog has items of one kind, and any row of either table shows which. Without a row, each kind is accepted.

@@ -4,6 +4,7 @@
 #include "tvx/chosen_table.h"
 
 #include <QHash>
+#include <QSet>
 
 #include <vector>
 
@@ -60,11 +61,15 @@ private:
     void finishEditing();
     bool isOfDialogsKind(const QTableWidgetItem &item) const;
     QHash<QString, QTableWidgetItem *> valuesByName() const;
+    void append(std::vector<ChosenTable::Row> rows);
+    void rememberValues(const std::vector<ChosenTable::Row> &rows);
 
     TvxAttributesSelectionDialog *m_dialog;
     TopTable *m_top;
     ChosenTable *m_chosen;
     std::vector<std::vector<ChosenTable::Row>> m_removals;
+    /// The names of the chosen values, so that adding N copies costs no N * N names.
+    QSet<QString> m_valueNames;
     bool m_isRemoving = false;
 };
 
