@@ -39,7 +39,10 @@ QByteArray AssignTask::resultDocument() const
 
 QString AssignTask::start(const StartFile &file)
 {
-    // Its lines are for people: the numbers in them are rounded and in display units.
+    // The lines of this dialog are for people: the numbers in them are rounded and in display units.
+    if (!file.isJson())
+        return file.problemIn(
+            {QString(), QStringLiteral("values are read from JSON only, as --save writes it")});
     QList<AttrAssignment> assignments;
     DocumentProblem problem;
     if (!assignmentsFromJson(file.content(), &assignments, &problem))

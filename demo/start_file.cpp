@@ -14,9 +14,13 @@ QString StartFile::read(const QString &fileName)
     if (!file.open(QIODevice::ReadOnly))
         return QStringLiteral("%1: %2").arg(fileName, file.errorString());
     m_content = file.readAll();
+    if (m_content.startsWith("\xEF\xBB\xBF"))
+        m_content.remove(0, 3);
     const QList<QByteArray> all = m_content.split('\n');
     for (int number = 1; number <= int(all.size()); ++number) {
-        const QString line = QString::fromUtf8(all.at(number - 1));
+        QString line = QString::fromUtf8(all.at(number - 1));
+        if (line.endsWith(QLatin1Char('\r')))
+            line.chop(1);
         if (line.trimmed().isEmpty())
             continue;
         m_lines.append(line);

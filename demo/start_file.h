@@ -11,7 +11,8 @@ class TvxAttributesSelectionDialog;
 namespace Zudunmaf::demo
 {
 
-/// A file to start with: a JSON document, or lines in UTF-8. Each problem reads "FILE:LINE: reason" or
+/// A file to start with: a JSON document, or lines in UTF-8, with or without a byte order mark. A line ends with LF or
+/// CR LF. Each problem reads "FILE:LINE: reason" or
 /// "FILE: conditions[2].low: reason"; a null string means that there is none.
 class StartFile
 {

@@ -1,7 +1,8 @@
 #!/bin/sh
-# demo_test.sh CASE PROGRAM: one case of the demo host's tests, in a directory of its own that goes afterwards.
+# demo_test.sh CASE PROGRAM SCHEMA: one case of the demo host's tests, in a directory of its own that goes afterwards.
 set -eu
 program=$2
+schema=$3
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cd "$work"
@@ -53,6 +54,12 @@ opened_again() {
     "$program" "$@" --accept --start walked.json --save again.json >got
     same "the lines of what was saved"
     cmp walked.json again.json || fail "another document"
+    # As in tests/contract, the schema is only checked where Python has the package for it.
+    if python3 -c 'import jsonschema' 2>errors; then
+        python3 -c 'import json, jsonschema, sys
+schema, document = (json.load(open(path, encoding="utf-8")) for path in sys.argv[1:])
+jsonschema.Draft7Validator(schema).validate(document)' "$schema" again.json || fail "not as the schema says"
+    fi
 }
 
 # What is printed can be given back, and comes out again as it was; so does the document that is made of it.
@@ -62,6 +69,9 @@ start_of_filter() {
     "$program" filter --accept --start wanted --save walked.json >got
     same "the conditions of a start file"
     opened_again filter
+    sed '1s/^/\xef\xbb\xbf/; s/$/\r/' wanted >from_windows
+    "$program" filter --accept --start from_windows >got
+    same "a byte order mark and CR LF"
     refused 'wanted:2: no attribute' filter --accept --start wanted --dictionary "$(small_dictionary)"
     refused 'walked.json: conditions[1]: there is no attribute' \
         filter --accept --start walked.json --dictionary small.json
@@ -107,6 +117,7 @@ JSON
     same "the values of a start file"
     mv saved.json walked.json
     opened_again assign --units inch
+    refused 'wanted: values are read from JSON only' assign --accept --start wanted
     start_value 's/: 12$/: 101/' 'assignments[0]: 101 is beyond the limits 1 to 100'
     start_value 's/: 12$/: "many"/' 'assignments[0].value: is no whole number'
     start_value 's/octagon/flat/' "no option 'flat'"
