@@ -4,7 +4,7 @@
 namespace Zudunmaf::bench
 {
 
-/// Seconds for `featureCount` features, each against three conditions: a range of integers, a range of floats in other
+/// Seconds for `featureCount` features, each against a ConditionMatcher for three conditions: a range of integers, a range of floats in other
 /// units, and a text.
 double secondsToMatch(int featureCount);
 
