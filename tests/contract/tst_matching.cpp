@@ -41,6 +41,13 @@ private Q_SLOTS:
         // What the editor makes of 0.1 is a little more.
         depth = bounds(DmlAttrFloat, double(0.1f), double(0.3f));
         QVERIFY(matches(depth, 0.1) && matches(depth, 0.1f) && matches(depth, 0.3) && matches(depth, 0.3f));
+        QVERIFY(matches(bounds(DmlAttrFloat, 0.3, 0.7), 0.3) && matches(bounds(DmlAttrFloat, 0.3, 0.7), 0.7));
+        QVERIFY(matches(bounds(DmlAttrFloat, 0.7, 0.8), 0.7f) && matches(bounds(DmlAttrFloat, 0, 0.1), 0.1f));
+        for (const QVariant &six :
+             {QVariant::fromValue(6L), QVariant::fromValue(6UL), QVariant::fromValue(short(6)),
+              QVariant::fromValue(ushort(6)), QVariant::fromValue(char(6)),
+              QVariant::fromValue(static_cast<signed char>(6)), QVariant::fromValue(uchar(6))})
+            QVERIFY2(matches(width, six) && !matches(bounds(DmlAttrInteger, 7, 9), six), six.typeName());
         QVERIFY(!matches(depth, 0.0999999999) && !matches(depth, 0.31));
         QVERIFY(!matches(bounds(DmlAttrFloat, std::nan(""), 1), 0.5));
     }
@@ -53,9 +60,13 @@ private Q_SLOTS:
         QVERIFY(!matches(depth, 2.539, 2) && !matches(depth, 17.79, 2) && matches(depth, 700, 3));
         for (int mil = 100; mil <= 700; ++mil)
             QVERIFY(matches(bounds(DmlAttrFloat, mil / 1000.0, mil / 1000.0, 1, "inch"), mil * 0.0254, 2));
+        const double cool = double(31.9f); // near the freezing point, where a float of degF is coarse in degC
+        QVERIFY(matches(bounds(DmlAttrFloat, cool, cool, 5, "degF"), (31.9 - 32) / 1.8, 4));
+        QVERIFY(!matches(bounds(DmlAttrFloat, cool, cool, 5, "degF"), (31.901 - 32) / 1.8, 4));
         QVERIFY(matches(bounds(DmlAttrFloat, 0.1, 0.7, 99, "inch"), 2.54, 2)); // the text counts
         QVERIFY(matches(bounds(DmlAttrFloat, 0.1, INFINITY, 1, "inch"), 1e30, 2));
-        QVERIFY(!matches(bounds(DmlAttrFloat, 0.1, 0.7, 1, "furlong"), 0.5, 2));
+        for (const char *unknown : {"furlong", "cubit"}) // the host answers -1 and 77
+            QVERIFY(!matches(bounds(DmlAttrFloat, 0.1, 0.7, 1, unknown), 0.5, 2));
         QVERIFY(matches(bounds(DmlAttrFloat, 0.1, 0.7, -1, ""), 0.5, 2));
 
         const ConditionMatcher matcher(depth, 2);

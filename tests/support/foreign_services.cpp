@@ -30,7 +30,7 @@ bool isOwn(int one, const char *file, int line)
     return one == 1 && line > 0 && QByteArray(file).startsWith("code/gdm/");
 }
 
-/// Units 1, 2 and 3 are inch, mm and mil; other codes convert nothing.
+/// Units 1, 2 and 3 are inch, mm and mil, and 4 and 5 degC and degF; other codes convert nothing.
 double factor(int code)
 {
     return code == 2 ? 25.4 : code == 3 ? 1000.0 : 1.0;
@@ -75,15 +75,18 @@ void gen__mem_free(void *memory, int one, const char *file, int line)
 void gen__torvex_units_convert_2(float *value, int source, int target)
 {
     host().note("convert_2", *value, source, target);
-    if (source != -1 && target != -1)
+    if (source == 5 && target == 4)
+        *value = float((double(*value) - 32) / 1.8);
+    else if (source != -1 && target != -1)
         *value = float(double(*value) / factor(source) * factor(target));
 }
 
 const char *gen__torvex_cur_units_str(int unitsClass, int displayUnits)
 {
     host().note("cur_units", unitsClass, displayUnits);
-    const char *const texts[] = {"", "inch", "mm", "mil"};
-    return answer(g_messages, unitsClass < 1 || displayUnits < 1 ? "" : texts[displayUnits]);
+    const char *const texts[] = {"", "inch", "mm", "mil", "degC", "degF"};
+    return answer(g_messages,
+                  unitsClass < 1 || displayUnits < 1 || displayUnits > 5 ? "" : texts[displayUnits]);
 }
 
 int dml__atr_next(int did, int one, unsigned int entityMask, int *cursor, DmlAttrDef **definition)
@@ -133,7 +136,7 @@ void gen__torvex_units_convert_f(float *value, int unitsClass, int code)
 int gen__torvex_get_str_units(const char *text)
 {
     host().note("get_units", text);
-    const QList<QByteArray> known{"inch", "mm", "mil"};
+    const QList<QByteArray> known{"inch", "mm", "mil", "degC", "degF"};
     return qstrcmp(text, "furlong") == 0 ? -1 : known.contains(text) ? int(known.indexOf(text)) + 1 : 77;
 }
 

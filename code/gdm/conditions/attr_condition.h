@@ -12,7 +12,8 @@ namespace Zudunmaf
 /// One condition of AttributesFilterDialog as a value. It holds no pointer and may outlive the dialog and the
 /// dictionary.
 ///
-/// Bounds are those of the record, exact and inclusive, and never what a cell prints. The fields that the type does
+/// Bounds are those of the record, exact and inclusive, and never what a cell prints. The bounds of a float can be
+/// 32-bit floats next to what the user has entered; ConditionMatcher says how far it widens them. The fields that the type does
 /// not use, and all of them where isSet is false, keep their initial values.
 struct AttrCondition {
     QString name;              ///< The internal name, never the prompt.

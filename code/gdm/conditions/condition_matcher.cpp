@@ -1,6 +1,7 @@
 #include "gdm/conditions/condition_matcher.h"
 
 #include "gdm/conditions/number_units.h"
+#include "gdm/host/qt_compat.h"
 
 #include <algorithm>
 #include <cmath>
@@ -21,11 +22,45 @@ double enteredNumber(double bound)
     return isNarrowed ? entered : bound;
 }
 
-/// How far a converted bound may lie from what exact arithmetic gives.
-double slackOf(double bound)
+/// The 32-bit float next to the bound; the bound itself beyond their range.
+double narrowedNumber(double bound)
 {
-    return std::isfinite(bound) ? 2.0 * double(std::numeric_limits<float>::epsilon()) * std::fabs(bound)
-                                : 0.0;
+    return std::fabs(bound) <= double(std::numeric_limits<float>::max()) ? double(static_cast<float>(bound))
+                                                                         : bound;
+}
+
+/// How far a converted bound may lie from what exact arithmetic gives. Where the units differ by an offset, as degrees
+/// do, the resolution of the bound itself can be the coarser one.
+double slackOf(const NumberUnits &units, double bound)
+{
+    const double number = units.converted(bound);
+    if (!std::isfinite(number))
+        return 0.0;
+    const float next = std::nextafter(static_cast<float>(bound), std::numeric_limits<float>::max());
+    const double step = std::fabs(units.converted(double(next)) - number);
+    const double resolution = 2.0 * double(std::numeric_limits<float>::epsilon()) * std::fabs(number);
+    return std::isfinite(step) ? std::max(resolution, step) : resolution;
+}
+
+bool isNumber(int metatype)
+{
+    switch (metatype) {
+    case QMetaType::Double:
+    case QMetaType::Float:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Long:
+    case QMetaType::ULong:
+    case QMetaType::Short:
+    case QMetaType::UShort:
+    case QMetaType::Char:
+    case QMetaType::UChar:
+        return true;
+    default:
+        return metatype == compat::SignedCharType;
+    }
 }
 
 } // namespace
@@ -59,8 +94,9 @@ ConditionMatcher::ConditionMatcher(const AttrCondition &condition, int valueUnit
 
 void ConditionMatcher::setBounds(const AttrCondition &condition, int valueUnits)
 {
-    m_low = std::min(condition.low, enteredNumber(condition.low));
-    m_high = std::max(condition.high, enteredNumber(condition.high));
+    m_low = std::min(std::min(condition.low, enteredNumber(condition.low)), narrowedNumber(condition.low));
+    m_high =
+        std::max(std::max(condition.high, enteredNumber(condition.high)), narrowedNumber(condition.high));
     if (valueUnits == -1)
         return;
     const NumberUnits units(condition.units, condition.unitsText, valueUnits);
@@ -68,10 +104,13 @@ void ConditionMatcher::setBounds(const AttrCondition &condition, int valueUnits)
         m_rule = Nothing;
     if (units.isUnknown() || units.isSame() || units.isOneWithout())
         return;
-    m_low = units.converted(condition.low);
-    m_low -= slackOf(m_low);
-    m_high = units.converted(condition.high);
-    m_high += slackOf(m_high);
+    m_low = units.converted(condition.low) - slackOf(units, condition.low);
+    m_high = units.converted(condition.high) + slackOf(units, condition.high);
+}
+
+bool ConditionMatcher::isBetween(double number) const
+{
+    return number >= m_low && number <= m_high;
 }
 
 bool ConditionMatcher::matches(const QVariant &value) const
@@ -83,17 +122,7 @@ bool ConditionMatcher::matches(const QVariant &value) const
     case EqualText:
         return kind == QMetaType::QString && value.toString() == m_text;
     case Between:
-        switch (kind) {
-        case QMetaType::Double:
-        case QMetaType::Float:
-        case QMetaType::Int:
-        case QMetaType::UInt:
-        case QMetaType::LongLong:
-        case QMetaType::ULongLong:
-            return isBetween(value.toDouble());
-        default:
-            return false;
-        }
+        return isNumber(kind) && isBetween(value.toDouble());
     case Nothing:
         break;
     }

@@ -16,14 +16,18 @@ namespace Zudunmaf
 /// - A text or an option takes exactly its text, case included.
 /// - An integer or a float takes numbers from the lower bound to the upper one, both included.
 ///
-/// A bound that an editor has stored is the 32-bit float next to what the user entered with three decimals: 0.1 is kept
-/// as 0.100000001. Such a bound takes the entered number too. After a conversion, a number that differs from a bound by
-/// no more than the resolution of a 32-bit float lies on it.
+/// An editor stores the 32-bit float next to the number that the user has entered with three decimals: 0.1 is kept as
+/// 0.100000001. Without a conversion, the bounds of a float are therefore widened to the 32-bit float next to the bound,
+/// and to the number with three decimals if the bound is the 32-bit float next to it. So a condition that was read from
+/// a line has the same answers as the one in the dialog. With a conversion, each bound is widened by 2^-22 of its
+/// converted value, or by what the next 32-bit float after the bound adds to it if that is more.
 class GDM_EXPORT ConditionMatcher
 {
 public:
     /// Keeps what it needs of the condition. `valueUnits` is the host's code of the units of the values to come; -1 if
-    /// they are those of the condition. If the services cannot convert between the two, no value satisfies bounds.
+    /// they are those of the condition, or none. Numbers are compared as they are if `valueUnits` is -1 or the condition
+    /// has no units, while restoring such a condition is refused if the attribute has units. If the services cannot
+    /// convert between the two, no value satisfies bounds.
     explicit ConditionMatcher(const AttrCondition &condition, int valueUnits = -1);
 
     /// Returns true if an attribute with this value satisfies the condition. An invalid variant means that the attribute
@@ -35,7 +39,7 @@ private:
     enum Rule { Anything, EqualText, Between, Nothing };
 
     void setBounds(const AttrCondition &condition, int valueUnits);
-    bool isBetween(double number) const { return number >= m_low && number <= m_high; }
+    bool isBetween(double number) const;
 
     Rule m_rule;
     double m_low;
@@ -44,7 +48,7 @@ private:
 };
 
 /// Returns true if an attribute with this value satisfies the condition. The same as a ConditionMatcher that is used
-/// once.
+/// once; for many values, keep a ConditionMatcher, which converts the bounds only once.
 GDM_EXPORT bool matches(const AttrCondition &condition, const QVariant &value, int valueUnits = -1);
 
 } // namespace Zudunmaf

@@ -23,11 +23,6 @@ float narrowed(double number)
                : std::copysign(std::numeric_limits<float>::infinity(), float(number < 0 ? -1 : 1));
 }
 
-int codeOfUnits(int code, const QString &text)
-{
-    return text.isEmpty() ? code : gen__torvex_get_str_units(text.toLocal8Bit().constData());
-}
-
 } // namespace
 
 QString textOfUnits(int code)
@@ -43,16 +38,21 @@ NumberUnits::NumberUnits(int savedCode, const QString &savedText, int target)
     const QString targetText = textOfUnits(target);
     if (savedText == targetText && (!savedText.isEmpty() || savedCode == target))
         return;
-    m_source = codeOfUnits(savedCode, savedText);
-    m_way = wayBetween(m_source, savedText, target);
+    if (!savedText.isEmpty()) {
+        m_source = gen__torvex_get_str_units(savedText.toLocal8Bit().constData());
+        // The services may answer any code for a text that they do not know.
+        if (m_source == -1 || textOfUnits(m_source) != savedText) {
+            m_way = Unknown;
+            return;
+        }
+    }
+    m_way = wayBetween(m_source, target);
 }
 
-NumberUnits::Way NumberUnits::wayBetween(int source, const QString &text, int target)
+NumberUnits::Way NumberUnits::wayBetween(int source, int target)
 {
     if (source == target)
         return Same;
-    if (source == -1 && !text.isEmpty())
-        return Unknown;
     if (source == -1 || target == -1)
         return OneWithout;
     // Units of another dimension are not shown in those of the target.

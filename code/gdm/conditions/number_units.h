@@ -31,7 +31,7 @@ public:
 private:
     enum Way { Same, Known, OneWithout, Unknown };
 
-    static Way wayBetween(int source, const QString &text, int target);
+    static Way wayBetween(int source, int target);
 
     int m_source;
     int m_target;
