@@ -53,7 +53,8 @@ QString FilterTask::readLines(const StartFile &file, QList<AttrCondition> *condi
     unsigned char origin = 0;
     if (gen__cfg_get(keys::DisplayByPrompt, &byPrompt, &origin) != 0)
         gen__log_status_check(__FILE__, __LINE__);
-    const QList<LineResult> results = conditionsFromLines(file.lines(), m_did, byPrompt != 0);
+    const QList<LineResult> results =
+        conditionsFromLines(file.lines(), m_did, byPrompt != 0 ? LabelsByPrompt : LabelsByName);
     for (int index = 0; index < int(results.size()); ++index) {
         if (results.at(index).status != LineRead)
             return file.problemInLine(index, results.at(index).reason);

@@ -1,5 +1,6 @@
 // A dictionary and a line: four labels, parted by newlines, the types of their attributes from the first byte, and the
 // rest is the line. A line that is read comes out of the restored condition again.
+#include "gdm/conditions/restore_target.h"
 #include "gdm/gdm_qt.h"
 #include "gdm/host/dml_dictionary.h"
 
@@ -50,7 +51,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, size_t size)
         return 0;
     makeDefinitions(data[0], parts);
     const QString line = QString::fromUtf8(parts.mid(4).join('\n'));
-    const LineResult result = conditionsFromLines({line}, 0, true).first();
+    const LineResult result = conditionsFromLines({line}, 0, LabelsByPrompt).first();
     if (result.reason.isEmpty() != (result.status == LineRead))
         __builtin_trap();
     if (result.status != LineRead)

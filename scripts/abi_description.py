@@ -21,8 +21,8 @@ TYPES = [
     "Zudunmaf::AttrFilterLWI", "Zudunmaf::FeatureAttrLWI",
     "Zudunmaf::AttributesFilterDialog", "Zudunmaf::FeatureAttributesDialog",
     "Zudunmaf::AttrCondition", "Zudunmaf::AttrAssignment", "Zudunmaf::ConditionMatcher",
-    "Zudunmaf::RestoreStatus", "Zudunmaf::RestoreResult", "Zudunmaf::RestoreTarget",
-    "Zudunmaf::LineStatus", "Zudunmaf::LineResult", "Zudunmaf::DocumentProblem",
+    "Zudunmaf::RestoreStatus", "Zudunmaf::RestoreResult",
+    "Zudunmaf::LineLabels", "Zudunmaf::LineStatus", "Zudunmaf::LineResult", "Zudunmaf::DocumentProblem",
     "TvxDataItem", "TvxAttributesSelectionDialog", "TvxAttributesSelectionDialog::Buttons_Enum",
 ]  # fmt: skip
 

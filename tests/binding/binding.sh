@@ -21,7 +21,7 @@ symbols)
     # What is visible of the library's own belongs to the exported classes, or is one of the exported functions.
     shown=$("$NM" -DC --defined-only "$library" | grep 'Zudunmaf::')
     classes='AttributesFilterDialog|FeatureAttributesDialog|DmlAttrLWI|AttrFilterLWI|FeatureAttrLWI'
-    functions='conditionOf|assignmentOf|matches|restoreConditions|restoreAssignments|conditionsFromLines'
+    functions='conditionOf|assignmentOf|matches|conditionsFromLines'
     functions="$functions|(conditions|assignments)(To|From)Json|operator[!=]="
     wrong=$(printf '%s\n' "$shown" | grep -vE \
         "^[0-9a-f]+ [A-Za-z] ([a-z -]+ )?Zudunmaf::(($classes|ConditionMatcher)(::|\$)|($functions)\()" || true)

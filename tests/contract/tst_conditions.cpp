@@ -1,7 +1,9 @@
 #include "contract_test.h"
 #include "generated.h"
+#include "json_table.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <tuple>
 
@@ -46,10 +48,13 @@ QList<QPair<AttrCondition, RestoreStatus>> changedConditions()
         {condition("depth", DmlAttrFloat, -1.5, 0.1, "inch", 1), RestoreDone},
         {condition("depth", DmlAttrFloat, -1.5, double(0.1f), "inch", 1), RestoreDone},
         {condition("depth", DmlAttrFloat, -1.5, 0.1, "inch", 99), RestoreDone}, // the text counts
+        {condition("huge", DmlAttrFloat, -INFINITY, INFINITY),
+         RestoreDone}, // as its untouched editor stores it
         {condition("depth", DmlAttrFloat, -38.1, 2.6), RestoreOutOfRange},
         {condition("depth", DmlAttrFloat, -1.5, 0.101, "inch", 1), RestoreOutOfRange},
         {condition("depth", DmlAttrFloat, std::nan(""), 0, "inch", 1), RestoreOutOfRange},
         {condition("depth", DmlAttrFloat, -1, 0, "furlong", 5), RestoreUnknownUnits},
+        {condition("depth", DmlAttrFloat, -1, 0, "cubit", 1), RestoreUnknownUnits}, // the host answers 77
         {condition("depth", DmlAttrFloat, -1, 0, "", -1), RestoreUnknownUnits},
     };
 }
@@ -81,7 +86,7 @@ private Q_SLOTS:
             QVERIFY2(conditionsFromJson(conditionsToJson(conditions), &again, &problem),
                      qPrintable(problem.reason));
             QVERIFY(again == conditions);
-            for (const RestoreResult &result : restoreConditions(again, target(available, &added)))
+            for (const RestoreResult &result : restored(again, available, &added))
                 QVERIFY2(result.status == RestoreDone, qPrintable(result.reason));
             for (std::size_t i = 0; i < available.size(); ++i) {
                 QCOMPARE(added[i]->toString(), lines[int(i)]);
@@ -114,19 +119,63 @@ private Q_SLOTS:
         QCOMPARE(bytes(*restored(item)), bytes(first));
     }
 
+    void oddTextsAndNumbersAreKept()
+    {
+        QList<AttrAssignment> assignments, again;
+        for (const QString &text : {QString(), QString(""), QString(QChar(0)), QString(QChar(0xD800)),
+                                    QString("\x01\n\"\\/\u2028😀 = ")}) {
+            AttrAssignment made;
+            made.name = text;
+            made.type = assignments.size() % 2 ? DmlAttrText : DmlAttrOption;
+            made.value = text;
+            assignments << made;
+        }
+        AttrAssignment odd;
+        odd.type = 9;
+        assignments << odd;
+        for (const double number : {std::nan(""), double(INFINITY), double(-INFINITY), -0.0}) {
+            odd.type = DmlAttrFloat;
+            odd.value = number;
+            assignments << odd;
+        }
+        QVERIFY(assignmentsFromJson(assignmentsToJson(assignments), &again));
+        QVERIFY(again == assignments);
+    }
+
+    /// The same table is read by the test of the schema.
+    void refusals()
+    {
+        const QJsonObject table = jsonTable("documents.json");
+        for (const QJsonValue good : table["good"].toArray())
+            QCOMPARE(read(good.toObject()).reason, QString());
+        for (const QJsonValue bad : table["bad"].toArray()) {
+            const DocumentProblem problem = read(bad["document"].toObject());
+            QCOMPARE(problem.place, bad["place"].toString());
+            QVERIFY(!problem.reason.isEmpty());
+        }
+        for (const QJsonValue bad : table["badTexts"].toArray()) {
+            const QByteArray json = bad["text"].toString().toUtf8();
+            DocumentProblem problem;
+            QList<AttrCondition> kept{AttrCondition()};
+            QVERIFY(!conditionsFromJson(json, &kept, &problem) && !conditionsFromJson(json, &kept));
+            QCOMPARE(problem.place, bad["place"].toString());
+            QVERIFY(!problem.reason.isEmpty() && kept.size() == 1);
+        }
+    }
+
     void changedDictionary()
     {
         text("note", "");
         DmlAttrDef &gone = integer("gone", 0, 9, 0);
         host().dictionary = {&gone};
         const QList<QPair<AttrCondition, RestoreStatus>> cases = changedConditions();
-        host().dictionary << eachType();
+        host().dictionary << eachType() << &real("huge", -1e300, 1e300, 0);
         RowSet available = rowsOf<AttrFilterLWI>(false), added;
         available.erase(available.begin());
         QList<AttrCondition> all;
         for (const auto &one : cases)
             all << one.first;
-        const QList<RestoreResult> results = restoreConditions(all, target(available, &added));
+        const QList<RestoreResult> results = restored(all, available, &added);
         for (int i = 0; i < cases.size(); ++i) {
             QVERIFY2(results[i].status == cases[i].second,
                      qPrintable(QString("%1: ").arg(i) + results[i].reason));
@@ -135,15 +184,16 @@ private Q_SLOTS:
         QCOMPARE(int(added.size()), int(std::count_if(cases.begin(), cases.end(), [](const auto &one) {
                      return one.second == RestoreDone;
                  })));
-        const RestoreTarget refusing{
-            3, pointers(available), {}, [](const QTableWidgetItem &) { return false; }};
-        QCOMPARE(restoreConditions(all.mid(0, 1), refusing).first().status, RestoreNotAdded);
+        AttributesFilterDialog dialog(3);
+        const AddToChosen refusing = [](const QTableWidgetItem &) { return false; };
+        offer(available);
+        QCOMPARE(dialog.restoreConditions(all.mid(0, 1), refusing).first().status, RestoreNotAdded);
     }
 
     void values()
     {
         host().dictionary = eachType();
-        host().dictionary << &text("bare", nullptr) << &integer("other", 0, 9, 0);
+        host().dictionary << &text("bare", nullptr) << &integer("other", 0, 9, 11);
         RowSet available = rowsOf<FeatureAttrLWI>(false), added;
         QList<AttrAssignment> assignments, again;
         for (const auto &row : available) {
@@ -153,29 +203,41 @@ private Q_SLOTS:
         assignments[4].value = 0.1; // the upper limit, which no 32-bit float is
         QVERIFY(assignmentsFromJson(assignmentsToJson(assignments), &again));
         QVERIFY(again == assignments);
-        for (const RestoreResult &result : restoreAssignments(again, target(available, &added)))
+        FeatureAttributesDialog dialog(3);
+        offer(available);
+        for (const RestoreResult &result : dialog.restoreAssignments(again, addTo(&added)))
             QVERIFY2(result.status == RestoreDone, qPrintable(result.reason));
         for (std::size_t i = 0; i < added.size(); ++i)
             QVERIFY(assignmentOf(static_cast<FeatureAttrLWI &>(*added[i])) == assignments[int(i)]);
         const QVariant bare = added[6]->attrValue();
         QVERIFY(bare.userType() == QMetaType::QString && bare.toString().isNull());
+        QVERIFY(matches(AttrCondition(), assignments[6].value)); // carried, without a text
 
-        RestoreTarget second = target(available, &added);
-        second.chosen = pointers(added).mid(0, 7);
+        for (int i = 0; i < 7; ++i)
+            appendRow(host().chosen, *added[std::size_t(i)]);
         AttrAssignment other = assignments[7];
-        QCOMPARE(restoreAssignments({assignments[3], other, other}, second)[0].status, RestoreDuplicate);
-        QCOMPARE(restoreAssignments({assignments[3], other, other}, second)[2].status, RestoreDuplicate);
+        const QList<AttrAssignment> twice{assignments[3], other, other};
+        // What was not added is no duplicate later.
+        int calls = 0;
+        const auto results =
+            dialog.restoreAssignments(twice, [&](const QTableWidgetItem &) { return ++calls > 1; });
+        QCOMPARE(results[0].status, RestoreDuplicate);
+        QCOMPARE(results[1].status, RestoreNotAdded);
+        QCOMPARE(results[2].status, RestoreDone);
+        QCOMPARE(dialog.restoreAssignments(twice, addTo(&added))[2].status, RestoreDuplicate);
+        other.value = 11; // the default, beyond the limits
+        QCOMPARE(dialog.restoreAssignments({other}, addTo(&added))[0].status, RestoreDone);
         other.value = 10;
-        QCOMPARE(restoreAssignments({other}, second)[0].status, RestoreOutOfRange);
+        QCOMPARE(dialog.restoreAssignments({other}, addTo(&added))[0].status, RestoreOutOfRange);
         other.type = DmlAttrFloat;
-        QCOMPARE(restoreAssignments({other}, second)[0].status, RestoreTypeChanged);
-        second.chosen.clear();
+        QCOMPARE(dialog.restoreAssignments({other}, addTo(&added))[0].status, RestoreTypeChanged);
+        host().chosen->setRowCount(0);
         AttrAssignment depth = assignments[4], colour = assignments[2];
         depth.value = 2.54;
         depth.unitsText = "mm";
         colour.value = "green";
         added.clear();
-        QCOMPARE(restoreAssignments({depth, colour}, second)[1].status, RestoreOptionGone);
+        QCOMPARE(dialog.restoreAssignments({depth, colour}, addTo(&added))[1].status, RestoreOptionGone);
         QCOMPARE(float(added[0]->attrValue().toDouble()), 0.1f);
     }
 
@@ -206,10 +268,10 @@ private Q_SLOTS:
         seven.value = 7;
         QCOMPARE(assign.restoreAssignments({seven, seven}, add)[1].status, RestoreDuplicate);
         QVERIFY(assign.assignments() == QList<AttrAssignment>({seven}));
-        // A dictionary that cannot be walked knows no attribute, and says so once.
+        // A dictionary that cannot be walked is reported once.
         host().failAt = host().fallible + 1;
         seven.name = "never";
-        QCOMPARE(assign.restoreAssignments({seven, seven}, add)[1].status, RestoreNoSuchAttribute);
+        QCOMPARE(assign.restoreAssignments({seven, seven}, add)[1].status, RestoreNoDictionary);
         QCOMPARE(int(host().reports.size()), 1);
     }
 
@@ -219,61 +281,31 @@ private Q_SLOTS:
         host().dictionary = eachType();
         host().dictionary << &text("a", "") << &option("a = b", 0) << &narrow << &quirk
                           << &integer("%3", 0, 9, 0) << &integer("%2", 0, 9, 0);
-        const QList<QPair<QString, LineStatus>> cases{
-            {"width", LineRead},
-            {"6 <= width <= 8", LineRead},
-            {"plated", LineRead},
-            {"6 <= width <= 10", LineOutOfRange},
-            {"odd", LineUnknown},
-            {"8 <= width <= 6", LineOutOfRange},
-            {"a = x", LineRead},
-            {"06 <= width <= 8", LineUnknown},
-            {"a = b = red", LineAmbiguous},
-            {"6 <= width <= 8 ", LineUnknown},
-            {"a = b = rot", LineAmbiguous}, // stale for the one, and good for the other
-            {"colour = pink", LineOptionGone},
-            {"-1.500 <= depth <= 0.10", LineUnknown},
-            {"-1.500 <= depth <= 0.100", LineRead},
-            {"-1.500 <= depth <= 0.101", LineOutOfRange},
-            {"0.001 <= narrow <= 0.001", LineRead},
-            {"0.000 <= narrow <= 0.001", LineOutOfRange},
-            {"1 <= a2b <= %3", LineRead},
-            {"1 <= a%1b <= 2", LineUnknown},
-            {"1 <= 2 <= 2", LineRead},
-            {"1 <= 2 <= 3", LineUnknown},
-            {"", LineUnknown},
-            {"note = ", LineUnknown},
-        };
-        QStringList lines;
-        for (const auto &one : cases)
-            lines << one.first;
-        QList<LineResult> results = conditionsFromLines(lines, 3, false);
-        for (int i = 0; i < cases.size(); ++i) {
-            QVERIFY2(results[i].status == cases[i].second, qPrintable(lines[i] + ": " + results[i].reason));
-            QCOMPARE(results[i].reason.isEmpty(), results[i].status == LineRead);
+        const QJsonObject table = jsonTable("lines.json");
+        const QStringList statuses{"read", "unknown", "ambiguous", "option gone", "out of range"};
+        QCOMPARE(int(table.size()), int(statuses.size()));
+        for (int status = 0; status < int(statuses.size()); ++status) {
+            const QStringList lines = textsOf(table[statuses[status]]);
+            const QList<LineResult> results = conditionsFromLines(lines, 3, LabelsByName);
+            for (int i = 0; i < int(lines.size()); ++i) {
+                QVERIFY2(results[i].status == status, qPrintable(lines[i] + ": " + results[i].reason));
+                QCOMPARE(results[i].reason.isEmpty(), status == LineRead);
+            }
         }
-        const AttrCondition limits = results[lines.indexOf("0.001 <= narrow <= 0.001")].condition;
-        QCOMPARE(limits.low, 0.001);
+        QCOMPARE(conditionsFromLines({"0.001 <= narrow <= 0.001"}, 3, LabelsByName)[0].condition.low, 0.001);
         // By prompt, two attributes have the same label.
         host().dictionary = {&narrow, &quirk};
-        QCOMPARE(conditionsFromLines({"Prompt"}, 3, true)[0].status, LineAmbiguous);
+        QCOMPARE(conditionsFromLines({"Prompt"}, 3, LabelsByPrompt)[0].status, LineAmbiguous);
         host().dictionary = {&quirk};
-        QCOMPARE(conditionsFromLines({"1 <= Prompt <= 2"}, 3, true)[0].condition.name, QString("a%1b"));
+        QCOMPARE(conditionsFromLines({"1 <= Prompt <= 2"}, 3, LabelsByPrompt)[0].condition.name,
+                 QString("a%1b"));
         host().failAt = host().fallible + 1;
-        QCOMPARE(conditionsFromLines({"Prompt"}, 3, true)[0].status, LineNoDictionary);
+        QCOMPARE(conditionsFromLines({"Prompt"}, 3, LabelsByPrompt)[0].status, LineNoDictionary);
         QCOMPARE(int(host().reports.size()), 1);
     }
 
 private:
     typedef std::vector<std::unique_ptr<DmlAttrLWI>> RowSet;
-
-    static QList<QTableWidgetItem *> pointers(const RowSet &rows)
-    {
-        QList<QTableWidgetItem *> items;
-        for (const auto &row : rows)
-            items << row.get();
-        return items;
-    }
 
     template <class Item>
     RowSet rowsOf(bool byPrompt)
@@ -288,19 +320,50 @@ private:
         return rows;
     }
 
-    static RestoreTarget target(const RowSet &available, RowSet *added)
+    static AddToChosen addTo(RowSet *added)
     {
-        return {3, pointers(available), {}, [added](const QTableWidgetItem &item) {
-                    added->emplace_back(static_cast<DmlAttrLWI *>(item.clone()));
-                    return true;
-                }};
+        return [added](const QTableWidgetItem &item) {
+            added->emplace_back(static_cast<DmlAttrLWI *>(item.clone()));
+            return true;
+        };
+    }
+
+    static DocumentProblem read(const QJsonObject &document)
+    {
+        DocumentProblem problem;
+        QList<AttrCondition> conditions;
+        QList<AttrAssignment> assignments;
+        const QByteArray json = QJsonDocument(document).toJson();
+        const bool isRead = document.contains("assignments")
+                                ? assignmentsFromJson(json, &assignments, &problem)
+                                : conditionsFromJson(json, &conditions, &problem);
+        if (isRead != problem.reason.isEmpty())
+            problem.reason = "the result and the problem differ";
+        return problem;
+    }
+
+    /// Makes these the rows of the available table.
+    static void offer(const RowSet &available)
+    {
+        host().top->setRowCount(0);
+        for (const auto &row : available)
+            appendRow(host().top, *row);
+    }
+
+    static QList<RestoreResult> restored(const QList<AttrCondition> &conditions, const RowSet &available,
+                                         RowSet *added)
+    {
+        AttributesFilterDialog dialog(3);
+        offer(available);
+        return dialog.restoreConditions(conditions, addTo(added));
     }
 
     /// Each line is read as the condition that gave it, or is ambiguous.
     static void readBack(const QStringList &lines, const QList<AttrCondition> &conditions,
                          const RowSet &available, bool byPrompt, int *read, int *refused)
     {
-        const QList<LineResult> results = conditionsFromLines(lines, 3, byPrompt);
+        const QList<LineResult> results =
+            conditionsFromLines(lines, 3, byPrompt ? LabelsByPrompt : LabelsByName);
         for (int i = 0; i < lines.size(); ++i) {
             if (results[i].status != LineRead) {
                 ++*refused;
@@ -311,8 +374,7 @@ private:
             }
             ++*read;
             RowSet added;
-            const RestoreResult result =
-                restoreConditions({results[i].condition}, target(available, &added)).first();
+            const RestoreResult result = restored({results[i].condition}, available, &added).first();
             QVERIFY2(result.status == RestoreDone, qPrintable(result.reason + '|' + lines[i]));
             QCOMPARE(added[0]->toString(), lines[i]);
             QCOMPARE(results[i].condition.name, conditions[i].name);
@@ -375,7 +437,7 @@ private:
         available.emplace_back(static_cast<DmlAttrLWI *>(item.clone()));
         QList<AttrCondition> again;
         conditionsFromJson(conditionsToJson({conditionOf(item)}), &again);
-        restoreConditions(again, target(available, &added));
+        restored(again, available, &added);
         return added.empty() ? std::make_unique<AttrFilterLWI>() : std::move(added[0]);
     }
 

@@ -123,7 +123,8 @@ JSON
     start_value 's/octagon/flat/' "no option 'flat'"
     start_value 's/"mm"/"ohm"/' "the units 'ohm'"
     start_value 's/line_width/scale_x/' "'scale_x' is not available"
-    start_value 's/line_width/width/' "'width' has a value already"
+    start_value 's/line_width/width/' "'width' has another type now"
+    start_value 's/"remark"/"width"/; s/"type": "text"/"type": "integer"/; s/"two  words"/5/' "'width' has a value already"
 }
 
 # start_value SED_SCRIPT WORD: refused, for the word.

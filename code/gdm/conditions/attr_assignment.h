@@ -14,16 +14,15 @@ namespace Zudunmaf
 struct AttrAssignment {
     QString name;              ///< The internal name, never the prompt.
     int type = DmlAttrBoolean; ///< A DmlAttrType, or the unknown code of the definition.
-    /// By type a bool, a QString (for an option the text of the entry), an int, or a double in the units below. Invalid
-    /// if the attribute has no value, as a text without a default, and for an unknown type.
+    /// By type a bool, a QString (for an option the text of the entry), an int, or a double in the units below. A null
+    /// QString for a text or an option without a value; invalid for an unknown type.
     QVariant value;
-    int units = -1; ///< Float: the host's code of the units; -1 for none.
-    QString unitsText =
-        QString(QLatin1String("")); ///< Float: the text of these units, empty if they have none.
+    int units = -1;    ///< Float: the host's code of the units; -1 for none.
+    QString unitsText; ///< Float: the text of these units, empty if they have none.
 };
 
-/// Returns true if all fields are equal, the values in metatype too. Numbers are compared bit by bit, so 0 differs
-/// from -0; two NaNs are equal.
+/// Returns true if all fields are equal, the values in metatype too. Values of metatype double are compared bit by bit,
+/// so 0 differs from -0; two NaNs are equal. Values of another metatype, float too, are compared as QVariant does it.
 GDM_EXPORT bool operator==(const AttrAssignment &a, const AttrAssignment &b);
 /// Returns true if any field differs.
 GDM_EXPORT bool operator!=(const AttrAssignment &a, const AttrAssignment &b);

@@ -1,4 +1,4 @@
-#include "gdm/conditions/attr_restoring.h"
+#include "gdm/conditions/restore_target.h"
 
 #include "gdm/conditions/available_items.h"
 #include "gdm/conditions/condition_record.h"
@@ -21,14 +21,27 @@ namespace
 
 typedef std::vector<std::unique_ptr<QTableWidgetItem>> RestoredItems;
 
+RestoreResult duplicate(const QString &name)
+{
+    return refusal(RestoreDuplicate, "'%1' has a value already", name);
+}
+
 /// Adds what could be made; a null item belongs to an entry with a result already. All items exist before the first is
-/// added, because adding may have the available table filled again.
-void addAll(const RestoredItems &items, const AddToChosen &add, QList<RestoreResult> *results)
+/// added, because adding may have the available table filled again. `names` are the attributes that have a value, to which
+/// those added come; null if an attribute can be added several times.
+void addAll(const RestoredItems &items, const AddToChosen &add, QSet<QString> *names,
+            QList<RestoreResult> *results)
 {
     for (std::size_t i = 0; i < items.size(); ++i) {
-        if (items[i] && (!add || !add(*items[i])))
-            (*results)[int(i)] = refusal(RestoreNotAdded, "'%1' was not added to the chosen table",
-                                         items[i]->data(DmlAttrNameRole).toString());
+        if (!items[i])
+            continue;
+        const QString name = items[i]->data(DmlAttrNameRole).toString();
+        if (names && names->contains(name))
+            (*results)[int(i)] = duplicate(name);
+        else if (!add || !add(*items[i]))
+            (*results)[int(i)] = refusal(RestoreNotAdded, "'%1' was not added to the chosen table", name);
+        else if (names)
+            names->insert(name);
     }
 }
 
@@ -47,7 +60,7 @@ RestoreResult makeCondition(const AttrCondition &condition, AvailableItems *avai
     return result;
 }
 
-/// Checks a number, and converts a float into the units of the definition.
+/// Checks a number, of which the default is always taken, and converts a float into the units of the definition.
 RestoreResult takeNumber(const AttrAssignment &assignment, const DmlAttrDef &definition, int displayUnits,
                          QVariant *value)
 {
@@ -56,7 +69,8 @@ RestoreResult takeNumber(const AttrAssignment &assignment, const DmlAttrDef &def
     if (!isNumber)
         return refusal(RestoreOutOfRange, "'%1' is no number", value->toString());
     if (definition.type == DmlAttrInteger) {
-        const QString problem = problemOfInteger(number, definition);
+        const QString problem =
+            number == double(definition.defaultInt) ? QString() : problemOfInteger(number, definition);
         if (problem.isEmpty())
             *value = int(number);
         return rangeResult(problem);
@@ -65,6 +79,8 @@ RestoreResult takeNumber(const AttrAssignment &assignment, const DmlAttrDef &def
     if (units.isUnknown() || units.isOneWithout())
         return unknownUnits(assignment.unitsText);
     *value = units.converted(number);
+    if (value->toDouble() == double(definition.defaultFloat))
+        return RestoreResult();
     return rangeResult(problemOfFloat(value->toDouble(), definition, displayUnits));
 }
 
@@ -96,10 +112,10 @@ RestoreResult takeValue(const AttrAssignment &assignment, const DmlAttrDef &defi
 }
 
 RestoreResult makeAssignment(const AttrAssignment &assignment, AvailableItems *available,
-                             QSet<QString> *names, std::unique_ptr<QTableWidgetItem> *made)
+                             const QSet<QString> &names, std::unique_ptr<QTableWidgetItem> *made)
 {
-    if (names->contains(assignment.name))
-        return refusal(RestoreDuplicate, "'%1' has a value already", assignment.name);
+    if (names.contains(assignment.name))
+        return duplicate(assignment.name);
     const FeatureAttrLWI *item = dynamic_cast<const FeatureAttrLWI *>(available->find(assignment.name));
     if (!item)
         return available->absence(assignment.name);
@@ -112,7 +128,6 @@ RestoreResult makeAssignment(const AttrAssignment &assignment, AvailableItems *a
     if (result.status != RestoreDone)
         return result;
     copy->setAttrValue(value);
-    names->insert(assignment.name);
     *made = std::move(copy);
     return result;
 }
@@ -127,7 +142,7 @@ QList<RestoreResult> restoreConditions(const QList<AttrCondition> &conditions, c
     RestoredItems items(std::size_t(conditions.size()));
     for (int i = 0; i < int(conditions.size()); ++i)
         results.append(makeCondition(conditions.at(i), &available, &items[std::size_t(i)]));
-    addAll(items, target.add, &results);
+    addAll(items, target.add, nullptr, &results);
     return results;
 }
 
@@ -143,8 +158,8 @@ QList<RestoreResult> restoreAssignments(const QList<AttrAssignment> &assignments
     results.reserve(assignments.size());
     RestoredItems items(std::size_t(assignments.size()));
     for (int i = 0; i < int(assignments.size()); ++i)
-        results.append(makeAssignment(assignments.at(i), &available, &names, &items[std::size_t(i)]));
-    addAll(items, target.add, &results);
+        results.append(makeAssignment(assignments.at(i), &available, names, &items[std::size_t(i)]));
+    addAll(items, target.add, &names, &results);
     return results;
 }
 

@@ -13,6 +13,7 @@ namespace Zudunmaf
 AvailableItems::AvailableItems(const RestoreTarget &target)
     : m_did(target.did)
     , m_isDictionaryRead(false)
+    , m_hasDictionary(false)
 {
     for (const QTableWidgetItem *item : target.available) {
         const DmlAttrLWI *attribute = dynamic_cast<const DmlAttrLWI *>(item);
@@ -29,6 +30,8 @@ RestoreResult AvailableItems::absence(const QString &name)
 {
     if (!m_isDictionaryRead)
         readDictionary();
+    if (!m_hasDictionary)
+        return refusal(RestoreNoDictionary, "'%1' is not available, and the dictionary cannot be read", name);
     if (m_dictionaryNames.contains(name))
         return refusal(RestoreNotAvailable, "the attribute '%1' is not available in this dialog", name);
     return refusal(RestoreNoSuchAttribute, "there is no attribute '%1' in the dictionary", name);
@@ -41,10 +44,10 @@ void AvailableItems::readDictionary()
         return;
     const int did = m_did;
     QSet<QString> names;
-    if (walkDictionary(
-            [did] { return did; }, EntityAll, GDM_HERE,
-            [&names](const DmlAttrDef *definition) { names.insert(fieldString(definition->name)); }))
-        m_dictionaryNames = names;
+    m_hasDictionary = walkDictionary(
+        [did] { return did; }, EntityAll, GDM_HERE,
+        [&names](const DmlAttrDef *definition) { names.insert(fieldString(definition->name)); });
+    m_dictionaryNames = names;
 }
 
 } // namespace Zudunmaf

@@ -1,7 +1,7 @@
 #ifndef GDM_CONDITIONS_AVAILABLE_ITEMS_H
 #define GDM_CONDITIONS_AVAILABLE_ITEMS_H
 
-#include "gdm/conditions/attr_restoring.h"
+#include "gdm/conditions/restore_target.h"
 
 #include <QHash>
 #include <QSet>
@@ -29,6 +29,7 @@ private:
     int m_did;
     QHash<QString, const DmlAttrLWI *> m_items;
     bool m_isDictionaryRead;
+    bool m_hasDictionary;
     QSet<QString> m_dictionaryNames;
 };
 

@@ -58,8 +58,9 @@ void readSetCondition(const DmlAttrDef &definition, const DmlAttrValue &record, 
 
 QVariant typedValue(int type, const QVariant &value)
 {
+    const bool isText = type == DmlAttrText || type == DmlAttrOption;
     if (compat::isNullVariant(value))
-        return QVariant();
+        return isText ? QVariant(QString()) : QVariant();
     switch (type) {
     case DmlAttrBoolean:
         return value.toBool();

@@ -52,8 +52,9 @@ LineResult readLine(const QString &line, const LabelIndex &index, bool byPrompt)
 
 } // namespace
 
-QList<LineResult> conditionsFromLines(const QStringList &lines, int did, bool byPrompt)
+QList<LineResult> conditionsFromLines(const QStringList &lines, int did, LineLabels labels)
 {
+    const bool byPrompt = labels == LabelsByPrompt;
     LabelIndex index(byPrompt);
     const bool isRead =
         did >= 0 && walkDictionary([did] { return did; }, EntityAll, GDM_HERE,

@@ -29,17 +29,23 @@ struct LineResult {
     QString reason;                  ///< What is wrong, in English, for logs; empty with LineRead.
 };
 
-/// Reads lines of the filter dialog for a dictionary, and returns one result for each, in order. `byPrompt` says with
-/// what the attributes were labelled when the lines were made.
+/// What the attributes were labelled with when the lines were made.
+enum LineLabels {
+    LabelsByName,  ///< The internal name.
+    LabelsByPrompt ///< The prompt.
+};
+
+/// Reads lines of the filter dialog for a dictionary, and returns one result for each, in order. The empty line, which
+/// an attribute of an unknown type gives, is refused.
 ///
 /// A line is taken only if one attribute alone gives exactly this line, to each character; nothing is guessed. Numbers
 /// of a float have three decimals, and what is read is the printed number. A limit that was rounded up or down beyond
 /// itself is read as the limit, and -0.000 as the negative number next to zero. A label alone is a condition that is
-/// not set. A label with a placeholder such as %1 is found in the form that it has in the line; bounds of one with %L1
-/// or the like, which makes numbers localized, are refused.
+/// not set. A label with a placeholder such as %1 is found in the form that it has in the line. A number
+/// that a placeholder such as %L1 has written with separators of the locale is refused.
 ///
 /// The dictionary is walked once for all lines; a failed walk is reported and refuses them all.
-GDM_EXPORT QList<LineResult> conditionsFromLines(const QStringList &lines, int did, bool byPrompt);
+GDM_EXPORT QList<LineResult> conditionsFromLines(const QStringList &lines, int did, LineLabels labels);
 
 } // namespace Zudunmaf
 

@@ -34,7 +34,8 @@ void readUnits(JsonFields *fields, Entry *entry)
 
 QJsonValue jsonOfValue(int type, const QVariant &value)
 {
-    if (!value.isValid())
+    const bool isText = type == DmlAttrText || type == DmlAttrOption;
+    if (!value.isValid() || (isText && value.toString().isNull()))
         return QJsonValue();
     switch (type) {
     case DmlAttrBoolean:
@@ -53,8 +54,9 @@ QJsonValue jsonOfValue(int type, const QVariant &value)
 
 QVariant valueIn(int type, JsonFields *fields)
 {
+    const bool isText = type == DmlAttrText || type == DmlAttrOption;
     if (fields->any(Value).isNull())
-        return QVariant();
+        return isText ? QVariant(QString()) : QVariant();
     switch (type) {
     case DmlAttrBoolean:
         return fields->flag(Value);

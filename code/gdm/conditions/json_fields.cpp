@@ -123,12 +123,11 @@ QJsonValue JsonFields::any(const char *name)
     return m_object.value(QLatin1String(name));
 }
 
-void JsonFields::refuse(const char *name, const QString &reason)
+void JsonFields::refuse(const QString &name, const QString &reason)
 {
     if (!m_problem.reason.isEmpty())
         return;
-    m_problem.place =
-        m_place.isEmpty() ? QString(QLatin1String(name)) : m_place + QLatin1Char('.') + QLatin1String(name);
+    m_problem.place = m_place.isEmpty() ? name : m_place + QLatin1Char('.') + name;
     m_problem.reason = reason;
 }
 
@@ -137,7 +136,7 @@ bool JsonFields::finish(DocumentProblem *problem)
     const QStringList names = m_object.keys();
     for (const QString &name : names) {
         if (!m_read.contains(name))
-            refuse(name.toUtf8().constData(), QLatin1String("is an unknown field"));
+            refuse(name, QLatin1String("is an unknown field"));
     }
     if (m_problem.reason.isEmpty())
         return true;

@@ -35,7 +35,8 @@ public:
     /// Accepts any value; undefined and a problem if there is none.
     QJsonValue any(const char *name);
 
-    void refuse(const char *name, const QString &reason);
+    void refuse(const QString &name, const QString &reason);
+    void refuse(const char *name, const QString &reason) { refuse(QString(QLatin1String(name)), reason); }
     bool has(const char *name) const { return m_object.contains(QLatin1String(name)); }
 
     /// Refuses fields that were not asked for, and returns true if no problem was found.

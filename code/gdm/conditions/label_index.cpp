@@ -10,8 +10,22 @@ namespace Zudunmaf
 namespace
 {
 
-/// No label has more characters: the fields of a definition have fewer bytes.
+/// No label has more characters: each field of a definition has this many bytes, all of them text in a record without a
+/// terminating zero.
 const int LongestLabel = int(sizeof DmlAttrDef::prompt);
+
+/// QString::arg() replaces a sign that a digit follows, or an L and a digit.
+bool hasPlaceholder(const QString &label)
+{
+    for (int sign = int(label.indexOf(QLatin1Char('%'))); sign >= 0;
+         sign = int(label.indexOf(QLatin1Char('%'), sign + 1))) {
+        const QString after = label.mid(sign + 1, 2);
+        const int digit = after.startsWith(QLatin1Char('L')) ? 1 : 0;
+        if (digit < int(after.size()) && after.at(digit).digitValue() >= 0)
+            return true;
+    }
+    return false;
+}
 
 } // namespace
 
@@ -23,7 +37,7 @@ LabelIndex::LabelIndex(bool byPrompt)
 void LabelIndex::add(const DmlAttrDef *definition)
 {
     const QString label = labelText(*definition, m_byPrompt);
-    if (label.contains(QLatin1Char('%')))
+    if (hasPlaceholder(label))
         m_withPlaceholder.append(definition);
     else
         m_byLabel[label].append(definition);
@@ -36,7 +50,7 @@ QList<const DmlAttrDef *> LabelIndex::candidates(const QString &line) const
     labels << line;
 
     const QString equals = QLatin1String(" = ");
-    for (int end = int(line.indexOf(equals)); end >= 0 && end < LongestLabel;
+    for (int end = int(line.indexOf(equals)); end >= 0 && end <= LongestLabel;
          end = int(line.indexOf(equals, end + 1)))
         labels << line.left(end);
 

@@ -25,7 +25,7 @@ public:
 private:
     bool m_byPrompt;
     QHash<QString, QList<const DmlAttrDef *>> m_byLabel;
-    /// Attributes whose label may stand in its line in another form.
+    /// Attributes whose label has a placeholder, and may have another form in the line. Each line is tried with all of them.
     QList<const DmlAttrDef *> m_withPlaceholder;
 };
 

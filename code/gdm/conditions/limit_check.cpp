@@ -30,6 +30,14 @@ double rounded(double limit)
     return std::isfinite(number) ? number : limit;
 }
 
+/// An editor narrows its limits to 32-bit floats, which makes those beyond their range infinite.
+double editorLimit(double limit)
+{
+    return std::fabs(limit) > double(std::numeric_limits<float>::max())
+               ? std::copysign(std::numeric_limits<double>::infinity(), limit)
+               : limit;
+}
+
 double slackOf(double limit)
 {
     const double slack = 4.0 * double(std::numeric_limits<float>::epsilon()) * std::fabs(limit);
@@ -56,8 +64,8 @@ QString problemOfFloat(double number, const DmlAttrDef &definition, int displayU
     if (displayUnits != -1)
         units = NumberUnits(definition.unitsClass, QString(), displayUnits);
     const double shown = units.converted(number);
-    const double minimum = units.converted(definition.floatMin);
-    const double maximum = units.converted(definition.floatMax);
+    const double minimum = editorLimit(units.converted(definition.floatMin));
+    const double maximum = editorLimit(units.converted(definition.floatMax));
     const double least = std::min(minimum, rounded(minimum)) - slackOf(minimum);
     const double greatest = std::max(maximum, rounded(maximum)) + slackOf(maximum);
     if (shown >= least && shown <= greatest)
