@@ -213,32 +213,7 @@ private Q_SLOTS:
         QVERIFY(bare.userType() == QMetaType::QString && bare.toString().isNull());
         QVERIFY(matches(AttrCondition(), assignments[6].value)); // carried, without a text
 
-        for (int i = 0; i < 7; ++i)
-            appendRow(host().chosen, *added[std::size_t(i)]);
-        AttrAssignment other = assignments[7];
-        const QList<AttrAssignment> twice{assignments[3], other, other};
-        // What was not added is no duplicate later.
-        int calls = 0;
-        const auto results =
-            dialog.restoreAssignments(twice, [&](const QTableWidgetItem &) { return ++calls > 1; });
-        QCOMPARE(results[0].status, RestoreDuplicate);
-        QCOMPARE(results[1].status, RestoreNotAdded);
-        QCOMPARE(results[2].status, RestoreDone);
-        QCOMPARE(dialog.restoreAssignments(twice, addTo(&added))[2].status, RestoreDuplicate);
-        other.value = 11; // the default, beyond the limits
-        QCOMPARE(dialog.restoreAssignments({other}, addTo(&added))[0].status, RestoreDone);
-        other.value = 10;
-        QCOMPARE(dialog.restoreAssignments({other}, addTo(&added))[0].status, RestoreOutOfRange);
-        other.type = DmlAttrFloat;
-        QCOMPARE(dialog.restoreAssignments({other}, addTo(&added))[0].status, RestoreTypeChanged);
-        host().chosen->setRowCount(0);
-        AttrAssignment depth = assignments[4], colour = assignments[2];
-        depth.value = 2.54;
-        depth.unitsText = "mm";
-        colour.value = "green";
-        added.clear();
-        QCOMPARE(dialog.restoreAssignments({depth, colour}, addTo(&added))[1].status, RestoreOptionGone);
-        QCOMPARE(float(added[0]->attrValue().toDouble()), 0.1f);
+        refuseValues(&dialog, assignments, &added);
     }
 
     /// What stands in the chosen tables of the dialogs, through a base that the library does not know.
@@ -348,6 +323,40 @@ private:
         host().top->setRowCount(0);
         for (const auto &row : available)
             appendRow(host().top, *row);
+    }
+
+    /// Values that are there already, beyond limits, of another type or in other units.
+    static void refuseValues(FeatureAttributesDialog *shown, const QList<AttrAssignment> &assignments,
+                             RowSet *values)
+    {
+        FeatureAttributesDialog &dialog = *shown;
+        RowSet &added = *values;
+        for (int i = 0; i < 7; ++i)
+            appendRow(host().chosen, *added[std::size_t(i)]);
+        AttrAssignment other = assignments[7];
+        const QList<AttrAssignment> twice{assignments[3], other, other};
+        // What was not added is no duplicate later.
+        int calls = 0;
+        const auto results =
+            dialog.restoreAssignments(twice, [&](const QTableWidgetItem &) { return ++calls > 1; });
+        QCOMPARE(results[0].status, RestoreDuplicate);
+        QCOMPARE(results[1].status, RestoreNotAdded);
+        QCOMPARE(results[2].status, RestoreDone);
+        QCOMPARE(dialog.restoreAssignments(twice, addTo(&added))[2].status, RestoreDuplicate);
+        other.value = 11; // the default, beyond the limits
+        QCOMPARE(dialog.restoreAssignments({other}, addTo(&added))[0].status, RestoreDone);
+        other.value = 10;
+        QCOMPARE(dialog.restoreAssignments({other}, addTo(&added))[0].status, RestoreOutOfRange);
+        other.type = DmlAttrFloat;
+        QCOMPARE(dialog.restoreAssignments({other}, addTo(&added))[0].status, RestoreTypeChanged);
+        host().chosen->setRowCount(0);
+        AttrAssignment depth = assignments[4], colour = assignments[2];
+        depth.value = 2.54;
+        depth.unitsText = "mm";
+        colour.value = "green";
+        added.clear();
+        QCOMPARE(dialog.restoreAssignments({depth, colour}, addTo(&added))[1].status, RestoreOptionGone);
+        QCOMPARE(float(added[0]->attrValue().toDouble()), 0.1f);
     }
 
     static QList<RestoreResult> restored(const QList<AttrCondition> &conditions, const RowSet &available,
