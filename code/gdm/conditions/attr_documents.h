@@ -23,7 +23,7 @@ struct DocumentProblem {
 /// Returns a JSON document in UTF-8 with the conditions in their order; the same conditions give the same bytes.
 ///
 /// Each number keeps all its bits: infinities, NaN and the negative zero are texts. Fields that the type does not use are
-/// left out. An unpaired surrogate is kept too, as an escape such as \ud800.
+/// left out. An unpaired surrogate is kept too, as the escape that JSON has for it.
 GDM_EXPORT QByteArray conditionsToJson(const QList<AttrCondition> &conditions);
 
 /// Reads what conditionsToJson() has written, and returns true. Anything else is refused with place and reason, and
