@@ -290,6 +290,9 @@ void ChosenTable::commitData(QWidget *editor)
         rememberRefusal();
         return;
     }
+    // What nobody has touched is not read either: a spin box may write a number in another way than it was set.
+    if (!m_content->isChanged())
+        return;
     m_content->interpret();
     if (!m_content->isChanged())
         return;

@@ -11,10 +11,9 @@
 #include <QSet>
 #include <QTableWidget>
 
-#include <algorithm>
-
 /// Checks that the value of a chosen attribute changes only by a commit that the user has caused, or by an action of the
-/// context menu. A commit is the user's if a key, a click or a drop has reached the editor since its last one.
+/// context menu. A commit is the user's if a key, a click or a drop has reached the editor since it was loaded, and since its
+/// last commit.
 class ValueWatch : public QObject
 {
 public:
@@ -22,13 +21,14 @@ public:
 
     void attach(TvxAttributesSelectionDialog *dialog)
     {
-        dialog->setItemDelegate(new CommitWatch(
-            tableOf(dialog)->itemDelegate(), [this](QWidget *editor, const QModelIndex &index) {
-                const auto *table = qobject_cast<const QTableWidget *>(index.model()->QObject::parent());
-                m_committed.insert(table->item(index.row(), 1));
-                if (!m_used.remove(editor))
-                    m_fault = "an editor was committed without the user";
-            }));
+        const auto commit = [this](QWidget *editor, const QModelIndex &index) {
+            const auto *table = qobject_cast<const QTableWidget *>(index.model()->QObject::parent());
+            m_committed.insert(table->item(index.row(), 1));
+            if (!m_used.remove(editor))
+                m_fault = "an editor was committed without the user";
+        };
+        const auto load = [this](QWidget *editor, const QModelIndex &) { m_used.remove(editor); };
+        dialog->setItemDelegate(new CommitWatch(tableOf(dialog)->itemDelegate(), commit, load));
         connect(dialog->findChild<QMenu *>(), &QMenu::triggered, this, [this] { m_isMenuUsed = true; });
     }
 
@@ -40,11 +40,6 @@ public:
         m_isMenuUsed = false;
         m_dialog = dialog;
         m_values = valuesOf(dialog);
-        const auto inCells =
-            tableOf(dialog)->viewport()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
-        if (std::none_of(inCells.begin(), inCells.end(),
-                         [](const QWidget *cell) { return cell->isVisible(); }))
-            m_used.clear();
     }
 
     QString fault(const TvxAttributesSelectionDialog *dialog) const

@@ -6,17 +6,18 @@
 #include <functional>
 #include <utility>
 
-/// A delegate that forwards to another one, and reports each commit before it takes effect.
+/// A delegate that forwards to another one, and reports each commit before it takes effect and each load of an editor.
 class CommitWatch : public QStyledItemDelegate
 {
 public:
     using Report = std::function<void(QWidget *editor, const QModelIndex &index)>;
 
     /// `inner` becomes the parent.
-    CommitWatch(QAbstractItemDelegate *inner, Report report)
+    CommitWatch(QAbstractItemDelegate *inner, Report commit, Report load = nullptr)
         : QStyledItemDelegate(inner)
         , m_inner(inner)
-        , m_report(std::move(report))
+        , m_commit(std::move(commit))
+        , m_load(std::move(load))
     {
     }
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
@@ -26,11 +27,13 @@ public:
     }
     void setEditorData(QWidget *editor, const QModelIndex &index) const override
     {
+        if (m_load)
+            m_load(editor, index);
         m_inner->setEditorData(editor, index);
     }
     void setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const override
     {
-        m_report(editor, index);
+        m_commit(editor, index);
         m_inner->setModelData(editor, model, index);
     }
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
@@ -40,7 +43,8 @@ public:
 
 private:
     QAbstractItemDelegate *m_inner;
-    Report m_report;
+    Report m_commit;
+    Report m_load;
 };
 
 #endif
