@@ -290,7 +290,7 @@ void ChosenTable::commitData(QWidget *editor)
         rememberRefusal();
         return;
     }
-    // What nobody has touched is not read either: a spin box may write a number in another way than it was set.
+    // Do not interpret an unchanged editor: a spin box may write its number differently than it was set.
     if (!m_content->isChanged())
         return;
     m_content->interpret();

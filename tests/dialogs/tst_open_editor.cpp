@@ -66,7 +66,7 @@ private Q_SLOTS:
         QCOMPARE(events.count("commit"), 1);
     }
 
-    /// Neither the editor's three decimals nor its limits reach a value that nobody has changed.
+    /// Leaving an unchanged editor applies neither its three decimals nor its limits to the value.
     void untouchedValuesKeepTheirBits_data() { addWays({"Enter", "elsewhere"}); }
     void untouchedValuesKeepTheirBits()
     {

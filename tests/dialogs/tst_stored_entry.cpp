@@ -138,7 +138,7 @@ private:
             return kind.result;
         if (deed == "paste")
             return kind.resultOfPaste;
-        // Enter alone stores what nobody has touched, and only as a condition that was not set.
+        // Only Enter stores an unchanged editor, and only for a condition that was not set.
         const bool storesOpened = deed == "change and back" || (DialogTest::way() == "Enter" && inFilter());
         return storesOpened ? kind.opened : kind.stored;
     }
