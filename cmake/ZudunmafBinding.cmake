@@ -1,5 +1,5 @@
-# The host's services and dictionary are bound at the first call: they are left out of the link, so the library loads
-# in a process that has neither. A distribution's global flags may ask for the opposite; these come behind them.
+# Binds the host's services and dictionary at the first call: they are not linked, so the library loads in a process that
+# has neither. A distribution's global flags may contain the opposite options; these come after them and win.
 include(CheckCXXSourceCompiles)
 
 function(zudunmaf_bind_at_first_call target)
@@ -10,6 +10,6 @@ function(zudunmaf_bind_at_first_call target)
             target_link_options(${target} PRIVATE "LINKER:-z,${word}")
         endif()
     endforeach()
-    # Without the procedure linkage table, each call would be bound at load.
+    # Without a procedure linkage table, the functions would be bound at load.
     target_compile_options(${target} PRIVATE -fplt)
 endfunction()

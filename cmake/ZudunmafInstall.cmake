@@ -1,10 +1,10 @@
-# Install rules, the CMake package and the pkg-config files. Every path in them is relative, so the tree can be moved
-# after installation. Four components: Library, Standins, Development and Demo.
+# Install rules, the CMake package and the pkg-config files. All paths in them are relative, so the installed tree can be
+# moved. Four components: Library, Standins, Development and Demo.
 include(CMakePackageConfigHelpers)
 
 set(zudunmaf_cmake_dir "${CMAKE_INSTALL_LIBDIR}/cmake/Zudunmaf")
 
-# install_libraries(EXPORT COMPONENT TARGET...): the file to link against belongs to the development files.
+# install_libraries(EXPORT COMPONENT TARGET...): the link without version is in the component Development.
 function(install_libraries export component)
     install(TARGETS ${ARGN} EXPORT ${export}
         LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT ${component} NAMELINK_COMPONENT Development)
@@ -51,7 +51,7 @@ install_development_files("${zudunmaf_cmake_dir}"
     "${PROJECT_BINARY_DIR}/ZudunmafConfig.cmake"
     "${PROJECT_BINARY_DIR}/ZudunmafConfigVersion.cmake")
 
-# zudunmaf.pc is the library for a host of one's own; zudunmaf-standins.pc adds the stand-ins.
+# zudunmaf.pc is for hosts with their own libraries; zudunmaf-standins.pc adds the stand-ins.
 file(RELATIVE_PATH zudunmaf_prefix_from_pc "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig" "${CMAKE_INSTALL_PREFIX}")
 string(REGEX REPLACE "/$" "" zudunmaf_prefix_from_pc "${zudunmaf_prefix_from_pc}")
 set(zudunmaf_pc_requires "Qt${ZUDUNMAF_QT_MAJOR}Widgets")

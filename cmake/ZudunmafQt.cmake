@@ -1,4 +1,4 @@
-# Chooses the major version of Qt: 6 where it is found, else 5. 4 is built only on demand.
+# Selects the major version of Qt: 6 if it is found, else 5. 4 only if it is set explicitly.
 if(DEFINED ZUDUNMAF_QT_MAJOR)
     set(zudunmaf_qt_default "${ZUDUNMAF_QT_MAJOR}")
 else()
@@ -13,7 +13,7 @@ set(ZUDUNMAF_QT_MAJOR "${zudunmaf_qt_default}" CACHE STRING "Major version of Qt
 set_property(CACHE ZUDUNMAF_QT_MAJOR PROPERTY STRINGS 6 5 4)
 
 set(CMAKE_AUTOMOC ON)
-# moc needs none of the libraries that a target links.
+# moc does not need the libraries that a target links.
 set(CMAKE_AUTOGEN_ORIGIN_DEPENDS OFF)
 # The target "autogen" runs moc for all targets.
 set(CMAKE_GLOBAL_AUTOGEN_TARGET ${ZUDUNMAF_TOP_LEVEL})
@@ -27,10 +27,10 @@ elseif(ZUDUNMAF_QT_MAJOR EQUAL 5)
     set(ZUDUNMAF_QT_WIDGETS Qt5::Widgets)
     set(ZUDUNMAF_QT_REGEXP Qt5::Core)
 elseif(ZUDUNMAF_QT_MAJOR EQUAL 6)
-    # QRegExp lives in Core5Compat; its wildcard syntax is what the dialogs promise.
+    # Core5Compat has QRegExp, whose wildcard syntax the dialogs guarantee.
     find_package(Qt6 6.2 REQUIRED COMPONENTS Widgets Core5Compat)
     set(ZUDUNMAF_QT_WIDGETS Qt6::Widgets)
     set(ZUDUNMAF_QT_REGEXP Qt6::Core5Compat)
 else()
-    message(FATAL_ERROR "ZUDUNMAF_QT_MAJOR is ${ZUDUNMAF_QT_MAJOR}; it takes 6, 5 or 4.")
+    message(FATAL_ERROR "ZUDUNMAF_QT_MAJOR is ${ZUDUNMAF_QT_MAJOR}; it must be 6, 5 or 4.")
 endif()

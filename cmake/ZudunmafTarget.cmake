@@ -1,4 +1,4 @@
-# zudunmaf_target(TARGET): what every target of the tree has in common.
+# zudunmaf_target(TARGET): sets the properties and options of every target of the tree.
 function(zudunmaf_target target)
     set_target_properties(${target} PROPERTIES
         CXX_STANDARD 17
@@ -7,12 +7,12 @@ function(zudunmaf_target target)
         CXX_VISIBILITY_PRESET hidden
         VISIBILITY_INLINES_HIDDEN ON
         POSITION_INDEPENDENT_CODE ON)
-    # Nobody replaces a single function of a library, so calls within one need no detour.
+    # Functions are not interposed, so calls inside a library can bypass the procedure linkage table.
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
         target_compile_options(${target} PRIVATE -fno-semantic-interposition)
     endif()
-    # File names in reports are relative to the root of the tree. ccache with a base directory calls the compiler with
-    # paths relative to the build directory.
+    # Makes file names in error reports relative to the root of the tree. The second option is for ccache with a base
+    # directory, which passes paths relative to the build directory.
     file(RELATIVE_PATH root_from_build "${CMAKE_BINARY_DIR}" "${PROJECT_SOURCE_DIR}/")
     target_compile_options(${target} PRIVATE
         -Wall -Wextra -Wpedantic
@@ -31,7 +31,7 @@ function(zudunmaf_target target)
     endif()
 endfunction()
 
-# zudunmaf_library(TARGET ALIAS): a shared library that is installed, and seen as Zudunmaf::ALIAS.
+# zudunmaf_library(TARGET ALIAS): sets up an installed shared library, which other targets link as Zudunmaf::ALIAS.
 function(zudunmaf_library target alias)
     zudunmaf_target(${target})
     add_library(Zudunmaf::${alias} ALIAS ${target})

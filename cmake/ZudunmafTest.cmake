@@ -13,19 +13,19 @@ function(zudunmaf_add_test name label)
         TIMEOUT ${test_TIMEOUT})
 endfunction()
 
-# zudunmaf_missing_test(NAME LABEL WHAT): ctest reports a test that cannot run here as skipped, not as absent.
+# zudunmaf_missing_test(NAME LABEL WHAT): adds a test that cannot run here, so that ctest reports it as skipped.
 function(zudunmaf_missing_test name label what)
     message(STATUS "${what} was not found: the test ${name} is skipped")
     add_test(NAME ${name} COMMAND "${CMAKE_COMMAND}" -E echo "skipped: ${what} was not found")
     set_tests_properties(${name} PROPERTIES LABELS ${label} SKIP_REGULAR_EXPRESSION "skipped: ")
 endfunction()
 
-# zudunmaf_test(NAME SOURCES ... LIBRARIES ...): a Qt Test program, run without a display.
+# zudunmaf_test(NAME SOURCES ... LIBRARIES ...): adds a Qt Test program, which runs without a display.
 function(zudunmaf_test name)
     cmake_parse_arguments(PARSE_ARGV 1 test "" "" "SOURCES;LIBRARIES")
     add_executable(${name} ${test_SOURCES})
     zudunmaf_target(${name})
-    # Empty, since a test program includes its own .moc file.
+    # This file is empty, since a test program includes its own .moc file.
     set_source_files_properties("${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/mocs_compilation.cpp"
         PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
     target_link_libraries(${name} PRIVATE ${test_LIBRARIES} Qt${ZUDUNMAF_QT_MAJOR}::Test)

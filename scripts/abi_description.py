@@ -1,10 +1,10 @@
-"""Describes the binary interface of one built library: exported symbols, host functions asked for, virtual tables and
+"""Describes the binary interface of one built library: exported symbols, required host functions, virtual tables and
 layouts. Runs inside gdb, which reads the layouts from the debug information:
 
     gdb -batch -nx -x scripts/abi_description.py LIBRARY
 
-A library of another architecture takes gdb-multiarch, and its own nm in the environment as NM.
-Texts are made to be compared line by line; nothing in them depends on addresses or on where the tree was built.
+A library of another architecture needs gdb-multiarch, and its nm in the environment variable NM.
+The text is compared line by line, so it depends neither on addresses nor on where the tree was built.
 """
 
 import os
@@ -13,7 +13,7 @@ import subprocess
 
 import gdb
 
-# What a base library keeps behind its opaque pointer is its own business.
+# The base dialog's private class is not part of the interface.
 OWN = re.compile(r"\b(Zudunmaf::|Tvx[A-Z])(?!.*::Private\b)")
 TYPES = [
     "DmlAttrDef", "DmlAttrValue", "DmlAttrType", "Zudunmaf::DmlAttrRole", "Zudunmaf::EntityMask",
@@ -32,7 +32,7 @@ def run(*command):
 
 
 def symbols(library, *options):
-    """Lines of nm as (value, size, kind, name)."""
+    """Yields the lines of nm as (value, size, kind, name)."""
     for line in run(os.environ.get("NM", "nm"), "-DCS", *options, library):
         match = re.match(r"([0-9a-f]+)? ?([0-9a-f]+)? *([A-Za-z]) (.+)", line.strip())
         if match:
@@ -41,7 +41,7 @@ def symbols(library, *options):
 
 def print_symbols(library):
     print("== exported symbols")
-    # Whether a symbol is weak depends on optimisation, not on the interface.
+    # The kind is left out: whether a symbol is weak depends on optimisation.
     for name in sorted({name for _, _, _, name in symbols(library, "--defined-only") if OWN.search(name)}):
         print(name)
     print("== host functions")
@@ -51,8 +51,8 @@ def print_symbols(library):
 
 
 def print_vtables(library):
-    """The slots in order: a function that moves breaks every class derived by a host."""
-    # The compiler lays functions that do the same on one address: both names are told then.
+    """Prints the slots in order: a function that moves breaks every derived class of a host."""
+    # The compiler merges functions with equal code: then both names are printed.
     named = {}
     for value, _, _, name in symbols(library, "--defined-only"):
         if value:
@@ -63,7 +63,7 @@ def print_vtables(library):
         if len(words) == 5 and words[2] in ("R_X86_64_64", "R_AARCH64_ABS64"):
             entries[int(words[0], 16)] = re.sub(r" \+ 0$", "", words[4])
         elif len(words) == 4 and re.match(r"R_[A-Z0-9_]+_RELATIV", words[2]):
-            # A function that the library calls without a detour is referred to by its address.
+            # With -fno-semantic-interposition, the library refers to its functions by address.
             entries[int(words[0], 16)] = " = ".join(sorted(named.get(int(words[3], 16), "-")))
     for value, size, _, name in sorted(symbols(library, "--defined-only"), key=lambda symbol: symbol[3]):
         if name.startswith("vtable for ") and OWN.search(name):

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Builds the benchmarks in build/qtN-release and runs them; see docs/performance.md. Ends with 1 if a goal is missed,
-# which needs an idle machine to mean anything: CI runs only a short part of it.
+# Builds the benchmarks in build/qtN-release and runs them; see docs/performance.md. Ends with 1 if a goal is missed.
+# Results are meaningful only on an idle machine, so CI runs only a short part.
 #   scripts/bench.sh [6|5] [OPTION...]   with options of Google Benchmark, such as --benchmark_filter='^lines/'
 set -euo pipefail
 cd "$(dirname "$0")/.."

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Compares what the built libraries show to hosts (exported symbols, virtual tables, layouts) with the baseline in abi/.
-# A difference fails: hosts are not recompiled with the library. Builds what it compares.
+# Compares the binary interface of the built libraries (exported symbols, virtual tables, layouts) with the baseline in
+# abi/. Any difference is a failure, since hosts are not recompiled with the library. Builds the libraries first.
 #   scripts/check-abi.sh            both versions of Qt, in build/qt6-dev and build/qt5-dev
-#   scripts/check-abi.sh --update   writes the baseline anew; belongs to a change that CHANGELOG.md tells of
-#   scripts/check-abi.sh [--update] MAJOR BUILD_DIRECTORY   one version, from where it is built already
+#   scripts/check-abi.sh --update   writes the baseline; the change must be listed in CHANGELOG.md
+#   scripts/check-abi.sh [--update] MAJOR BUILD_DIRECTORY   one version, already built
 # GDB and NM in the environment name the tools for another architecture; the baseline is the same.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -31,8 +31,8 @@ compare() { # MAJOR BUILD_DIRECTORY
     if [ -n "$update" ]; then
         printf '%s\n' "$found" >"$baseline"
     elif ! diff -u "$baseline" <(printf '%s\n' "$found"); then
-        echo "The binary interface for Qt $1 has changed. Where that is meant, run scripts/check-abi.sh --update" >&2
-        echo "and tell of it in CHANGELOG.md." >&2
+        echo "The binary interface for Qt $1 has changed. If that is intended, run scripts/check-abi.sh --update" >&2
+        echo "and list the change in CHANGELOG.md." >&2
         status=1
     fi
 }

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Breaks each rule of the tree once, in a copy of it, and expects the check of that rule to fail and to name the place.
-# Without a breach, the checks must pass. Ends with a nonzero status if one does not do so.
+# Breaks each rule of the tree once, in a copy, and expects the check of that rule to fail and to print the place. On the
+# unchanged copy, the checks must pass. Ends with a nonzero status if any expectation fails.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -21,24 +21,24 @@ complain() {
     failed=$((failed + 1))
 }
 
-holds() { # COMMAND...: passes on the tree as it is
+holds() { # COMMAND...: the command passes on the unchanged tree
     local said
     if said=$("$@" 2>&1); then
         passed=$((passed + 1))
     else
-        complain "without a breach, this fails: $*"$'\n'"$said"
+        complain "fails on the unchanged tree: $*"$'\n'"$said"
     fi
 }
 
-# breaks PLACE COMMAND...: with what the tree now has, the command fails and names the place. Restores the tree.
+# breaks PLACE COMMAND...: on the changed tree, the command fails and prints the place. Restores the tree.
 breaks() {
     local place=$1 said status=0
     shift
     said=$("$@" 2>&1) || status=$?
     if [ $status -eq 0 ]; then
-        complain "not noticed: $place by $*"$'\n'"$(git diff; git ls-files -o --exclude-standard)"
+        complain "passes despite $place: $*"$'\n'"$(git diff; git ls-files -o --exclude-standard)"
     elif ! grep -qF -- "$place" <<<"$said"; then
-        complain "failed, but did not name $place: $*"$'\n'"$said"
+        complain "failed, but did not print $place: $*"$'\n'"$said"
     else
         passed=$((passed + 1))
     fi
@@ -50,9 +50,9 @@ new_file() { # PATH LINE...
     mkdir -p "$(dirname "$1")"
     printf '%s\n' "${@:2}" >"$1"
 }
-after() { # FILE REGEX LINE: the line comes after the first that matches
+after() { # FILE REGEX LINE: inserts the line after the first match
     sed -i "0,/$2/s//&\n$3/" "$1"
-    ! git diff --quiet -- "$1" || complain "nothing planted in $1"
+    ! git diff --quiet -- "$1" || complain "no line was inserted into $1"
 }
 
 check=scripts/check.sh

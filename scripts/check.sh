@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# Checks the tree without running it, and ends with a nonzero status if a check finds something.
+# Checks the tree without running it. Ends with a nonzero status if a check fails.
 #   scripts/check.sh            all checks
 #   scripts/check.sh --quick    all but the two slow ones, tidy and clazy
 #   scripts/check.sh NAME... [FILE...]
-#                               some of format includes versions facts qt4 names shell messages pages reference tidy
-#                               clazy, on some files; a file is told from a check by a slash
-# scripts/check-rules-test.sh breaks each rule once and expects this script to notice.
+#                               the named checks, on the given files: format includes versions facts qt4 names shell
+#                               messages pages reference tidy clazy. An argument with a slash is a file
+# scripts/check-rules-test.sh breaks each rule once and expects this script to fail.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -22,7 +22,7 @@ for argument in "$@"; do
     esac
 done
 
-tracked() { # PATHSPEC...: those of the files that are wanted
+tracked() { # PATHSPEC...: prints the files of the tree, or those of them that were given as arguments
     if [ ${#only[@]} -gt 0 ]; then
         git ls-files -co --exclude-standard -- "$@" | { grep -xF "$(printf '%s\n' "${only[@]}")" || [ $? -eq 1 ]; }
     else
@@ -30,17 +30,17 @@ tracked() { # PATHSPEC...: those of the files that are wanted
     fi
 }
 
-none() { # REASON, then lines on standard input: there must be none
+none() { # REASON: standard input must be empty
     local found
     found=$(cat)
     [ -z "$found" ] || { printf '%s\n^ %s\n' "$found" "$1" >&2; return 1; }
 }
 
-forbid() { # REASON REGEX, then file names on standard input: no line of them may match
+forbid() { # REASON REGEX: no line of the files named on standard input may match
     { xargs -r grep -nHE -e "$2" || [ $? -eq 123 ]; } | none "$1"
 }
 
-without() { # REGEX: the lines that do not match
+without() { # REGEX: prints the lines that do not match
     grep -vE "$1" || [ $? -eq 1 ]
 }
 
@@ -49,7 +49,7 @@ check_format() {
     tracked '*.cpp' '*.h' | xargs -r clang-format --dry-run -Werror
 }
 
-# Quoted includes that each folder may have, as a regular expression. Angle brackets are for the system alone.
+# Quoted includes that each folder may have, as a regular expression. Angle brackets are for system headers.
 contract='gdm/host/[^/]*|gdm/items/attr_(records|roles)\.h|gdm/dialogs/tvx_attributes_selection_dialog\.h'
 allowed() {
     case "$1" in
@@ -94,9 +94,9 @@ check_facts() {
     local status=0
     tracked 'code/*.cpp' 'standins/*.cpp' 'demo/*.cpp' 'code/*.h' 'standins/*.h' 'demo/*.h' |
         without '/(message_keys|tvx_texts)\.h$' |
-        forbid "message keys belong into message_keys.h or tvx_texts.h" '^[^/]*"@\$@#[A-Za-z]' || status=1
+        forbid "message keys belong in message_keys.h or tvx_texts.h" '^[^/]*"@\$@#[A-Za-z]' || status=1
     tracked 'code/*.cpp' 'code/*.h' | without '/config_keys\.h$' |
-        forbid "configuration keys belong into config_keys.h" '"edt_' || status=1
+        forbid "configuration keys belong in config_keys.h" '"edt_' || status=1
     tracked 'tests/*.cpp' 'tests/*.h' |
         forbid "times are measured in bench/, not in tests" 'QElapsedTimer|QBENCHMARK|std::chrono' || status=1
     return $status
@@ -129,7 +129,7 @@ check_reference() {
     scripts/docs.sh
 }
 
-# The compilation database of the sanitizer build, which has everything and no precompiled headers. Runs moc and
+# Makes the compilation database of the sanitizer build, which has all targets and no precompiled headers. Runs moc and
 # compiles nothing.
 lint_tree=build/qt6-asan
 lint_tree_is_ready=
@@ -142,7 +142,7 @@ prepare_lint_tree() {
 }
 
 run_tidy() { # OPTION..., file names on standard input
-    # Warnings in system headers are counted and not shown.
+    # clang-tidy prints the number of warnings in system headers, but not the warnings.
     xargs -r -P 2 -n 2 clang-tidy --quiet -p "$lint_tree" "$@" 2>&1 | without '^[0-9]+ warnings? generated\.$'
 }
 
@@ -151,7 +151,7 @@ check_tidy() {
     prepare_lint_tree || return 1
     local status=0
     tracked 'code/*.cpp' 'standins/*.cpp' 'demo/*.cpp' | run_tidy || status=1
-    # In tests, only the length of functions. Clang has warnings of its own about Qt Test.
+    # In tests, only the length of functions. -w: Clang warns about Qt Test itself.
     tracked 'tests/*.cpp' | without '^tests/package/' |
         run_tidy --checks='-*,readability-function-size' --extra-arg=-w || status=1
     return $status
@@ -177,7 +177,7 @@ for name in "${names[@]}"; do
         exit 2
     fi
     echo "== $name"
-    # set -e does not hold in here: each check returns its own status.
+    # set -e has no effect inside the checks: each returns its own status.
     "check_$name" || failed+=("$name")
 done
 if [ ${#failed[@]} -gt 0 ]; then

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Brings the message catalogues in po/ up to date with the message keys in the sources.
+# Updates the message catalogues in po/ from the message keys in the sources.
 #
 #   scripts/extract-messages.sh           writes po/zudunmaf.pot and merges it into every po/*.po
-#   scripts/extract-messages.sh --check   changes nothing; fails where the template is out of date, or a message is
-#                                         untranslated, fuzzy, or lost a placeholder
+#   scripts/extract-messages.sh --check   changes nothing; fails if the template is out of date, or if a message is
+#                                         untranslated, fuzzy or without one of its placeholders
 set -euo pipefail
 
 cd "$(dirname "$0")/.."
@@ -23,8 +23,8 @@ case "${1-}" in
     ;;
 esac
 
-# A message is a whole key: "@$@#module@$@#section@$@#number@$@#text". The template bears no date, so that it changes
-# only with the messages. Qt's placeholders are marked in each text that has one, for msgfmt to compare.
+# The msgid is the whole key: "@$@#module@$@#section@$@#number@$@#text". The template has no date, so that it changes only
+# with the messages. Texts with placeholders are marked as qt-format, for msgfmt to compare.
 extract() {
     present=
     for source in $sources; do
@@ -35,7 +35,7 @@ extract() {
         --package-name=zudunmaf --output="$work/all.pot" $present
     sed -i -e '1,/^$/{/^#/d;/^"POT-Creation-Date:/d;s/charset=CHARSET/charset=UTF-8/;}' "$work/all.pot"
     msggrep --msgid --regexp='^@\$@#' --output-file="$1" "$work/all.pot"
-    grep -q '^msgid "@' "$1" # no message at all is no template
+    grep -q '^msgid "@' "$1" # fail if no message was found
 }
 
 check() {
@@ -45,7 +45,7 @@ check() {
         status=1
     fi
     for catalogue in po/*.po; do
-        # msgcmp wants every message of the template in the catalogue, translated and not fuzzy.
+        # msgcmp requires each message of the template to be translated and not fuzzy.
         msgcmp "$catalogue" "$work/zudunmaf.pot" || status=1
         msgfmt --check --output-file=/dev/null "$catalogue" || status=1
     done

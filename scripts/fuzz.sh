@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Builds the fuzzers with clang and runs each of them on its corpus. Ends with a nonzero status at the first crash,
-# leak or input that takes more than ten seconds; the input is left in the build directory.
-#   scripts/fuzz.sh            100,000 inputs for each target
-#   scripts/fuzz.sh 5000000    as many inputs for each target
-#   scripts/fuzz.sh 600s       for so many seconds each
+# Builds the fuzzers with clang and runs each on its corpus. Ends with a nonzero status at the first crash, leak or input
+# that takes more than ten seconds. The input is kept in the build directory.
+#   scripts/fuzz.sh            100,000 inputs for each fuzzer
+#   scripts/fuzz.sh 5000000    the given number of inputs for each fuzzer
+#   scripts/fuzz.sh 600s       the given number of seconds for each fuzzer
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -21,7 +21,7 @@ build=build/qt6-fuzz
 cmake --preset qt6-fuzz >/dev/null
 cmake --build --preset qt6-fuzz
 
-# Two at a time. What is found new goes into the build directory; the corpus of the tree is only read.
+# Two at a time. New corpus files go into the build directory; the corpus of the tree is only read.
 fuzz() { # TARGET
     local log="$build/$1.log" status=0
     mkdir -p "$build/corpus/$1"
@@ -34,5 +34,5 @@ fuzz() { # TARGET
 }
 export -f fuzz
 export limit build
-# The two that take longest start first.
+# The two slowest start first.
 { printf '%s\n' definition filter_text && ls fuzz/corpus; } | awk '!seen[$0]++' | xargs -P 2 -I{} bash -euc 'fuzz {}'

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Lets random keys, clicks and host calls loose on both dialogs under the sanitizers, and opens and closes 2,000 of
-# them in one process. A fault ends it with the seed and the shortest stream of events that shows the fault.
+# Runs random keys, clicks and host calls on both dialogs under the sanitizers, and opens and closes 2,000 dialogs in one
+# process. A failure prints the seed and the shortest stream of events that reproduces it.
 #   scripts/monkey.sh                   five seeds of 20,000 events each, and the 2,000 dialogs
 #   scripts/monkey.sh SEED [EVENTS]     one seed, by default of 20,000 events
-#   scripts/monkey.sh --stream FILE     a stream that was found
+#   scripts/monkey.sh --stream FILE     a printed stream
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -24,7 +24,7 @@ case "${1:-}" in
         for seed in 1 2 3 4 5; do
             monkey qt6-asan --seed "$seed" --events 20000
         done
-        # Without the sanitizers, which leave no figures of memory. Their own leak check is behind each seed.
+        # Without the sanitizers, which distort the figures of memory. Their leak check ran at the end of each seed.
         build qt6-dev
         monkey qt6-dev --soak 2000
         ;;

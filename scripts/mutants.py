@@ -18,13 +18,13 @@ SOURCE = ROOT / "source"
 BUILD = ROOT / "build"
 FOLDERS = ["code/gdm", "standins"]
 JOBS = os.cpu_count() or 1
-# Nothing that is built here is debugged or shipped. Programs need no link when a shared library changes.
+# No debug information and no optimisation. Programs are not relinked when a shared library changes.
 OPTIONS = [
     "-DCMAKE_BUILD_TYPE=None", "-DCMAKE_CXX_FLAGS=-O0 -w", "-DZUDUNMAF_QT_MAJOR=6",
     "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON",
 ]  # fmt: skip
 
-# Binary operators have blanks around them in this tree, which tells them from template brackets and pointers.
+# Binary operators have spaces around them in this tree; template brackets and pointers have not.
 SWAPS = {
     " == ": [" != "], " != ": [" == "], " < ": [" <= ", " >= "], " <= ": [" < ", " > "], " > ": [" >= ", " <= "],
     " >= ": [" > ", " < "], " && ": [" || "], " || ": [" && "], " + ": [" - "], " - ": [" + "], " * ": [" / "],
@@ -41,13 +41,13 @@ SKIPPED_LINE = re.compile(r"^\s*(#|//|\*|/\*|using\b|template\b|static_assert\b|
 
 
 def masked(line):
-    """The line with the contents of strings, characters and comments blanked out, so that columns stay."""
+    """Returns the line with strings, characters and comments blanked out; columns stay the same."""
     line = re.sub(r'"(?:\\.|[^"\\])*"|\'(?:\\.|[^\'\\])*\'', lambda m: m[0][0] + "_" * (len(m[0]) - 2) + m[0][0], line)
     return re.sub(r"//.*", lambda m: " " * len(m[0]), line)
 
 
 def changes_in_line(line):
-    """Each changed form of one line."""
+    """Yields each mutation of one line."""
     code = masked(line)
     for before, afters in SWAPS.items():
         for match in re.finditer(re.escape(before), code):
@@ -67,7 +67,7 @@ def changes_in_line(line):
 
 
 def mutants_of(name):
-    """(file, first line, count of lines, text instead) for each mutant of a file."""
+    """Yields (file, first line, number of lines, replacement) for each mutant of a file."""
     lines = Path(name).read_text(encoding="utf-8").split("\n")
     commented = False
     for number, line in enumerate(lines):
@@ -81,7 +81,7 @@ def mutants_of(name):
             continue
         if NO_STATEMENT.match(line) or DECLARATION.match(line):
             continue
-        # A statement of up to four lines, at the depth of a function.
+        # A statement of up to four lines, inside a function.
         for count in range(1, 5):
             text = " ".join(part.strip() for part in lines[number : number + count])
             if text.endswith(";"):
@@ -95,7 +95,7 @@ def run(command, **options):
 
 
 def prepare():
-    """Copies the tree, where it changed, so that a second run builds little."""
+    """Copies the changed files of the tree, so that a second run builds little."""
     files = subprocess.run(
         ["git", "ls-files", "-co", "--exclude-standard"], check=True, capture_output=True, text=True
     ).stdout.splitlines()
@@ -126,7 +126,7 @@ class Test:
         self.limit = 60.0
 
     def passes(self, stop):
-        """Whether it ends well within its limit of time; None where `stop` was set before."""
+        """Returns whether the test passes within its time limit, or None if `stop` is set first."""
         start = time.monotonic()
         process = subprocess.Popen(
             self.command, cwd=self.folder, env={**os.environ, **self.environment},
@@ -155,7 +155,7 @@ def fast_tests():
 
 
 def first_failure(tests):
-    """The name of the first test that fails, or None. The quickest tests run first."""
+    """Returns the name of the first test that fails, or None. Runs the quickest tests first."""
     stop = threading.Event()
 
     def check(test):
@@ -173,14 +173,14 @@ def first_failure(tests):
 def measure(tests):
     failed = first_failure(tests)
     if failed:
-        sys.exit(f"Without a fault, {failed} fails")
+        sys.exit(f"{failed} fails without a mutant")
     tests.sort(key=lambda test: test.seconds)
     for test in tests:
         test.limit = 10 * test.seconds + 10
 
 
-def tried(mutant, tests):
-    """The name of the test that catches a mutant, "" for none, and None if it does not compile."""
+def catching_test(mutant, tests):
+    """Returns the name of the test that catches a mutant, "" for none, None if it does not compile."""
     name, number, count, instead = mutant
     path = SOURCE / name
     original = path.read_text(encoding="utf-8")
@@ -193,7 +193,7 @@ def tried(mutant, tests):
         path.write_text(original, encoding="utf-8")
 
 
-def told(mutant):
+def summary(mutant):
     name, number, count, instead = mutant
     lines = Path(name).read_text(encoding="utf-8").split("\n")[number : number + count]
     before = " ".join(line.strip() for line in lines)
@@ -211,14 +211,14 @@ def main():
     )
     candidates = [mutant for name in files for mutant in mutants_of(name)]
     if not candidates:
-        sys.exit(f"There is nothing to change in {' '.join(folders)}")
+        sys.exit(f"No mutant is possible in {' '.join(folders)}")
     random.Random(seed).shuffle(candidates)
     print(f"Seed {seed}: {count} of {len(candidates)} mutants in {' '.join(folders)}", flush=True)
 
     prepare()
     compiled, said = build()
     if not compiled:
-        sys.exit(f"Without a fault, the build fails:\n{said}")
+        sys.exit(f"The build fails without a mutant:\n{said}")
     tests = fast_tests()
     measure(tests)
 
@@ -227,18 +227,18 @@ def main():
     for mutant in candidates:
         if caught + len(survivors) == count:
             break
-        by = tried(mutant, tests)
+        by = catching_test(mutant, tests)
         if by is None:
             discarded += 1
         elif by:
             caught += 1
-            print(f"caught by {by}: {told(mutant)}", flush=True)
+            print(f"caught by {by}: {summary(mutant)}", flush=True)
         else:
             survivors.append(mutant)
-            print(f"SURVIVED {told(mutant)}", flush=True)
+            print(f"SURVIVED {summary(mutant)}", flush=True)
     print(f"\n{caught} caught, {len(survivors)} survived, {discarded} did not compile, {time.monotonic() - start:.0f} s")
     for mutant in survivors:
-        print(told(mutant))
+        print(summary(mutant))
 
 
 main()

@@ -1,8 +1,7 @@
 #!/usr/bin/env bash
-# Puts single faults into a copy of code/gdm and standins, one at a time: an operator, a constant or a condition is
-# changed, or a statement is deleted. Builds each, runs the fast tests until one fails, and lists the mutants that all
-# tests pass, as file:line: before -> after. One that does not compile is replaced by another. The sources of the tree
-# are not touched.
+# Puts faults into a copy of code/gdm and standins, one at a time: changes an operator, a constant or a condition, or
+# deletes a statement. Builds each mutant and runs the fast tests until one fails. Lists the mutants that pass all tests, as
+# file:line: before -> after. Replaces mutants that do not compile. The sources of the tree stay unchanged.
 #   scripts/mutants.sh [SEED [COUNT]] [FOLDER...]    by default seed 1, 50 mutants, in code/gdm and standins
 set -euo pipefail
 cd "$(dirname "$0")/.."

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Builds the Debian packages for one version of Qt in build/qtN-release/packages and has lintian read them: what it says
-# fails unless packaging/overrides names it with a reason. --try installs them on this machine, runs the demo and
-# removes them again; it needs root, or sudo.
+# Builds the Debian packages for one version of Qt in build/qtN-release/packages and checks them with lintian. An error or
+# warning is a failure unless packaging/overrides lists it with a reason. --try installs the packages on this machine, runs
+# the demo and removes them; it needs root or sudo.
 #   scripts/packages-deb.sh [6|5] [--try]
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -43,7 +43,7 @@ fi
 mapfile -t names < <(for package in "${packages[@]}"; do dpkg-deb --field "$package" Package; done)
 pictures=$(mktemp -d)
 trap '"${as_root[@]}" dpkg --purge "${names[@]}" >/dev/null; rm -rf "$pictures"' EXIT
-echo "Installing${as_root:+ with sudo}, and removing again: ${names[*]}"
+echo "Installing${as_root:+ with sudo}, then removing: ${names[*]}"
 "${as_root[@]}" dpkg --install "${packages[@]}" >/dev/null
 QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 zudunmaf-demo filter --walk "$pictures"
 pkg-config --print-errors --exists "zudunmaf-standins"

@@ -1,12 +1,12 @@
 # shellcheck shell=bash
 # Sourced by the other scripts.
 #
-# install_packages NAME...: installs the Debian packages that are missing, and says which before it does. As root it
-# calls apt-get, otherwise sudo. Without either, or where there is no apt-get, it prints one line that names what is
-# missing, installs nothing and ends the script.
+# install_packages NAME...: prints the names of the missing Debian packages and installs them. Calls apt-get as root, and
+# sudo otherwise. Without apt-get, or without root and sudo, it prints one line with the missing packages, installs nothing
+# and ends the script.
 
-# What to look for where there is no dpkg to ask: a command, or a pkg-config module with "pc:" before it.
-# Packages that are not listed are taken to be there.
+# How to find a package without dpkg: a command, or a pkg-config module after "pc:". Unlisted packages are assumed to be
+# installed.
 package_probe() {
     case "$1" in
         g++) echo c++ ;;
@@ -66,7 +66,7 @@ install_packages() {
     fi
 }
 
-# What a build of everything with this major version of Qt needs.
+# Packages for a full build with this major version of Qt.
 build_packages() {
     echo g++ cmake ninja-build gettext binutils pkg-config fonts-dejavu-core libgl-dev
     case "$1" in
@@ -75,7 +75,7 @@ build_packages() {
     esac
 }
 
-# What the tests need beside that.
+# Further packages for the tests.
 test_packages() {
     echo xvfb python3 python3-jsonschema
 }

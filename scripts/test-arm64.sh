@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Cross-builds for 64-bit Arm with Debian's multiarch Qt 6 in build/qt6-arm64. Runs the tests of the contract, the binding,
-# the stand-ins and the dialogs under qemu-user, and compares the binary interface with the baseline. Enables arm64
-# packages in dpkg.
+# Cross-builds for 64-bit Arm in build/qt6-arm64, with Debian's multiarch Qt 6. Runs the fast tests of the contract, the
+# binding, the stand-ins and the dialogs under qemu-user, and compares the binary interface with the baseline. Enables
+# arm64 packages in dpkg.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Builds everything and runs all tests, with Qt 6 and then with Qt 5. A test that is skipped fails this script: it
-# installs what the tests need.
+# Builds everything and runs all tests, with Qt 6 and then with Qt 5. Installs what the tests need, so a skipped test is a
+# failure.
 #   scripts/test.sh              both versions of Qt
 #   scripts/test.sh 6            one of them, 6 or 5
 #   scripts/test.sh --sanitize   under the address, leak and undefined-behaviour sanitizers

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Runs the test programs, and a short stream of the monkey, under valgrind's memcheck. Reads and jumps on what was never
-# set, reads and writes out of bounds, and memory that nothing points to any more count as faults, and so does what the
-# tests themselves find. What tests/valgrind.supp names, with its reason, does not.
-#   scripts/valgrind.sh              all of them
-#   scripts/valgrind.sh contract     those whose name has the word in it
+# Runs the test programs, and a short stream of the monkey, under valgrind's memcheck. Fails for use of uninitialised
+# values, for reads and writes out of bounds, for lost memory and for failing tests. tests/valgrind.supp lists the
+# exceptions with their reasons.
+#   scripts/valgrind.sh              all programs
+#   scripts/valgrind.sh contract     those whose name contains the word
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -15,9 +15,9 @@ cmake --preset qt6-dev >/dev/null
 cmake --build --preset qt6-dev
 
 export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
-# Qt Test ends a function after five minutes, which are few here.
+# Qt Test ends a function after five minutes, which is too short here.
 export QTEST_FUNCTION_TIMEOUT=3600000
-# The code that PCRE makes for a regular expression reads past the end of a text, within its block, on purpose.
+# The code that PCRE compiles for a regular expression reads past the end of a text, within its block, on purpose.
 export QT_ENABLE_REGEXP_JIT=0
 memcheck="valgrind --quiet --error-exitcode=9 --leak-check=full --show-leak-kinds=definite,possible"
 memcheck+=" --errors-for-leak-kinds=definite,possible --num-callers=40 --suppressions=$PWD/tests/valgrind.supp"
@@ -35,7 +35,7 @@ for program in "$build"/tests/{standins,contract,dialogs}/*; do
         echo "$name: nothing found, $SECONDS seconds"
     else
         grep -aE '^(==|FAIL|QFATAL)' -A 3 "$log" | head -n 60 || true
-        echo "$name: the rest is in $log"
+        echo "$name: failed, see $log"
         status=1
     fi
 done
