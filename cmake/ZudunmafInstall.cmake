@@ -4,7 +4,7 @@ include(CMakePackageConfigHelpers)
 
 set(zudunmaf_cmake_dir "${CMAKE_INSTALL_LIBDIR}/cmake/Zudunmaf")
 
-# install_libraries(EXPORT COMPONENT TARGET...): the link without version is in the component Development.
+# install_libraries(EXPORT COMPONENT TARGET...): the file to link against belongs to the development files.
 function(install_libraries export component)
     install(TARGETS ${ARGN} EXPORT ${export}
         LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT ${component} NAMELINK_COMPONENT Development)

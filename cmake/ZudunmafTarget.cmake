@@ -31,7 +31,7 @@ function(zudunmaf_target target)
     endif()
 endfunction()
 
-# zudunmaf_library(TARGET ALIAS): sets up an installed shared library, which other targets link as Zudunmaf::ALIAS.
+# zudunmaf_library(TARGET ALIAS): a shared library that is installed, and seen as Zudunmaf::ALIAS.
 function(zudunmaf_library target alias)
     zudunmaf_target(${target})
     add_library(Zudunmaf::${alias} ALIAS ${target})

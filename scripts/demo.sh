@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Builds the demo host and opens the attribute filter dialog, then "Assign Attributes", over the built-in dictionary.
-# Without a display, a scripted walk drives both dialogs by keys and mouse, prints their lines and saves a picture of each
-# step in build/walk. Installs missing packages.
+# Builds the demo host and runs its main job: the attribute filter dialog, then "Assign Attributes", over the
+# dictionary that it carries. With a display both dialogs open; without one, a scripted walk works them by key and
+# mouse, prints their lines and saves a picture of each step in build/walk. Installs what is missing.
 #   scripts/demo.sh              both dialogs
 #   scripts/demo.sh filter ...   one of them, with further options of the demo (see --help)
 set -euo pipefail
@@ -19,7 +19,7 @@ if [ $# -gt 0 ]; then
     exec "$demo" "$@"
 fi
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
-    # Cancel ends the demo with 1, which is not a failure.
+    # Cancel ends a dialog with 1, which is no failure of the demo.
     "$demo" filter || [ $? -eq 1 ]
     "$demo" assign || [ $? -eq 1 ]
 else

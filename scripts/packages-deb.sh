@@ -43,7 +43,7 @@ fi
 mapfile -t names < <(for package in "${packages[@]}"; do dpkg-deb --field "$package" Package; done)
 pictures=$(mktemp -d)
 trap '"${as_root[@]}" dpkg --purge "${names[@]}" >/dev/null; rm -rf "$pictures"' EXIT
-echo "Installing${as_root:+ with sudo}, then removing: ${names[*]}"
+echo "Installing${as_root:+ with sudo}, and removing again: ${names[*]}"
 "${as_root[@]}" dpkg --install "${packages[@]}" >/dev/null
 QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 zudunmaf-demo filter --walk "$pictures"
 pkg-config --print-errors --exists "zudunmaf-standins"

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Writes the pictures of docs/pictures: both dialogs in light and dark colours, right to left, twice the size, in German,
-# and empty. Each is a step of the demo's walk.
+# Makes the pictures of docs/pictures anew: both dialogs in light, dark, right to left, twice the size, German, and
+# empty. Each is a step of the demo's walk.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -13,11 +13,11 @@ demo=build/qt6-dev/demo/zudunmaf-demo
 walk=build/pictures
 mkdir -p docs/pictures
 
-picture() { # picture NAME DIALOG STEP [OPTION...]: saves the picture of one step
+picture() { # picture NAME DIALOG STEP [OPTION...]: keeps the picture of one step
     local name=$1 dialog=$2 step=$3
     shift 3
     rm -rf "$walk"
-    # A walk that starts with another filter text fails, but after the step of the picture.
+    # A walk that starts from another filter text ends early, behind the picture that is wanted.
     env -u DISPLAY -u WAYLAND_DISPLAY "$demo" "$dialog" --walk "$walk" "$@" >/dev/null 2>&1 || true
     cp "$walk"/*-"$step".png "docs/pictures/$name.png"
 }
