@@ -151,7 +151,7 @@ check_tidy() {
     prepare_lint_tree || return 1
     local status=0
     tracked 'code/*.cpp' 'standins/*.cpp' 'demo/*.cpp' | run_tidy || status=1
-    # In tests, only the length of functions. -w: Clang warns about Qt Test itself.
+    # In tests, only the length of functions. Clang has warnings of its own about Qt Test.
     tracked 'tests/*.cpp' | without '^tests/package/' |
         run_tidy --checks='-*,readability-function-size' --extra-arg=-w || status=1
     return $status
