@@ -1,5 +1,5 @@
 // A filter text and a label, parted by the first NUL, against QRegExp and through the rule of the fill.
-#include "gdm/dialogs/attribute_offer.h"
+#include "gdm/dialogs/fill_rule.h"
 #include "gdm/dialogs/filter_pattern.h"
 #include "gdm/items/attr_records.h"
 
@@ -14,7 +14,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, size_t size)
     DmlAttrDef definition;
     std::memset(&definition, 0xFF, sizeof definition);
     std::memcpy(definition.name, label.constData(), size_t(label.size()));
-    (void)Zudunmaf::AttributeOffer(1, QString(), true, text, false, true).takes(definition);
+    (void)Zudunmaf::FillRule(1, QString(), true, text, false, true).accepts(definition);
 
     const Zudunmaf::FilterPattern pattern(text);
     // QRegExp takes the cube of a run of stars, so that it is asked about short texts only.

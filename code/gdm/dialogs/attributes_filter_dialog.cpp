@@ -5,7 +5,7 @@
 #include "gdm/dialogs/context_menu.h"
 #include "gdm/dialogs/group_names.h"
 #include "gdm/dialogs/offered_rows.h"
-#include "gdm/dialogs/row_filter.h"
+#include "gdm/dialogs/visibility_rule.h"
 #include "gdm/editing/attr_item_delegate.h"
 #include "gdm/host/config_keys.h"
 #include "gdm/host/dictionary_walk.h"
@@ -111,8 +111,8 @@ void AttributesFilterDialog::filterAttributeList()
 
     const QString filterText = getUserFilterText();
     const QString allGroups = messageText(keys::FilterAllGroupsAtFilter);
-    const RowFilter filter(entityMask, group, allGroups, filterText, byPrompt);
-    applyRowFilter<AttrFilterLWI>(*this, rows, filter, [](const DmlAttrDef &) { return false; });
+    const VisibilityRule rule(entityMask, group, allGroups, filterText, byPrompt);
+    applyVisibilityRule<AttrFilterLWI>(*this, rows, rule, [](const DmlAttrDef &) { return false; });
     setFirstVisibleItemAsCurrent();
 }
 

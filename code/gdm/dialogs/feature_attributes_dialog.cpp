@@ -5,7 +5,7 @@
 #include "gdm/dialogs/context_menu.h"
 #include "gdm/dialogs/group_names.h"
 #include "gdm/dialogs/offered_rows.h"
-#include "gdm/dialogs/row_filter.h"
+#include "gdm/dialogs/visibility_rule.h"
 #include "gdm/editing/attr_item_delegate.h"
 #include "gdm/host/config_keys.h"
 #include "gdm/host/dictionary_walk.h"
@@ -114,8 +114,8 @@ void FeatureAttributesDialog::filterAttributeList()
 
     const QString filterText = getUserFilterText();
     const QString allGroups = messageText(keys::FeatureAllGroupsAtFilter);
-    const RowFilter filter(entityMask, group, allGroups, filterText, byPrompt);
-    applyRowFilter<FeatureAttrLWI>(*this, rows, filter, [&chosen](const DmlAttrDef &definition) {
+    const VisibilityRule rule(entityMask, group, allGroups, filterText, byPrompt);
+    applyVisibilityRule<FeatureAttrLWI>(*this, rows, rule, [&chosen](const DmlAttrDef &definition) {
         return !chosen.isEmpty() && chosen.contains(fieldString(definition.name));
     });
     setFirstVisibleItemAsCurrent();

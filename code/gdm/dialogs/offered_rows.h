@@ -1,7 +1,7 @@
 #ifndef GDM_DIALOGS_OFFERED_ROWS_H
 #define GDM_DIALOGS_OFFERED_ROWS_H
 
-#include "gdm/dialogs/attribute_offer.h"
+#include "gdm/dialogs/fill_rule.h"
 #include "gdm/dialogs/owned_items.h"
 #include "gdm/dialogs/tvx_attributes_selection_dialog.h"
 #include "gdm/host/config_keys.h"
@@ -38,12 +38,12 @@ bool collectRows(TvxAttributesSelectionDialog &dialog, const char *allGroupsKey,
     const QString group = dialog.getSelectedGroupName();
     const bool allGroups = group == messageText(allGroupsKey);
     const QString filterText = dialog.getUserFilterText();
-    const AttributeOffer offer(entityMask, group, allGroups, filterText, byPrompt, showObsolete);
+    const FillRule rule(entityMask, group, allGroups, filterText, byPrompt, showObsolete);
 
     // The walk takes every entity in both dialogs: the mask comes in with the offer.
     return walkDictionary([&dialog] { return dialog.getEntityDID(); }, EntityAll, positions.walk,
                           [&](const DmlAttrDef *definition) {
-                              if (offer.takes(*definition))
+                              if (rule.accepts(*definition))
                                   rows->append(newRow(definition, byPrompt, dialog.displayUnits()));
                           });
 }

@@ -1,12 +1,12 @@
-#include "gdm/dialogs/row_filter.h"
+#include "gdm/dialogs/visibility_rule.h"
 
 #include "gdm/host/host_text.h"
 
 namespace Zudunmaf
 {
 
-RowFilter::RowFilter(int entityMask, const QString &group, const QString &allGroups,
-                     const QString &filterText, bool byPrompt)
+VisibilityRule::VisibilityRule(int entityMask, const QString &group, const QString &allGroups,
+                               const QString &filterText, bool byPrompt)
     : m_entityMask(static_cast<unsigned int>(entityMask))
     , m_group(group)
     , m_allGroups(group == allGroups)
@@ -15,7 +15,7 @@ RowFilter::RowFilter(int entityMask, const QString &group, const QString &allGro
 {
 }
 
-bool RowFilter::shows(const DmlAttrDef &definition) const
+bool VisibilityRule::shows(const DmlAttrDef &definition) const
 {
     if (!(definition.entityMask & m_entityMask))
         return false;
@@ -25,7 +25,7 @@ bool RowFilter::shows(const DmlAttrDef &definition) const
     return textMatches && groupShows(definition);
 }
 
-bool RowFilter::groupShows(const DmlAttrDef &definition) const
+bool VisibilityRule::groupShows(const DmlAttrDef &definition) const
 {
     return m_allGroups || m_group == fieldString(definition.group);
 }

@@ -1,4 +1,4 @@
-#include "gdm/dialogs/attribute_offer.h"
+#include "gdm/dialogs/fill_rule.h"
 
 #include "gdm/host/gen_services.h"
 #include "gdm/host/host_text.h"
@@ -11,8 +11,8 @@
 namespace Zudunmaf
 {
 
-AttributeOffer::AttributeOffer(int entityMask, const QString &group, bool allGroups,
-                               const QString &filterText, bool byPrompt, bool showObsolete)
+FillRule::FillRule(int entityMask, const QString &group, bool allGroups, const QString &filterText,
+                   bool byPrompt, bool showObsolete)
     : m_entityMask(static_cast<unsigned int>(entityMask))
     , m_group(group)
     , m_allGroups(allGroups)
@@ -23,7 +23,7 @@ AttributeOffer::AttributeOffer(int entityMask, const QString &group, bool allGro
     std::snprintf(m_pattern, sizeof m_pattern, "%.64s", pattern.constData());
 }
 
-bool AttributeOffer::takes(const DmlAttrDef &definition) const
+bool FillRule::accepts(const DmlAttrDef &definition) const
 {
     if (!(definition.entityMask & m_entityMask))
         return false;
@@ -35,7 +35,7 @@ bool AttributeOffer::takes(const DmlAttrDef &definition) const
     return textMatches(definition);
 }
 
-bool AttributeOffer::textMatches(const DmlAttrDef &definition) const
+bool FillRule::textMatches(const DmlAttrDef &definition) const
 {
     const FieldText<sizeof definition.name> name(definition.name);
     if (!m_byPrompt)
