@@ -2,6 +2,7 @@
 
 #include "gdm/conditions/available_items.h"
 #include "gdm/conditions/condition_record.h"
+#include "gdm/conditions/item_names.h"
 #include "gdm/conditions/limit_check.h"
 #include "gdm/conditions/number_units.h"
 #include "gdm/host/host_text.h"
@@ -149,11 +150,7 @@ QList<RestoreResult> restoreConditions(const QList<AttrCondition> &conditions, c
 QList<RestoreResult> restoreAssignments(const QList<AttrAssignment> &assignments, const RestoreTarget &target)
 {
     AvailableItems available(target);
-    QSet<QString> names;
-    for (const QTableWidgetItem *item : target.chosen) {
-        if (dynamic_cast<const FeatureAttrLWI *>(item))
-            names.insert(item->data(DmlAttrNameRole).toString());
-    }
+    QSet<QString> names = namesOf<FeatureAttrLWI>(target.chosen);
     QList<RestoreResult> results;
     results.reserve(assignments.size());
     RestoredItems items(std::size_t(assignments.size()));

@@ -1,41 +1,27 @@
 #include "gdm/dialogs/attributes_filter_dialog.h"
 
-#include "gdm/conditions/chosen_items.h"
 #include "gdm/dialogs/chosen_entries.h"
 #include "gdm/dialogs/context_menu.h"
-#include "gdm/dialogs/group_names.h"
-#include "gdm/dialogs/offered_rows.h"
-#include "gdm/dialogs/visibility_rule.h"
+#include "gdm/dialogs/fill.h"
+#include "gdm/dialogs/filter_rows.h"
 #include "gdm/editing/attr_item_delegate.h"
-#include "gdm/host/config_keys.h"
-#include "gdm/host/dictionary_walk.h"
-#include "gdm/host/host_text.h"
+#include "gdm/editing/condition_editing.h"
 #include "gdm/host/message_keys.h"
-#include "gdm/items/attr_access.h"
 #include "gdm/items/attr_filter_lwi.h"
-#include "gdm/items/attr_roles.h"
 
 namespace Zudunmaf
 {
 
-namespace
-{
+constexpr DialogKind FilterDialog = {
+    keys::FilterAllGroupsRow, keys::FilterAllGroupsAtFill, keys::FilterAllGroupsAtFilter,
+    keys::FilterSetCondition, keys::FilterClearCondition,  EntityAll,
+    KeepChosenRows,
+};
 
-QTableWidgetItem *newRow(const DmlAttrDef *definition, bool byPrompt, int displayUnits)
+static QString lineOf(const AttrFilterLWI &item)
 {
-    DmlAttrLWI *item = new AttrFilterLWI;
-    item->setDisplayPrompt(byPrompt);
-    item->setDisplayUnits(displayUnits);
-    item->setDmlAttribute(variantOfRecord(definition));
-    return item;
+    return item.toString();
 }
-
-TvxDataItem *newEntity(const char *key, EntityMask mask)
-{
-    return new TvxDataItem(messageText(key), QVariant(int(mask)), 0);
-}
-
-} // namespace
 
 AttributesFilterDialog::AttributesFilterDialog(int did, QWidget *parent, Qt::WindowFlags flags)
     : TvxAttributesSelectionDialog(did, parent, flags)
@@ -53,7 +39,6 @@ AttributesFilterDialog::~AttributesFilterDialog() = default;
 
 void AttributesFilterDialog::buildInitialLists()
 {
-    // The order matters: groups and attributes depend on what is selected before them.
     fillEntityList();
     fillGroupsList();
     fillAttributeList();
@@ -61,59 +46,42 @@ void AttributesFilterDialog::buildInitialLists()
 
 void AttributesFilterDialog::fillEntityList()
 {
-    QList<TvxDataItem *> entities;
-    entities << newEntity(keys::FilterEntityComponent, EntityComponent);
-    entities << newEntity(keys::FilterEntityFeature, EntityFeature);
-    entities << newEntity(keys::FilterEntityLayer, EntityLayer);
-    entities << newEntity(keys::FilterEntityJob, EntityJob);
-    entities << newEntity(keys::FilterEntityStep, EntityStep);
-    entities << newEntity(keys::FilterEntityNet, EntityNet);
-    entities << newEntity(keys::FilterEntitySymbol, EntitySymbol);
-    entities << newEntity(keys::FilterEntityWheel, EntityWheel);
-    // The one row whose mask does not fit an int; QVariant gives -1 for it as an int.
-    entities << new TvxDataItem(messageText(keys::FilterEntityAll), QVariant(uint(EntityAll)), 0);
-    TvxAttributesSelectionDialog::fillEntityList(entities);
+    TvxAttributesSelectionDialog::fillEntityList({
+        newEntity(keys::FilterEntityComponent, EntityComponent),
+        newEntity(keys::FilterEntityFeature, EntityFeature),
+        newEntity(keys::FilterEntityLayer, EntityLayer),
+        newEntity(keys::FilterEntityJob, EntityJob),
+        newEntity(keys::FilterEntityStep, EntityStep),
+        newEntity(keys::FilterEntityNet, EntityNet),
+        newEntity(keys::FilterEntitySymbol, EntitySymbol),
+        newEntity(keys::FilterEntityWheel, EntityWheel),
+        newEntity(keys::FilterEntityAll, EntityAll),
+    });
 }
 
 void AttributesFilterDialog::fillGroupsList()
 {
-    const int did = getEntityDID();
-    if (did == -1)
-        return;
-    GroupNames groups(messageText(keys::FilterAllGroupsRow));
-    if (walkDictionary([did] { return did; }, EntityAll, GDM_HERE,
-                       [&groups](const DmlAttrDef *definition) { groups.add(*definition); }))
-        TvxAttributesSelectionDialog::fillGroupsList(groups.list());
+    QStringList groups;
+    if (collectGroups(*this, FilterDialog, GDM_HERE, &groups))
+        TvxAttributesSelectionDialog::fillGroupsList(groups);
 }
 
 void AttributesFilterDialog::fillAttributeList()
 {
     if (getEntityDID() < 0)
         return;
-    const FillPositions positions = {
-        GDM_HERE, // the labels
-        GDM_HERE, // obsolete attributes
-        GDM_HERE, // the walk
-    };
-    OwnedItems rows;
-    if (collectRows(*this, keys::FilterAllGroupsAtFill, positions, newRow, &rows))
-        TvxAttributesSelectionDialog::fillAttributeList(rows.list());
+    Fill fill(*this, FilterDialog);
+    bool isFilled = fill.readLabels(GDM_HERE);
+    isFilled = isFilled && fill.readObsolete(GDM_HERE);
+    isFilled = isFilled && fill.collect<AttrFilterLWI>(GDM_HERE);
+    if (isFilled)
+        TvxAttributesSelectionDialog::fillAttributeList(fill.items());
 }
 
 void AttributesFilterDialog::filterAttributeList()
 {
-    const QString group = getSelectedGroupName();
-    const int entityMask = getSelectedEntityMask();
-    const QList<QTableWidgetItem *> rows = getTopListItems(false);
-    bool byPrompt = false;
-    if (!readFlag(keys::DisplayByPrompt, &byPrompt, GDM_HERE))
-        return;
-
-    const QString filterText = getUserFilterText();
-    const QString allGroups = messageText(keys::FilterAllGroupsAtFilter);
-    const VisibilityRule rule(entityMask, group, allGroups, filterText, byPrompt);
-    applyVisibilityRule<AttrFilterLWI>(*this, rows, rule, [](const DmlAttrDef &) { return false; });
-    setFirstVisibleItemAsCurrent();
+    if (filterRows<AttrFilterLWI>(*this, FilterDialog, GDM_HERE))
+        setFirstVisibleItemAsCurrent();
 }
 
 void AttributesFilterDialog::setDisplayUnits(int units)
@@ -124,46 +92,17 @@ void AttributesFilterDialog::setDisplayUnits(int units)
 
 void AttributesFilterDialog::setupContextMenu()
 {
-    contextMenu = newContextMenu(this, keys::FilterSetCondition, keys::FilterClearCondition);
-    setCustomContextMenu(contextMenu);
-    // clang-format off
-    connect(contextMenu, SIGNAL(triggered(QAction*)), this, SLOT(contextMenu_triggered(QAction*)));
-    // clang-format on
+    contextMenu = installContextMenu(this, FilterDialog);
 }
 
 void AttributesFilterDialog::contextMenu_triggered(QAction *action)
 {
-    if (!action)
-        return;
-    switch (action->data().toInt()) {
-    case MenuEdit:
-        editCurrentItem();
-        break;
-    case MenuReset: {
-        const QList<QTableWidgetItem *> items = getItemsForContextMenuCallback();
-        for (QTableWidgetItem *item : items) {
-            const DmlAttrLWI *attribute = static_cast<const DmlAttrLWI *>(item);
-            const DmlAttrDef *definition = definitionIn(attribute->dmlAttribute());
-            DmlAttrValue *condition = recordIn<DmlAttrValue>(attribute->attrValue());
-            if (definition && condition)
-                prime(*condition, *definition);
-        }
-        break;
-    }
-    default:
-        break;
-    }
+    runMenuAction(this, action, clearCondition);
 }
 
 QStringList AttributesFilterDialog::getFiltersAsStringList() const
 {
-    QStringList lines;
-    const QList<QTableWidgetItem *> chosen = getChosenList();
-    for (const QTableWidgetItem *item : chosen) {
-        if (const AttrFilterLWI *condition = dynamic_cast<const AttrFilterLWI *>(item))
-            lines.append(condition->toString());
-    }
-    return lines;
+    return chosenEntries<AttrFilterLWI>(*this, lineOf);
 }
 
 QList<AttrCondition> AttributesFilterDialog::conditions() const

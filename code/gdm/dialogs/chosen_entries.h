@@ -1,6 +1,7 @@
 #ifndef GDM_DIALOGS_CHOSEN_ENTRIES_H
 #define GDM_DIALOGS_CHOSEN_ENTRIES_H
 
+#include "gdm/conditions/chosen_items.h"
 #include "gdm/conditions/restore_target.h"
 #include "gdm/dialogs/tvx_attributes_selection_dialog.h"
 

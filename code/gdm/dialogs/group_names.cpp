@@ -14,8 +14,8 @@ GroupNames::GroupNames(const QString &firstRow)
 
 void GroupNames::add(const DmlAttrDef &definition)
 {
-    // A dictionary has many attributes and few groups: most are told by their bytes, which takes no QString. Bytes
-    // that differ may still read alike, where they are no text in the encoding.
+    // A dictionary has many attributes and few groups: comparing bytes first spares most of them a QString. Names that
+    // differ in bytes can still be equal as text, because bytes that are invalid in the encoding all read alike.
     const FieldText<sizeof definition.group> bytes(definition.group);
     if (!m_seenBytes.insert(bytes.bytes()).second)
         return;

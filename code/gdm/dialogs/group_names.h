@@ -13,8 +13,8 @@ struct DmlAttrDef;
 namespace Zudunmaf
 {
 
-/// The groups of a dictionary, each once, in the order in which they are met, behind a first row that stands
-/// for all of them. A group that is called like that row gets no row of its own. Internal: not installed.
+/// Collects the names of groups, each once and in the order of arrival, after a first row for all groups. A group with
+/// the name of that row is left out. Internal: not installed.
 class GroupNames
 {
 public:

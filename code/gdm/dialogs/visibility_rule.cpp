@@ -1,6 +1,7 @@
 #include "gdm/dialogs/visibility_rule.h"
 
 #include "gdm/host/host_text.h"
+#include "gdm/items/attr_records.h"
 
 namespace Zudunmaf
 {

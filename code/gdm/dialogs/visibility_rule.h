@@ -2,13 +2,10 @@
 #define GDM_DIALOGS_VISIBILITY_RULE_H
 
 #include "gdm/dialogs/filter_pattern.h"
-#include "gdm/dialogs/tvx_attributes_selection_dialog.h"
-#include "gdm/items/attr_access.h"
-#include "gdm/items/attr_roles.h"
 
-#include <QTableWidgetItem>
+#include <QString>
 
-#include <typeinfo>
+struct DmlAttrDef;
 
 namespace Zudunmaf
 {
@@ -33,29 +30,6 @@ private:
     FilterPattern m_pattern;
     bool m_byPrompt;
 };
-
-/// Returns the item as an `Item`, or null. Comparing the type first spares nearly every row the dynamic_cast.
-template <class Item>
-const Item *itemOfRow(const QTableWidgetItem *row)
-{
-    if (row && typeid(*row) == typeid(Item))
-        return static_cast<const Item *>(row);
-    return dynamic_cast<const Item *>(row);
-}
-
-/// Shows or hides each row. Ignores rows whose item is no `Item` or has no definition. Hides a row for whose definition
-/// `isHidden` returns true, whatever the rule says.
-template <class Item, class IsHidden>
-void applyVisibilityRule(TvxAttributesSelectionDialog &dialog, const QList<QTableWidgetItem *> &rows,
-                         const VisibilityRule &rule, IsHidden isHidden)
-{
-    for (QTableWidgetItem *row : rows) {
-        const Item *item = itemOfRow<Item>(row);
-        const DmlAttrDef *definition = item ? definitionIn(item->data(DmlAttrDefRole)) : nullptr;
-        if (definition)
-            dialog.setTopViewRowsVisiblity(item->row(), rule.shows(*definition) && !isHidden(*definition));
-    }
-}
 
 } // namespace Zudunmaf
 

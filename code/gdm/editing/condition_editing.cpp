@@ -142,4 +142,13 @@ void storeCondition(AttrFilterLWI &item, const DmlAttrDef &definition, QWidget *
     }
 }
 
+void clearCondition(QTableWidgetItem *item)
+{
+    const DmlAttrLWI *attribute = static_cast<const DmlAttrLWI *>(item);
+    const DmlAttrDef *definition = definitionIn(attribute->dmlAttribute());
+    DmlAttrValue *condition = recordIn<DmlAttrValue>(attribute->attrValue());
+    if (definition && condition)
+        prime(*condition, *definition);
+}
+
 } // namespace Zudunmaf

@@ -1,6 +1,7 @@
 #ifndef GDM_EDITING_CONDITION_EDITING_H
 #define GDM_EDITING_CONDITION_EDITING_H
 
+class QTableWidgetItem;
 class QWidget;
 struct DmlAttrDef;
 
@@ -19,6 +20,9 @@ void loadCondition(AttrFilterLWI &item, const DmlAttrDef &definition, QWidget *e
 /// option without a current entry, leaves the condition not set. No units play a part: bounds are in those of
 /// the definition.
 void storeCondition(AttrFilterLWI &item, const DmlAttrDef &definition, QWidget *editor);
+
+/// Primes the condition of the item, which must be a DmlAttrLWI. Does nothing without a definition or a record.
+void clearCondition(QTableWidgetItem *item);
 
 } // namespace Zudunmaf
 

@@ -176,4 +176,13 @@ void storeValue(FeatureAttrLWI &item, const DmlAttrDef &definition, QWidget *edi
     }
 }
 
+void setDefaultValue(QTableWidgetItem *item)
+{
+    FeatureAttrLWI *attribute = dynamic_cast<FeatureAttrLWI *>(item);
+    const DmlAttrDef *definition = attribute ? definitionIn(attribute->dmlAttribute()) : nullptr;
+    const QVariant value = definition ? defaultValue(*definition) : QVariant();
+    if (value.isValid())
+        attribute->setAttrValue(value);
+}
+
 } // namespace Zudunmaf

@@ -1,6 +1,7 @@
 #ifndef GDM_EDITING_VALUE_EDITING_H
 #define GDM_EDITING_VALUE_EDITING_H
 
+class QTableWidgetItem;
 class QWidget;
 struct DmlAttrDef;
 
@@ -20,6 +21,10 @@ void loadValue(FeatureAttrLWI &item, const DmlAttrDef &definition, QWidget *edit
 /// Gives what the editor shows to the item, a float in the units of the definition. A combo box that has
 /// neither a current entry nor a line to type in leaves the item's value as it was.
 void storeValue(FeatureAttrLWI &item, const DmlAttrDef &definition, QWidget *editor);
+
+/// Sets the value of the item to the default of its definition. Does nothing if the item is no FeatureAttrLWI, has no
+/// definition or is of an unknown type.
+void setDefaultValue(QTableWidgetItem *item);
 
 } // namespace Zudunmaf
 
