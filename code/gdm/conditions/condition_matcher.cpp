@@ -2,6 +2,7 @@
 
 #include "gdm/conditions/number_units.h"
 #include "gdm/host/qt_compat.h"
+#include "gdm/items/float_decimals.h"
 
 #include <algorithm>
 #include <cmath>
@@ -16,7 +17,7 @@ namespace
 /// What the user has entered with three decimals if the bound is the 32-bit float next to it; else the bound.
 double enteredNumber(double bound)
 {
-    const double entered = std::round(bound * 1000.0) / 1000.0;
+    const double entered = roundedToDecimals(bound);
     const bool isNarrowed = std::fabs(entered) < double(std::numeric_limits<float>::max()) &&
                             double(static_cast<float>(entered)) == bound;
     return isNarrowed ? entered : bound;

@@ -2,6 +2,7 @@
 
 #include "gdm/conditions/number_units.h"
 #include "gdm/items/attr_records.h"
+#include "gdm/items/float_decimals.h"
 
 #include <algorithm>
 #include <cmath>
@@ -26,7 +27,7 @@ QString beyond(double number, double minimum, double maximum)
 
 double rounded(double limit)
 {
-    const double number = std::round(limit * 1000.0) / 1000.0;
+    const double number = roundedToDecimals(limit);
     return std::isfinite(number) ? number : limit;
 }
 

@@ -5,6 +5,7 @@
 #include "gdm/host/host_text.h"
 #include "gdm/items/attr_access.h"
 #include "gdm/items/attr_filter_lwi.h"
+#include "gdm/items/float_decimals.h"
 
 #include <limits>
 
@@ -22,7 +23,7 @@ struct BoundTexts {
 
 QString printed(double number)
 {
-    return QString(QLatin1String("%1")).arg(number, 0, 'f', 3);
+    return QString(QLatin1String("%1")).arg(number, 0, 'f', FloatDecimals);
 }
 
 /// A character that the label does not hold.

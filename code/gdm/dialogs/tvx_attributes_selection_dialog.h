@@ -43,9 +43,9 @@ private:
 /// that can be edited, column 1 holds the DmlAttrLWI that carries what the user enters. Every operation that
 /// hands out one item for a row gives the item of column 1.
 ///
-/// The base calls filterAttributeList() when the selected entity, the selected group or the filter text
-/// changes, and the two hooks when its buttons move an attribute: the transfer itself, by
-/// QTableWidgetItem::clone(), is the base's and not the hooks'.
+/// The base calls filterAttributeList() when the selected entity, the selected group or the filter text changes. It moves
+/// attributes between the tables itself, by QTableWidgetItem::clone(), and calls one of the two hooks for each attribute
+/// that it moves, whatever has moved it: a button, a key, a drop, undoing a removal, or an item that the host adds.
 class GDM_EXPORT TvxAttributesSelectionDialog : public QDialog
 {
     Q_OBJECT
@@ -70,10 +70,11 @@ public:
     virtual void setupContextMenu() = 0;
     /// Stores the units code, -1 for none. Overrides call this one first and then rebuild the top view.
     virtual void setDisplayUnits(int units);
-    /// Called for each attribute that the add button takes over, with the item of the top view.
+    /// Called for each attribute that was added to the chosen table, with its item in the available table. Not called for
+    /// an attribute that the available table does not have.
     virtual void addButtonClickedCB(QTableWidgetItem *item);
-    /// Called for each attribute that the remove button takes away, with the still living item of the chosen
-    /// list.
+    /// Called for each attribute that is removed from the chosen table, with its item there. The item is deleted after the
+    /// call.
     virtual void removeButtonClickedCB(QTableWidgetItem *item);
 
     /// Connects the widgets to the base's reactions. Called once, after the lists are filled and the delegate

@@ -2,6 +2,7 @@
 
 #include "gdm/editing/range_editor_parts.h"
 #include "gdm/host/message_keys.h"
+#include "gdm/items/float_decimals.h"
 
 #include <QDoubleSpinBox>
 #include <QHBoxLayout>
@@ -16,11 +17,11 @@ MinMaxDoubleEditor::MinMaxDoubleEditor(QWidget *parent)
     horizontalLayout->setObjectName(QLatin1String("horizontalLayout"));
     label_From = rangeParts::addLabel(this, horizontalLayout, "label_From", keys::FloatRangeFrom);
     doubleSpinBox_From = rangeParts::newSpinBox<QDoubleSpinBox>(this, "doubleSpinBox_From");
-    doubleSpinBox_From->setDecimals(3);
+    doubleSpinBox_From->setDecimals(FloatDecimals);
     horizontalLayout->addWidget(doubleSpinBox_From);
     label_To = rangeParts::addLabel(this, horizontalLayout, "label_To", keys::FloatRangeTo);
     doubleSpinBox_To = rangeParts::newSpinBox<QDoubleSpinBox>(this, "doubleSpinBox_To");
-    doubleSpinBox_To->setDecimals(3);
+    doubleSpinBox_To->setDecimals(FloatDecimals);
     horizontalLayout->addWidget(doubleSpinBox_To);
     setAutoFillBackground(true);
 }

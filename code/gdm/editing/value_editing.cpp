@@ -3,6 +3,7 @@
 #include "gdm/editing/combo_editing.h"
 #include "gdm/host/gen_services.h"
 #include "gdm/items/feature_attr_lwi.h"
+#include "gdm/items/float_decimals.h"
 
 #include <QDoubleSpinBox>
 #include <QLineEdit>
@@ -23,7 +24,7 @@ bool offersChoices(const DmlAttrDef &text)
 QDoubleSpinBox *newDoubleSpinBox(QWidget *parent)
 {
     QDoubleSpinBox *box = new QDoubleSpinBox(parent);
-    box->setDecimals(3);
+    box->setDecimals(FloatDecimals);
     return box;
 }
 

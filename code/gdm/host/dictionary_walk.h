@@ -8,8 +8,7 @@
 namespace Zudunmaf
 {
 
-/// Where in the library a service is used: a report names the dialog's own line, so that the log tells one
-/// use from another.
+/// A position in the sources, as gen__log_status_check() takes it.
 struct SourcePosition {
     const char *file;
     int line;

@@ -22,15 +22,17 @@ extern "C" {
 /// leaves the label empty.
 GDM_EXPORT const char *gen__nls_nlst(const char *key);
 
-/// The prompt of an attribute as the user reads it, for the two texts of its definition. Never null. It goes
-/// to gen__str_cmp_reg() as it is and nowhere else, so that the host chooses its encoding.
+/// Returns the text that a fill matches with the filter text if attributes are labelled by their prompt; `name` and
+/// `prompt` are those of the definition. Labels do not show this text but the prompt itself. Never null. The library
+/// passes it on to gen__str_cmp_reg() and nowhere else, so the host chooses its encoding.
 GDM_EXPORT const char *gen__nls_nlsa_get_att_prompt(const char *name, const char *prompt);
 
 /// Reads a boolean configuration value. On success `value` is nonzero for true; `origin` takes a byte that
 /// tells where the value came from. On failure both may hold anything.
 GDM_EXPORT int gen__cfg_get(const char *key, unsigned char *value, unsigned char *origin);
 
-/// Reports the service failure that has just been seen, with the position of the failed call.
+/// Reports that the previous service call failed. `file` and `line` are the position in the library's sources where the
+/// operation used the service: the line of the dialog, not of a helper that several operations share.
 GDM_EXPORT void gen__log_status_check(const char *file, int line);
 
 /// `size` bytes of memory in no particular state. Never null: out of memory, the service does not return. The

@@ -3,6 +3,7 @@
 #include "gdm/host/host_text.h"
 #include "gdm/items/attr_access.h"
 #include "gdm/items/attr_roles.h"
+#include "gdm/items/float_decimals.h"
 
 #include <QPoint>
 #include <QPointF>
@@ -25,7 +26,7 @@ QString number(const QString &text, int value)
 
 QString number(const QString &text, double value)
 {
-    return text.arg(value, 0, 'f', 3, Blank);
+    return text.arg(value, 0, 'f', FloatDecimals, Blank);
 }
 
 template <class Number>

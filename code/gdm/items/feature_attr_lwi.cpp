@@ -5,6 +5,7 @@
 #include "gdm/items/attr_access.h"
 #include "gdm/items/attr_description.h"
 #include "gdm/items/attr_roles.h"
+#include "gdm/items/float_decimals.h"
 
 #include <QByteArray>
 #include <QStringList>
@@ -112,12 +113,12 @@ QString FeatureAttrLWI::valueAsString() const
 QString FeatureAttrLWI::floatAsString(const DmlAttrDef &definition) const
 {
     if (m_displayUnits == -1)
-        return QString(QLatin1String("%1")).arg(m_attrValue.toDouble(), 0, 'f', 3);
+        return QString(QLatin1String("%1")).arg(m_attrValue.toDouble(), 0, 'f', FloatDecimals);
 
     float value = static_cast<float>(m_attrValue.toDouble());
     gen__torvex_units_convert_2(&value, definition.unitsClass, m_displayUnits);
     const QString unit(gen__torvex_cur_units_str(definition.unitsClass, m_displayUnits));
-    return QString(QLatin1String("%1 %2")).arg(double(value), 0, 'f', 3).arg(unit);
+    return QString(QLatin1String("%1 %2")).arg(double(value), 0, 'f', FloatDecimals).arg(unit);
 }
 
 void FeatureAttrLWI::setValueFromString(const QString &text)
