@@ -11,19 +11,8 @@
 #include "gdm/items/attr_access.h"
 #include "gdm/items/attr_roles.h"
 
-#include <typeinfo>
-
 namespace Zudunmaf
 {
-
-/// Returns the item as an `Item`, or null. Comparing the type first spares nearly every row the dynamic_cast.
-template <class Item>
-const Item *itemOfRow(const QTableWidgetItem *row)
-{
-    if (row && typeid(*row) == typeid(Item))
-        return static_cast<const Item *>(row);
-    return dynamic_cast<const Item *>(row);
-}
 
 /// Shows or hides each row of the available table. Ignores rows whose item is no `Item` or has no definition. If the
 /// configuration cannot be read, reports that with the position of the call, changes no row and returns false.
@@ -46,7 +35,7 @@ bool filterRows(TvxAttributesSelectionDialog &dialog, const DialogKind &kind, co
     const QString allGroups = messageText(kind.allGroupsAtFilter);
     const VisibilityRule rule(entityMask, group, allGroups, filterText, byPrompt);
     for (const QTableWidgetItem *row : rows) {
-        const Item *item = itemOfRow<Item>(row);
+        const Item *item = dynamic_cast<const Item *>(row);
         const DmlAttrDef *definition = item ? definitionIn(item->data(DmlAttrDefRole)) : nullptr;
         if (!definition)
             continue;

@@ -5,9 +5,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <string>
-#include <unordered_set>
-
 struct DmlAttrDef;
 
 namespace Zudunmaf
@@ -26,7 +23,6 @@ public:
 private:
     QStringList m_names;
     QSet<QString> m_seen;
-    std::unordered_set<std::string> m_seenBytes;
 };
 
 } // namespace Zudunmaf
