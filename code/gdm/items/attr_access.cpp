@@ -53,8 +53,8 @@ void prime(DmlAttrValue &condition, const DmlAttrDef &definition)
 
 const char *optionEntry(const DmlAttrDef &definition, int index)
 {
-    const bool named = definition.optionList && index >= 0 && index < definition.optionCount;
-    return named ? definition.optionList[index] : nullptr;
+    const bool isEntry = definition.optionList && index >= 0 && index < definition.optionCount;
+    return isEntry ? definition.optionList[index] : nullptr;
 }
 
 QVariant defaultValue(const DmlAttrDef &definition)

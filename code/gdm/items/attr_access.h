@@ -7,50 +7,48 @@
 #include <QString>
 #include <QVariant>
 
-/// How records travel in variants, and the rules that lead from a definition to a first condition or value.
-/// Each rule stands here once for the items, the delegate and the dialogs. Internal: not installed.
+/// Records in variants, and the initial condition or value of a definition. Internal: not installed.
 namespace Zudunmaf
 {
 
-/// A variant of metatype VoidStar that holds the pointer and owns nothing.
+/// Returns a variant of metatype VoidStar with the pointer. It does not own the record.
 inline QVariant variantOfRecord(const void *record)
 {
     return QVariant::fromValue<void *>(const_cast<void *>(record));
 }
 
-/// The record that such a variant points to; null where the variant is null or holds a null pointer.
+/// Returns the record that the variant points to; null if the variant is null or holds a null pointer.
 template <class Record>
 Record *recordIn(const QVariant &variant)
 {
-    // Read in place: the held pointer already tells null. Nearly every variant that comes here is one of
-    // these.
+    // Nearly every variant is of this metatype. Reading it in place spares isNull() and the cast.
     if (variant.userType() == QMetaType::VoidStar)
         return static_cast<Record *>(*static_cast<void *const *>(variant.constData()));
     return compat::isNullVariant(variant) ? nullptr : static_cast<Record *>(qvariant_cast<void *>(variant));
 }
 
-/// The definition that an item's dmlAttribute() points to, or null.
+/// Returns the definition that an item's dmlAttribute() points to, or null.
 inline const DmlAttrDef *definitionIn(const QVariant &dmlAttribute)
 {
     return recordIn<const DmlAttrDef>(dmlAttribute);
 }
 
-/// What both kinds of item answer for DmlAttrNameRole, DmlAttrPromptRole, DmlAttrTypeRole and DmlAttrDefRole;
-/// invalid for any other role. The definition must not be null.
+/// Returns the data of both kinds of item for DmlAttrNameRole, DmlAttrPromptRole, DmlAttrTypeRole and DmlAttrDefRole;
+/// an invalid variant for other roles. The definition must not be null.
 QVariant definitionData(const QVariant &dmlAttribute, int role);
 
-/// The text that an item is labelled with.
+/// Returns the label of an item.
 QString labelText(const DmlAttrDef &definition, bool byPrompt);
 
-/// Makes a condition that is not set, whose bounds span the definition's whole range.
+/// Sets the record to a condition that is not set and whose bounds are the limits of the definition.
 void prime(DmlAttrValue &condition, const DmlAttrDef &definition);
 
-/// Entry number `index` of the definition's option list, or null where the index names no entry.
+/// Returns an entry of the definition's option list; null if the index is out of range.
 const char *optionEntry(const DmlAttrDef &definition, int index);
 
-/// The value that the definition's default stands for, by type; an invalid variant for an unknown type. A
-/// text without a default gives a null QString. An option without one gives an empty QString that is not
-/// null, so that its editor fills at once.
+/// Returns the default value of the definition, by type; an invalid variant for an unknown type. Without a default, a
+/// text is a null QString. An option is then an empty QString that is not null: loadValue() ignores a null value, and
+/// the combo box would stay empty.
 QVariant defaultValue(const DmlAttrDef &definition);
 
 } // namespace Zudunmaf

@@ -12,14 +12,13 @@ namespace Zudunmaf
 namespace
 {
 
-/// A line of the description, or its filling where `text` is null. The message comes first and the filling
-/// second, each in a statement of its own: the order in which the messages are asked for is part of the
-/// contract.
-QString filledLine(const char *lineKey, const char *text, const char *absentKey)
+/// Returns a line with the text, or with the message of `absentKey` if the text is null. Two statements, because the
+/// order of the calls of gen__nls_nlst() is part of the contract.
+QString lineWithDefault(const char *lineKey, const char *text, const char *absentKey)
 {
     const QString line = messageText(lineKey);
-    const QString filling = text ? QString(text) : messageText(absentKey);
-    return line.arg(filling);
+    const QString argument = text ? QString(text) : messageText(absentKey);
+    return line.arg(argument);
 }
 
 void describeInteger(const DmlAttrDef &definition, QStringList *lines)
@@ -61,12 +60,12 @@ QString attributeDescription(const DmlAttrDef &definition, int displayUnits)
         break;
     case DmlAttrText:
         lines << messageText(keys::TipText);
-        lines << filledLine(keys::TipTextDefault, definition.defaultText, keys::TipTextNoDefault);
+        lines << lineWithDefault(keys::TipTextDefault, definition.defaultText, keys::TipTextNoDefault);
         break;
     case DmlAttrOption:
         lines << messageText(keys::TipOption);
-        lines << filledLine(keys::TipOptionDefault, optionEntry(definition, definition.defaultOption),
-                            keys::TipOptionNoDefault);
+        lines << lineWithDefault(keys::TipOptionDefault, optionEntry(definition, definition.defaultOption),
+                                 keys::TipOptionNoDefault);
         break;
     case DmlAttrInteger:
         describeInteger(definition, &lines);

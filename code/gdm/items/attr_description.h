@@ -8,11 +8,11 @@ struct DmlAttrDef;
 namespace Zudunmaf
 {
 
-/// An attribute in several lines: its two names, group and type, and its default, range and units as far as
-/// the type has them. Internal: not installed.
+/// Returns a description of an attribute in several lines: name, prompt, group and type, and default, range and units
+/// if the type has them. Internal: not installed.
 ///
-/// The range and the unit's text speak of `displayUnits`, the default of the units of the definition. The
-/// services are asked in every case, also with -1 for either code.
+/// Range and units are those of `displayUnits`, the default is in the units of the definition. The units services are
+/// called even if one of the codes is -1.
 QString attributeDescription(const DmlAttrDef &definition, int displayUnits);
 
 } // namespace Zudunmaf

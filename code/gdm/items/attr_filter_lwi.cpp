@@ -35,21 +35,22 @@ QString rangeCell(Number low, Number high)
     return number(number(QString(QLatin1String("%1 to %2")), low), high);
 }
 
-// One argument after the other: a label that itself holds a placeholder takes the next argument in its place.
+// One argument after the other, as result lines are defined: a placeholder in the label is replaced too.
 template <class Number>
 QString rangeLine(Number low, const QString &label, Number high)
 {
     return number(number(QString(QLatin1String("%1 <= %2 <= %3")), low).arg(label, 0, Blank), high);
 }
 
-/// The text or the option's entry of a set condition; empty where there is none.
+/// Returns the text or the option's entry of a condition that is set; empty if there is none.
 QString chosenText(const DmlAttrDef &definition, const DmlAttrValue &condition)
 {
     return definition.type == DmlAttrText ? fieldString(condition.text)
                                           : QString(optionEntry(definition, condition.option));
 }
 
-/// The condition in a record, or one that is not set: a subclass can clear m_attrValue.
+/// Returns the condition in the record. Without a record, because a subclass can clear m_attrValue, one that is not
+/// set.
 const DmlAttrValue &conditionIn(const DmlAttrValue *record)
 {
     static const DmlAttrValue none = DmlAttrValue();
@@ -98,8 +99,7 @@ DmlAttrValue *AttrFilterLWI::record() const
 
 QTableWidgetItem *AttrFilterLWI::clone() const
 {
-    // Past the setters, which would prime the record only for the condition to be written over it: a base dialog
-    // clones each row of a dictionary twice.
+    // Without the setters, which would prime the record first. A base dialog clones each item twice.
     AttrFilterLWI *copy = new AttrFilterLWI(conditionIn(record()));
     copy->m_dmlAttribute = m_dmlAttribute;
     copy->m_displayPrompt = m_displayPrompt;
@@ -156,7 +156,7 @@ bool AttrFilterLWI::isShown() const
     return m_displayValue || isSelected();
 }
 
-/// The condition as a value; invalid where none is set or the type has none.
+/// Returns the condition as a value; invalid if it is not set or the type has none.
 QVariant AttrFilterLWI::conditionValue(const DmlAttrDef &definition) const
 {
     const DmlAttrValue *condition = record();
@@ -181,7 +181,7 @@ QVariant AttrFilterLWI::conditionValue(const DmlAttrDef &definition) const
     }
 }
 
-/// What column 1 shows: the condition alone.
+/// Returns the text of column 1.
 QString AttrFilterLWI::cellText(const DmlAttrDef &definition) const
 {
     const DmlAttrValue *condition = record();
@@ -201,7 +201,7 @@ QString AttrFilterLWI::cellText(const DmlAttrDef &definition) const
     }
 }
 
-/// The condition as the line that the host gets: the label alone where nothing is set.
+/// Returns the line for the host; the label alone if the condition is not set.
 QString AttrFilterLWI::filterLine(const DmlAttrDef &definition) const
 {
     if (!isShown() || definition.type < DmlAttrBoolean || definition.type > DmlAttrFloat)

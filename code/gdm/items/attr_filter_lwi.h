@@ -9,43 +9,42 @@ struct DmlAttrValue;
 namespace Zudunmaf
 {
 
-/// Item of AttributesFilterDialog: one attribute with one condition. Column 0 shows the attribute, column 1
-/// the condition, and DmlAttrFilterTextRole gives both as the line that the host gets: "5 <= width <= 9".
+/// Item of AttributesFilterDialog with one attribute and one condition. Column 0 shows the label, column 1 the
+/// condition. DmlAttrFilterTextRole returns both as the line that the host gets: "5 <= width <= 9".
 ///
-/// The condition lives in a DmlAttrValue that the item owns from construction to destruction. attrValue()
-/// points to it, and whoever writes there changes the condition in place. Bounds are in the units of the
-/// definition.
+/// The item owns a DmlAttrValue with the condition, from construction to destruction. attrValue() points to this
+/// record; writing to the record changes the condition. Bounds are in the units of the definition.
 class GDM_EXPORT AttrFilterLWI : public DmlAttrLWI
 {
 public:
-    /// An editable item without a definition, whose condition is not set. Its record comes from
-    /// gen__mem_malloc() and goes back with the item.
+    /// Constructs an editable item without a definition, whose condition is not set. The record is allocated with
+    /// gen__mem_malloc(), and freed by the destructor with gen__mem_free().
     AttrFilterLWI();
-    /// The copy has a record of its own with the same condition.
+    /// Constructs a copy with a record of its own.
     AttrFilterLWI(const AttrFilterLWI &other);
-    /// Copies the condition into the record that this item already has. Assigning through a reference to
-    /// DmlAttrLWI does the same; from an item without a record, it leaves what setDmlAttribute() leaves.
+    /// Copies the condition into the record of this item. Assigning through a reference to DmlAttrLWI does the same. If
+    /// the other item has no record, the condition is that of setDmlAttribute().
     AttrFilterLWI &operator=(const AttrFilterLWI &other);
     ~AttrFilterLWI() override;
 
-    /// A new item with the same condition in a record of its own, owned by the caller. It shows its condition
-    /// at all times and has no display units, whatever this item has.
+    /// Returns a new item with the same condition in a record of its own. The caller owns it. The new item always shows
+    /// its condition and has no display units, whatever the settings of this item are.
     QTableWidgetItem *clone() const override;
-    /// Answers the label or the condition for Qt::DisplayRole, the prompt for Qt::ToolTipRole where the label
-    /// is the name, and DmlAttrNameRole to DmlAttrFilterTextRole. DmlAttrValueRole gives true, a QString, a
-    /// QPoint or a QPointF by type while the condition is set. Whatever it has no answer for, as every role
-    /// without a definition, is answered as by a plain QTableWidgetItem.
+    /// Returns the label or the condition for Qt::DisplayRole, the prompt for Qt::ToolTipRole if the label is the name,
+    /// and the data of DmlAttrNameRole to DmlAttrFilterTextRole. If the condition is set, DmlAttrValueRole returns
+    /// true, a QString, a QPoint or a QPointF, by type. Returns QTableWidgetItem::data() for everything else, and for
+    /// all roles without a definition.
     QVariant data(int role) const override;
 
-    /// Takes the definition and wipes the condition: it is not set then, and its bounds span the whole range.
-    /// A null variant, or one with a null pointer, clears the definition and leaves the condition.
+    /// Sets the definition and clears the condition: it is not set, and its bounds are the limits of the definition. A
+    /// null variant, or one with a null pointer, clears the definition and leaves the condition unchanged.
     void setDmlAttribute(QVariant dmlAttribute) override;
-    /// Copies the DmlAttrValue that the argument points to into the item's own record; a null one is ignored.
-    /// The type is copied with the rest and compared with nothing.
+    /// Copies the DmlAttrValue that the variant points to into the record of this item. Ignores a null variant or
+    /// pointer. The type is copied too and not checked against the definition.
     void setAttrValue(QVariant attrValue) override;
-    /// The text of DmlAttrFilterTextRole.
+    /// Returns the text of DmlAttrFilterTextRole.
     QString toString() const override;
-    /// A null string: a condition has no value text.
+    /// Returns a null string: a condition has no value.
     QString valueAsString() const override;
     /// Does nothing.
     void setValueFromString(const QString &text) override;

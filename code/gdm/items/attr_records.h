@@ -2,47 +2,45 @@
 #define GDM_ITEMS_ATTR_RECORDS_H
 
 /// @file
-/// The records that the library shares with the host, byte by byte.
+/// The records that the library shares with the host. Their layout is part of the interface.
 
 #include <cstddef>
 #include <cstdint>
 
-// Fields that share their bytes with others are plain members by way of anonymous structs, which both
-// compilers take as an extension.
+// Anonymous structs, a compiler extension, make fields that share their bytes plain members of the record.
 #ifdef __clang__
 #    pragma clang diagnostic push
 #    pragma clang diagnostic ignored "-Wgnu-anonymous-struct"
 #    pragma clang diagnostic ignored "-Wnested-anon-types"
 #endif
 
-/// Type of an attribute, the same code in both records. Any other code is shown and stored by nobody.
+/// Type of an attribute, with the same codes in both records. Other codes are unknown: no value is shown or stored.
 enum DmlAttrType {
     DmlAttrBoolean = 0, ///< Carried or not; true or false.
-    DmlAttrText = 1,    ///< Free text, with choices where the definition has some.
+    DmlAttrText = 1,    ///< Free text, with choices if the definition has some.
     DmlAttrOption = 2,  ///< One entry of a list.
     DmlAttrInteger = 3, ///< A whole number between two limits.
-    DmlAttrFloat = 4    ///< A number between two limits, with units where the definition has some.
+    DmlAttrFloat = 4    ///< A number between two limits, with units if the definition has some.
 };
 
-/// Definition of one attribute. Written by the dictionary, which owns it with all its strings and keeps it
-/// valid for as long as any item points to it; the library only reads. The layout is shared with the host,
-/// byte by byte.
+/// Definition of one attribute. The dictionary owns it and all its strings, and keeps it valid as long as any item
+/// points to it. The library only reads it.
 struct DmlAttrDef {
     std::int32_t type;             ///< A DmlAttrType.
     char name[65];                 ///< Internal name, NUL-terminated.
     char prompt[65];               ///< Name to display, NUL-terminated.
     char group[66];                ///< Group name, NUL-terminated.
-    std::uint32_t entityMask;      ///< Entities that may carry it; bits of EntityMask in attr_roles.h.
+    std::uint32_t entityMask;      ///< Entities that can carry the attribute; bits of EntityMask.
     unsigned char reserved204[12]; ///< Neither read nor written.
 
     /// The default value, by type.
     union {
         std::int32_t defaultBool;   ///< Nonzero means true.
-        const char *defaultText;    ///< Null means that there is no default.
-        std::int32_t defaultOption; ///< Index into optionList; negative means that there is no default.
+        const char *defaultText;    ///< Null if there is no default.
+        std::int32_t defaultOption; ///< Index into optionList; negative if there is no default.
         __extension__ struct {
-            std::int32_t defaultInt; ///< The default of an integer; there always is one.
-            std::int32_t intMin;     ///< Lower limit of an integer, in the upper half of the default's slot.
+            std::int32_t defaultInt; ///< An integer always has a default.
+            std::int32_t intMin; ///< Lower limit of an integer, in the upper half of the default's 8 bytes.
         };
         float defaultFloat; ///< In the units of the definition. Single precision, unlike the limits.
     };
@@ -51,40 +49,40 @@ struct DmlAttrDef {
     union {
         std::int32_t intMax; ///< Upper limit of an integer.
         __extension__ struct {
-            double floatMin; ///< Limits of a float, in the units of the definition.
-            double floatMax; ///< Upper limit; not compared with the lower one.
+            double floatMin; ///< Lower limit of a float, in the units of the definition.
+            double floatMax; ///< Upper limit; the library does not compare it with the lower one.
         };
         __extension__ struct {
             const char *const *optionList; ///< Entries of an option, or choices of a text.
-            std::int32_t optionCount;      ///< Number of entries; 0 or less, or a null list, means none.
+            std::int32_t optionCount; ///< Number of entries; 0 or less, like a null list, if there are none.
         };
     };
 
-    std::int32_t unitsClass;      ///< Float only: units of the stored number; -1 means none.
+    std::int32_t unitsClass;      ///< Float only: units of limits, default and stored values; -1 for none.
     unsigned char reserved244[4]; ///< Neither read nor written.
-    std::int32_t textChoiceCount; ///< Text only: 1 or more means that optionList is offered as choices.
+    std::int32_t textChoiceCount; ///< Text only: at least 1 if the editor lists optionList as choices.
     unsigned char reserved252[4]; ///< Neither read nor written.
 };
 
-/// Condition on one attribute. Belongs to exactly one AttrFilterLWI and is all zero until something is
-/// stored.
+/// Condition on one attribute. Each record belongs to one AttrFilterLWI. All bytes are zero until a definition or a
+/// condition is stored.
 struct DmlAttrValue {
     unsigned char reserved0[4]; ///< Zero.
     std::int32_t type;          ///< Copy of DmlAttrDef::type.
     unsigned char reserved8[4]; ///< Zero.
-    std::int32_t isSet;         ///< Nonzero means that the user has set a condition.
+    std::int32_t isSet;         ///< Nonzero if the user has set a condition.
 
-    /// The condition, by type; a boolean has none but isSet.
+    /// The condition, by type; a boolean has only isSet.
     union {
         char text[200];      ///< NUL-terminated, in the local 8-bit encoding.
-        std::int32_t option; ///< Index into DmlAttrDef::optionList; -1 means that nothing is chosen.
+        std::int32_t option; ///< Index into DmlAttrDef::optionList; -1 if nothing is chosen.
         __extension__ struct {
-            std::int32_t intLow;  ///< Least value that fulfils it.
-            std::int32_t intHigh; ///< Never below intLow once edited.
+            std::int32_t intLow;  ///< Least value that satisfies the condition.
+            std::int32_t intHigh; ///< Greatest value; editors never store less than intLow.
         };
         __extension__ struct {
-            double floatLow;  ///< In the units of the definition, whatever the display units are.
-            double floatHigh; ///< Never below floatLow once edited.
+            double floatLow;  ///< Least value, in the units of the definition under all display units.
+            double floatHigh; ///< Greatest value; editors never store less than floatLow.
         };
     };
 

@@ -2,13 +2,12 @@
 #define GDM_ITEMS_ATTR_ROLES_H
 
 /// @file
-/// Numbers by which items, dialogs and dictionaries speak of attributes.
+/// Item data roles and entity masks.
 
 namespace Zudunmaf
 {
 
-/// Item data roles through which a dialog or a host reaches an item's attribute. Fixed numbers and no offsets
-/// from Qt::UserRole, which has moved between the versions of Qt.
+/// Item data roles of an item's attribute. The numbers are fixed; Qt::UserRole differs between versions of Qt.
 enum DmlAttrRole {
     DmlAttrNameRole = 137,      ///< QString: the internal name.
     DmlAttrPromptRole = 138,    ///< QString: the name to display.
@@ -18,8 +17,8 @@ enum DmlAttrRole {
     DmlAttrFilterTextRole = 142 ///< QString: the condition as one line; filter items only.
 };
 
-/// What an attribute can be put on: bits of DmlAttrDef::entityMask. Bits that are not named here are let through
-/// by EntityAll alone.
+/// Entities that can carry an attribute; bits of DmlAttrDef::entityMask. Of the values here, only EntityAll includes
+/// the other bits.
 enum EntityMask : unsigned int {
     EntityJob = 0x00000001,       ///< The whole job.
     EntityStep = 0x00000002,      ///< A step of the job.
@@ -29,7 +28,7 @@ enum EntityMask : unsigned int {
     EntityNet = 0x10000000,       ///< A net.
     EntityComponent = 0x20000000, ///< A component.
     EntityFeature = 0x40000000,   ///< A feature of a layer.
-    EntityAll = 0xFFFFFFFF        ///< Everything, in one row of the entity list.
+    EntityAll = 0xFFFFFFFF        ///< All entities; one row of the entity list.
 };
 
 } // namespace Zudunmaf

@@ -21,9 +21,8 @@ DmlAttrLWI::DmlAttrLWI(const DmlAttrLWI &other) = default;
 DmlAttrLWI &DmlAttrLWI::operator=(const DmlAttrLWI &other)
 {
     QTableWidgetItem::operator=(other);
-    // Through the virtual setters: a filter item then copies the condition and keeps its own record, whatever
-    // the static type of the reference. Priming is skipped if both items point to the same record, since it
-    // would wipe what is to be copied.
+    // The virtual setters make a filter item copy the condition into its own record. If both items point to the same
+    // record, setDmlAttribute() would clear the condition before it is copied.
     if (recordIn<void>(m_attrValue) == recordIn<void>(other.m_attrValue))
         m_dmlAttribute = other.m_dmlAttribute;
     else

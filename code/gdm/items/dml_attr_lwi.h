@@ -10,73 +10,71 @@
 namespace Zudunmaf
 {
 
-/// Table item that binds one dictionary attribute to a condition or a value. The common base of AttrFilterLWI
-/// and FeatureAttrLWI, which do the work; by itself it only keeps what it is given.
+/// Table item with one dictionary attribute and a condition or a value. The base class of AttrFilterLWI and
+/// FeatureAttrLWI; by itself it only stores what is set.
 ///
-/// An item refers to its definition by pointer and owns no part of it: the definition must outlive the item.
-/// It is useful once setDmlAttribute() has been called, and setAttrValue() comes after that. The display
-/// settings take effect at the next data(); nothing here notifies the table.
+/// An item points to its definition and does not own it: the definition must outlive the item. Call setDmlAttribute()
+/// first, and setAttrValue() after it. Settings take effect at the next data(); the table is not notified.
 class GDM_EXPORT DmlAttrLWI : public QTableWidgetItem
 {
 public:
-    /// The kinds of item, see itemType().
+    /// The kinds of item; see itemType().
     enum ItemType_Enum {
-        ItemType_None = 0,       ///< A DmlAttrLWI and no more.
+        ItemType_None = 0,       ///< A plain DmlAttrLWI.
         ItemType_AttrFilter = 1, ///< An AttrFilterLWI.
         ItemType_FeatureAttr = 2 ///< A FeatureAttrLWI.
     };
 
-    /// An item without a definition or value, labelled by name, with its value shown while it is selected and
-    /// no display units. Its QTableWidgetItem type is UserType, as for all items here: itemType() tells the
-    /// kinds apart.
+    /// Constructs an item without definition and value. It is labelled by name, shows its value only while selected,
+    /// and has no display units. QTableWidgetItem::type() is UserType for all kinds of item; use itemType().
     explicit DmlAttrLWI(ItemType_Enum itemType = ItemType_None);
-    /// Copies the item with its settings. Variants are copied, so a copy of an AttrFilterLWI in this class
-    /// points to the other item's record, does not own it, and must not use it once that item is gone.
+    /// Copies the item with its settings. The variants are copied: a DmlAttrLWI that is constructed from an
+    /// AttrFilterLWI points to that item's record, does not own it, and must not be asked for it after that item is
+    /// deleted.
     DmlAttrLWI(const DmlAttrLWI &other);
-    /// Assigns what the copy constructor copies, the definition and the value through the virtual setters: an
-    /// AttrFilterLWI on the left keeps its own record, also through a reference to this class.
+    /// Assigns what the copy constructor copies. Definition and value go through the virtual setters, so an
+    /// AttrFilterLWI keeps its own record even if it is assigned to through a reference to this class.
     DmlAttrLWI &operator=(const DmlAttrLWI &other);
     ~DmlAttrLWI() override;
 
-    /// A new item of the same kind with the same attribute, value and display settings, owned by the caller.
-    /// Flags and data given to the QTableWidgetItem are those of a new item.
+    /// Returns a new item of the same kind with the same attribute, value and display settings. The caller owns it.
+    /// Flags and data of the QTableWidgetItem are those of a new item.
     QTableWidgetItem *clone() const override;
-    /// Every role is answered as by a plain QTableWidgetItem.
+    /// Returns QTableWidgetItem::data() for all roles.
     QVariant data(int role) const override;
 
-    /// Takes the definition, a variant of metatype VoidStar that points to a DmlAttrDef; a null one clears
-    /// it.
+    /// Sets the definition: a variant of metatype VoidStar with a pointer to a DmlAttrDef. A null variant clears it.
     virtual void setDmlAttribute(QVariant dmlAttribute);
-    /// Takes the condition or the value; what the variant holds is the subclass's business.
+    /// Sets the condition or the value. Subclasses define what the variant holds.
     virtual void setAttrValue(QVariant attrValue);
-    /// The item as one line of text; a null string here.
+    /// Returns the item as one line of text; a null string in this class.
     virtual QString toString() const;
-    /// The value in its text form; a null string here.
+    /// Returns the value as text; a null string in this class.
     virtual QString valueAsString() const;
-    /// Takes the value from its text form; does nothing here.
+    /// Sets the value from a text; does nothing in this class.
     virtual void setValueFromString(const QString &text);
 
-    /// A variant of metatype VoidStar that points to the DmlAttrDef; invalid before the first
+    /// Returns a variant of metatype VoidStar with a pointer to the DmlAttrDef; invalid before the first
     /// setDmlAttribute().
     QVariant dmlAttribute() const;
-    /// The condition or the value, as the subclass holds it; invalid before the first setAttrValue() here.
+    /// Returns the condition or the value; see the subclasses. In this class, invalid before the first setAttrValue().
     QVariant attrValue() const;
-    /// True: the item is labelled with the definition's prompt. False: with its name.
+    /// Returns true if the label is the prompt of the definition, false if it is the name.
     bool displayPrompt() const;
-    /// True: the value is shown at all times. False: only while the item is selected.
+    /// Returns true if the value is always shown, false if only while the item is selected.
     bool displayValue();
-    /// Code of the units in which values are shown; -1 means as they are stored.
+    /// Returns the code of the units in which values are shown; -1 if they are shown as stored.
     int displayUnits();
-    /// Which kind of item this is.
+    /// Returns the kind of the item.
     ItemType_Enum itemType();
-    /// The type code of the definition; 0, the code of a boolean, for an item without a definition.
+    /// Returns the type code of the definition; 0, the code of a boolean, without a definition.
     int getDmlAttrType();
 
-    /// Sets what displayPrompt() tells.
+    /// Sets whether the label is the prompt or the name.
     void setDisplayPrompt(bool displayPrompt);
-    /// Sets what displayValue() tells.
+    /// Sets whether the value is always shown.
     void setDisplayValue(bool displayValue);
-    /// Sets the units code. Any code is kept as it is given and passed on to the host's services.
+    /// Sets the units code. Every code is accepted and passed on to the host's services unchanged.
     void setDisplayUnits(int displayUnits);
 
 protected:

@@ -29,7 +29,7 @@ FeatureAttrLWI::~FeatureAttrLWI() = default;
 
 QTableWidgetItem *FeatureAttrLWI::clone() const
 {
-    // Past setDmlAttribute(), which would make a default value only for this one to be written over it.
+    // Without setDmlAttribute(), which would make a default value first.
     FeatureAttrLWI *copy = new FeatureAttrLWI;
     copy->m_dmlAttribute = m_dmlAttribute;
     copy->m_attrValue = m_attrValue;

@@ -8,46 +8,44 @@ struct DmlAttrDef;
 namespace Zudunmaf
 {
 
-/// Item of FeatureAttributesDialog: one attribute with the value assigned to it. Column 0 shows the
-/// attribute, column 1 its value in the display units.
+/// Item of FeatureAttributesDialog with one attribute and its value. Column 0 shows the label, column 1 the value in
+/// the display units.
 ///
-/// The value lies in attrValue() itself, by type: a bool, a QString (also for an option, whose text it is and
-/// never its index), an int, or a double in the units of the definition. A float that was read from a text
-/// with a unit is held as a 32-bit float.
+/// attrValue() holds the value, by type: a bool, a QString (for an option the text of the entry, never its index), an
+/// int, or a double in the units of the definition. A float that was read from a text with a unit is a 32-bit float.
 class GDM_EXPORT FeatureAttrLWI : public DmlAttrLWI
 {
 public:
-    /// An editable, selectable and enabled item without a definition or value.
+    /// Constructs an editable, selectable and enabled item without definition and value.
     FeatureAttrLWI();
-    /// Copies share the definition and have a value of their own.
+    /// Constructs a copy with a value of its own; the definition is shared.
     FeatureAttrLWI(const FeatureAttrLWI &other);
-    /// Takes what a copy would take.
+    /// Assigns what the copy constructor copies.
     FeatureAttrLWI &operator=(const FeatureAttrLWI &other);
     ~FeatureAttrLWI() override;
 
-    /// A new item with the same attribute, value, label and display units, owned by the caller. It shows its
-    /// value at all times, whatever this item does.
+    /// Returns a new item with the same attribute, value, label and display units. The caller owns it. The new item
+    /// always shows its value, whatever the setting of this item is.
     QTableWidgetItem *clone() const override;
-    /// Answers the label or the value for Qt::DisplayRole, a description of the attribute in several lines
-    /// for Qt::ToolTipRole, and DmlAttrNameRole to DmlAttrDefRole. DmlAttrValueRole gives the value unless it
-    /// is null. Whatever it has no answer for, as every role without a definition, is answered as by a plain
-    /// QTableWidgetItem.
+    /// Returns the label or the value for Qt::DisplayRole, a description of the attribute in several lines for
+    /// Qt::ToolTipRole, and the data of DmlAttrNameRole to DmlAttrDefRole. DmlAttrValueRole returns the value unless it
+    /// is null. Returns QTableWidgetItem::data() for everything else, and for all roles without a definition.
     QVariant data(int role) const override;
 
-    /// Takes the definition and sets the value to its default. A null definition, or one of an unknown type,
-    /// leaves the value as it was.
+    /// Sets the definition, and the value to its default. If the definition is null or of an unknown type, the value is
+    /// left unchanged.
     void setDmlAttribute(QVariant dmlAttribute) override;
-    /// Takes the value as it is: it is neither converted nor compared with the limits.
+    /// Sets the value. It is neither converted nor checked against the limits.
     void setAttrValue(QVariant attrValue) override;
-    /// The text of the cell.
+    /// Returns the text of the cell.
     QString toString() const override;
-    /// The value as the user reads it, in the display units and with three decimals for a float; empty for a
-    /// boolean and where there is no value.
+    /// Returns the value as the cell shows it, a float in the display units and with three decimals. Empty for a
+    /// boolean and if there is no value.
     QString valueAsString() const override;
-    /// Takes the value from a text as valueAsString() writes it. A text or an option takes it unchanged, and
-    /// an option's is not looked up. A float may be a number, a blank and a unit; a lone number is in the
-    /// units of the definition. A text that is no number, or has more than two words, gives 0 in place of the
-    /// old value. No limits are applied. A boolean is left alone, and so is an item without a definition.
+    /// Sets the value from a text that valueAsString() can have returned. A text or an option is set to the text as it
+    /// is; an option is not searched for an entry. A float is a number, or a number, a blank and a unit; a number alone
+    /// is in the units of the definition. A text that is no number, or has more than two words, sets the value to 0.
+    /// Limits are not checked. Does nothing for a boolean, and without a definition.
     void setValueFromString(const QString &text) override;
 
 private:
