@@ -45,8 +45,8 @@ DmlAttrLWI *AttrItemDelegate::attrItemFromIndex(const QModelIndex &index)
     return dynamic_cast<DmlAttrLWI *>(static_cast<QTableWidget *>(owner)->item(index.row(), 1));
 }
 
-void AttrItemDelegate::transfer(QWidget *editor, const QModelIndex &index, ConditionStep conditionStep,
-                                ValueStep valueStep)
+void AttrItemDelegate::callForItem(QWidget *editor, const QModelIndex &index,
+                                   ConditionFunction conditionFunction, ValueFunction valueFunction)
 {
     DmlAttrLWI *item = editor ? attrItemFromIndex(index) : nullptr;
     const DmlAttrDef *definition = definitionOf(item);
@@ -54,10 +54,10 @@ void AttrItemDelegate::transfer(QWidget *editor, const QModelIndex &index, Condi
         return;
     if (item->itemType() == DmlAttrLWI::ItemType_AttrFilter) {
         if (AttrFilterLWI *filterItem = dynamic_cast<AttrFilterLWI *>(item))
-            conditionStep(*filterItem, *definition, editor);
+            conditionFunction(*filterItem, *definition, editor);
     } else if (item->itemType() == DmlAttrLWI::ItemType_FeatureAttr) {
         if (FeatureAttrLWI *featureItem = dynamic_cast<FeatureAttrLWI *>(item))
-            valueStep(*featureItem, *definition, editor);
+            valueFunction(*featureItem, *definition, editor);
     }
 }
 
@@ -80,12 +80,12 @@ QWidget *AttrItemDelegate::createEditor(QWidget *parent, const QStyleOptionViewI
 
 void AttrItemDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
 {
-    transfer(editor, index, loadCondition, loadValue);
+    callForItem(editor, index, loadCondition, loadValue);
 }
 
 void AttrItemDelegate::setModelData(QWidget *editor, QAbstractItemModel *, const QModelIndex &index) const
 {
-    transfer(editor, index, storeCondition, storeValue);
+    callForItem(editor, index, storeCondition, storeValue);
 }
 
 void AttrItemDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,

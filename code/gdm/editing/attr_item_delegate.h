@@ -12,12 +12,11 @@ class AttrFilterLWI;
 class DmlAttrLWI;
 class FeatureAttrLWI;
 
-/// Edits conditions and values in the cells of a QTableWidget. The row's item stands in column 1, whichever
-/// column is edited. One delegate serves every row: it keeps nothing between two calls.
+/// Edits conditions and values in a QTableWidget. The edited item is that of column 1, for both columns. The delegate
+/// has no state between two calls.
 ///
-/// A commit writes to the item and not through the model, so no itemChanged is raised. Whatever is not found
-/// (an item, a definition, an editor of the fitting class) ends the operation silently and leaves the item as
-/// it was. Internal: not exported.
+/// A commit writes to the item and not through the model, so QTableWidget::itemChanged() is not emitted. If the item,
+/// its definition or an editor of the right class is missing, a function does nothing. Internal: not exported.
 class AttrItemDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -26,10 +25,9 @@ public:
     explicit AttrItemDelegate(QObject *parent);
     ~AttrItemDelegate() override;
 
-    /// Rows stand 4 pixels higher than the style would make them.
+    /// Returns the size hint of the style plus 4 pixels of height.
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
-    /// An editor that fits the kind of item and the type of its attribute; null where there is none, as for a
-    /// boolean.
+    /// Returns an editor for the kind of item and the type of its attribute; null if there is none, as for a boolean.
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                           const QModelIndex &index) const override;
     void setEditorData(QWidget *editor, const QModelIndex &index) const override;
@@ -38,13 +36,13 @@ public:
                               const QModelIndex &index) const override;
 
 private:
-    typedef void (*ConditionStep)(AttrFilterLWI &, const DmlAttrDef &, QWidget *);
-    typedef void (*ValueStep)(FeatureAttrLWI &, const DmlAttrDef &, QWidget *);
+    typedef void (*ConditionFunction)(AttrFilterLWI &, const DmlAttrDef &, QWidget *);
+    typedef void (*ValueFunction)(FeatureAttrLWI &, const DmlAttrDef &, QWidget *);
 
     static DmlAttrLWI *attrItemFromIndex(const QModelIndex &index);
-    /// Finds the row's item and its definition, and takes the step that fits the kind of item.
-    static void transfer(QWidget *editor, const QModelIndex &index, ConditionStep conditionStep,
-                         ValueStep valueStep);
+    /// Calls the function for the kind of the row's item.
+    static void callForItem(QWidget *editor, const QModelIndex &index, ConditionFunction conditionFunction,
+                            ValueFunction valueFunction);
 };
 
 } // namespace Zudunmaf

@@ -8,7 +8,7 @@
 namespace Zudunmaf
 {
 
-/// A combo box that offers entries and takes no others, still empty.
+/// Creates an empty combo box that is not editable.
 inline QComboBox *newComboBox(QWidget *parent)
 {
     QComboBox *box = new QComboBox(parent);
@@ -17,7 +17,7 @@ inline QComboBox *newComboBox(QWidget *parent)
     return box;
 }
 
-/// Adds every entry of the definition's option list, in its order.
+/// Adds the entries of the definition's option list.
 inline void addOptions(QComboBox *box, const DmlAttrDef &definition)
 {
     const int count = definition.optionList ? definition.optionCount : 0;

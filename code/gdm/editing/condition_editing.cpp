@@ -52,9 +52,9 @@ void storeText(DmlAttrValue &condition, const QString &text)
 
 void storeOption(DmlAttrValue &condition, const DmlAttrDef &definition, int index)
 {
-    const bool named = index >= 0 && index < definition.optionCount;
-    condition.option = named ? index : -1;
-    if (!named)
+    const bool isEntry = index >= 0 && index < definition.optionCount;
+    condition.option = isEntry ? index : -1;
+    if (!isEntry)
         condition.isSet = 0;
 }
 

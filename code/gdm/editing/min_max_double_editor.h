@@ -10,8 +10,8 @@ class QLabel;
 namespace Zudunmaf
 {
 
-/// Editor of a float range with three decimals, otherwise as MinMaxIntEditor. Limits and bounds pass through
-/// it as 32-bit floats, in the units of the definition. Internal: not exported.
+/// Cell editor of a float range with FloatDecimals; otherwise the same as MinMaxIntEditor. Limits and bounds are 32-bit
+/// floats, in the units of the definition. Internal: not exported.
 class MinMaxDoubleEditor : public QWidget
 {
     Q_OBJECT

@@ -10,9 +10,8 @@ class QSpinBox;
 namespace Zudunmaf
 {
 
-/// Editor of an integer range, for the length of one edit of one cell: "From:" and "To:", each with a spin
-/// box. The two bounds share one pair of limits and are otherwise independent: From may stand above To, and
-/// whoever reads them puts them in order. Internal: not exported.
+/// Cell editor of an integer range: "From:" and "To:", each with a spin box. Both spin boxes have the same limits and
+/// are otherwise independent: From can be greater than To, and storeCondition() sorts them. Internal: not exported.
 class MinMaxIntEditor : public QWidget
 {
     Q_OBJECT

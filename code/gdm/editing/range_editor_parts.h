@@ -12,8 +12,7 @@
 namespace Zudunmaf
 {
 
-/// The row of labels and spin boxes that both range editors are made of. In a cell that grows, the boxes
-/// share what is gained and the labels keep their width.
+/// Labels and spin boxes of both range editors. In a wider cell, the spin boxes grow and the labels do not.
 namespace rangeParts
 {
 
@@ -36,7 +35,7 @@ inline QLabel *addLabel(QWidget *editor, QHBoxLayout *row, const char *objectNam
     return label;
 }
 
-/// A spin box of the row, not yet added to it: the caller sets its decimals first.
+/// Creates a spin box. It is not yet in the row, because the caller sets the decimals first.
 template <class SpinBox>
 SpinBox *newSpinBox(QWidget *editor, const char *objectName)
 {

@@ -15,10 +15,10 @@ namespace Zudunmaf
 namespace
 {
 
-/// Of a text: whether the entries of its option list are offered beside what the user types.
-bool offersChoices(const DmlAttrDef &text)
+/// Returns true if the editor of a text attribute lists choices besides free text.
+bool hasChoices(const DmlAttrDef &definition)
 {
-    return text.textChoiceCount >= 1;
+    return definition.textChoiceCount >= 1;
 }
 
 QDoubleSpinBox *newDoubleSpinBox(QWidget *parent)
@@ -42,7 +42,7 @@ void loadOption(const QString &value, const DmlAttrDef &definition, QComboBox *b
     selectEntry(box, value);
 }
 
-/// The value comes first and the choices behind it, so that a value which is no choice is not lost.
+/// Inserts the value before the choices, so that a value that is no choice is not lost.
 void loadTextWithChoices(const QString &value, const DmlAttrDef &definition, QComboBox *box)
 {
     box->clear();
@@ -54,7 +54,7 @@ void loadTextWithChoices(const QString &value, const DmlAttrDef &definition, QCo
 
 void loadText(const QString &value, const DmlAttrDef &definition, QWidget *editor)
 {
-    if (offersChoices(definition)) {
+    if (hasChoices(definition)) {
         if (QComboBox *box = qobject_cast<QComboBox *>(editor))
             loadTextWithChoices(value, definition, box);
     } else if (QLineEdit *line = qobject_cast<QLineEdit *>(editor)) {
@@ -81,7 +81,7 @@ void loadFloat(double value, const DmlAttrDef &definition, int displayUnits, QDo
     box->setValue(double(shown));
 }
 
-/// The way back of loadFloat(): into the units of the definition.
+/// Converts a number from display units to the units of the definition.
 double storedFloat(double shown, const DmlAttrDef &definition, int displayUnits)
 {
     if (displayUnits == -1)
@@ -109,7 +109,7 @@ QWidget *newValueEditor(const DmlAttrDef &definition, QWidget *parent)
 {
     switch (definition.type) {
     case DmlAttrText:
-        if (offersChoices(definition))
+        if (hasChoices(definition))
             return newComboBox(parent);
         return new QLineEdit(parent);
     case DmlAttrOption:
@@ -156,7 +156,7 @@ void storeValue(FeatureAttrLWI &item, const DmlAttrDef &definition, QWidget *edi
 {
     switch (definition.type) {
     case DmlAttrText:
-        if (offersChoices(definition))
+        if (hasChoices(definition))
             storeChoice(item, qobject_cast<const QComboBox *>(editor));
         else if (const QLineEdit *line = qobject_cast<const QLineEdit *>(editor))
             item.setAttrValue(line->text());

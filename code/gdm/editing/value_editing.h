@@ -10,16 +10,16 @@ namespace Zudunmaf
 
 class FeatureAttrLWI;
 
-/// The editor of a value: a line edit, a combo box or a spin box by type; null where there is none. A text
-/// that has choices gets a combo box.
+/// Creates the editor of a value: a line edit, a combo box or a spin box, by type. A text with choices has a combo box.
+/// Returns null if the type has no editor.
 QWidget *newValueEditor(const DmlAttrDef &definition, QWidget *parent);
 
-/// Fills the editor from the item's value, limits before the value; leaves it alone where the item has none.
-/// A float is shown in the item's display units.
+/// Sets the editor from the item's value, a float in the item's display units. Sets limits before the value, because a
+/// spin box clamps its value to its limits. Does nothing if the item has no value.
 void loadValue(FeatureAttrLWI &item, const DmlAttrDef &definition, QWidget *editor);
 
-/// Gives what the editor shows to the item, a float in the units of the definition. A combo box that has
-/// neither a current entry nor a line to type in leaves the item's value as it was.
+/// Stores the editor's content as the item's value, a float in the units of the definition. Does nothing for a combo
+/// box that has no current entry and is not editable.
 void storeValue(FeatureAttrLWI &item, const DmlAttrDef &definition, QWidget *editor);
 
 /// Sets the value of the item to the default of its definition. Does nothing if the item is no FeatureAttrLWI, has no
