@@ -9,16 +9,16 @@
 namespace Zudunmaf
 {
 
-/// One condition of AttributesFilterDialog as a value. It holds no pointer and may outlive the dialog and the
+/// One condition of AttributesFilterDialog as a value. It holds no pointer and can outlive the dialog and the
 /// dictionary.
 ///
-/// Bounds are those of the record, exact and inclusive, and never what a cell prints. The bounds of a float can be
-/// 32-bit floats next to what the user has entered; ConditionMatcher says how far it widens them. The fields that the type does
-/// not use, and all of them where isSet is false, keep their initial values.
+/// Bounds are those of the record, exact and inclusive, and not rounded as in a cell. The bounds of a float can be the
+/// 32-bit floats nearest to what the user has entered; see ConditionMatcher. Fields that the type does not use keep
+/// their initial values; if isSet is false, all but the name and the type do.
 struct AttrCondition {
     QString name;              ///< The internal name, never the prompt.
     int type = DmlAttrBoolean; ///< A DmlAttrType, or the unknown code of the definition.
-    bool isSet = false;        ///< False: the attribute is carried, whatever its value is.
+    bool isSet = false;        ///< If false, the attribute is only required to be there, with any value.
     double low = 0.0;          ///< Integer and float: the least value, in the units below.
     double high = 0.0;         ///< Integer and float: the greatest value, in the units below.
     int units = -1;            ///< Float: the host's code of the units of both bounds; -1 for none.

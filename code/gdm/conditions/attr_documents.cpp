@@ -20,11 +20,11 @@ const char Version[] = "version";
 const char Conditions[] = "conditions";
 const char Assignments[] = "assignments";
 
-/// The version of the documents. A reader takes no other.
+/// The version of the documents. No other version is read.
 const int CurrentVersion = 1;
 
 template <class Entry>
-QByteArray written(const char *listName, const QList<Entry> &entries, QJsonObject (*jsonOf)(const Entry &))
+QByteArray toJson(const char *listName, const QList<Entry> &entries, QJsonObject (*jsonOf)(const Entry &))
 {
     QJsonArray list;
     for (const Entry &entry : entries)
@@ -35,7 +35,7 @@ QByteArray written(const char *listName, const QList<Entry> &entries, QJsonObjec
     return QJsonDocument(document).toJson();
 }
 
-/// Parses the JSON and takes the list out of the document.
+/// Parses the JSON and reads the list of entries.
 bool readList(const QByteArray &json, const char *listName, QJsonArray *list, DocumentProblem *problem)
 {
     QJsonParseError error;
@@ -85,7 +85,7 @@ bool readEntries(const QByteArray &json, const char *listName, Entry (*entryIn)(
     return true;
 }
 
-/// As readEntries(), where the problem may be of no interest.
+/// Same as readEntries(), but `problem` can be null.
 template <class Entry>
 bool readDocument(const QByteArray &json, const char *listName, Entry (*entryIn)(JsonFields *),
                   QList<Entry> *entries, DocumentProblem *problem)
@@ -101,7 +101,7 @@ bool readDocument(const QByteArray &json, const char *listName, Entry (*entryIn)
 
 QByteArray conditionsToJson(const QList<AttrCondition> &conditions)
 {
-    return written(Conditions, conditions, jsonOfCondition);
+    return toJson(Conditions, conditions, jsonOfCondition);
 }
 
 bool conditionsFromJson(const QByteArray &json, QList<AttrCondition> *conditions, DocumentProblem *problem)
@@ -111,7 +111,7 @@ bool conditionsFromJson(const QByteArray &json, QList<AttrCondition> *conditions
 
 QByteArray assignmentsToJson(const QList<AttrAssignment> &assignments)
 {
-    return written(Assignments, assignments, jsonOfAssignment);
+    return toJson(Assignments, assignments, jsonOfAssignment);
 }
 
 bool assignmentsFromJson(const QByteArray &json, QList<AttrAssignment> *assignments, DocumentProblem *problem)

@@ -8,35 +8,35 @@
 #include <QList>
 
 /// @file
-/// Conditions and values as JSON documents, see docs/conditions.schema.json. Qt 4.8 has no JSON: the library lacks these
-/// functions there.
+/// Conditions and values as JSON documents, see docs/conditions.schema.json. Qt 4.8 has no JSON: the library lacks
+/// these functions there.
 
 namespace Zudunmaf
 {
 
-/// What a reader of documents has refused.
+/// The error in a document that was not read.
 struct DocumentProblem {
-    QString place;  ///< Where, such as "conditions[2].low"; empty for the document as a whole.
-    QString reason; ///< What is wrong, in English, for logs; empty if nothing is.
+    QString place;  ///< The field, such as "conditions[2].low"; empty for the document as a whole.
+    QString reason; ///< The error, in English, for logs; empty if there is none.
 };
 
 /// Returns a JSON document in UTF-8 with the conditions in their order; the same conditions give the same bytes.
 ///
-/// Each number keeps all its bits: infinities, NaN and the negative zero are texts. Fields that the type does not use are
-/// left out. An unpaired surrogate is kept too, as the escape that JSON has for it.
+/// Each number keeps all its bits: infinities, NaN and the negative zero are texts. Fields that the type does not use
+/// are left out. An unpaired surrogate is kept as a JSON escape.
 GDM_EXPORT QByteArray conditionsToJson(const QList<AttrCondition> &conditions);
 
-/// Reads what conditionsToJson() has written, and returns true. Anything else is refused with place and reason, and
-/// leaves `*conditions` as it was: another version, a missing, unknown or repeated field, a value of a wrong type or out
-/// of range. `problem` may be null.
+/// Reads a document of conditionsToJson() and returns true. On an error, sets `*problem`, leaves `*conditions`
+/// unchanged and returns false. Errors are another version, a missing, unknown or repeated field, and a value of a
+/// wrong type or out of range. `problem` can be null.
 GDM_EXPORT bool conditionsFromJson(const QByteArray &json, QList<AttrCondition> *conditions,
                                    DocumentProblem *problem = nullptr);
 
-/// Returns a JSON document with the assigned values, as conditionsToJson() does with conditions. A value of another kind
-/// than the type asks for is converted as QVariant does it.
+/// Returns a JSON document with the values; see conditionsToJson(). A value whose metatype is not that of the type is
+/// converted by QVariant.
 GDM_EXPORT QByteArray assignmentsToJson(const QList<AttrAssignment> &assignments);
 
-/// Reads what assignmentsToJson() has written, under the rules of conditionsFromJson().
+/// Reads a document of assignmentsToJson(), with the errors of conditionsFromJson().
 GDM_EXPORT bool assignmentsFromJson(const QByteArray &json, QList<AttrAssignment> *assignments,
                                     DocumentProblem *problem = nullptr);
 

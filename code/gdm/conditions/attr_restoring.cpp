@@ -27,9 +27,9 @@ RestoreResult duplicate(const QString &name)
     return refusal(RestoreDuplicate, "'%1' has a value already", name);
 }
 
-/// Adds what could be made; a null item belongs to an entry with a result already. All items exist before the first is
-/// added, because adding may have the available table filled again. `names` are the attributes that have a value, to which
-/// those added come; null if an attribute can be added several times.
+/// Adds the items and sets the results; a null item is that of an entry that already has a result. All items are
+/// created before the first is added, because adding can fill the available table again. `names` are the attributes
+/// that have a value, and is null if an attribute can be added several times.
 void addAll(const RestoredItems &items, const AddToChosen &add, QSet<QString> *names,
             QList<RestoreResult> *results)
 {
@@ -61,9 +61,10 @@ RestoreResult makeCondition(const AttrCondition &condition, AvailableItems *avai
     return result;
 }
 
-/// Checks a number, of which the default is always taken, and converts a float into the units of the definition.
-RestoreResult takeNumber(const AttrAssignment &assignment, const DmlAttrDef &definition, int displayUnits,
-                         QVariant *value)
+/// Checks a number against the limits and converts a float to the units of the definition. The default is always
+/// accepted.
+RestoreResult checkNumber(const AttrAssignment &assignment, const DmlAttrDef &definition, int displayUnits,
+                          QVariant *value)
 {
     bool isNumber = false;
     const double number = value->toDouble(&isNumber);
@@ -77,7 +78,7 @@ RestoreResult takeNumber(const AttrAssignment &assignment, const DmlAttrDef &def
         return rangeResult(problem);
     }
     const NumberUnits units(assignment.units, assignment.unitsText, definition.unitsClass);
-    if (units.isUnknown() || units.isOneWithout())
+    if (units.isUnknown() || units.isOneUnitless())
         return unknownUnits(assignment.unitsText);
     *value = units.converted(number);
     if (value->toDouble() == double(definition.defaultFloat))
@@ -85,9 +86,9 @@ RestoreResult takeNumber(const AttrAssignment &assignment, const DmlAttrDef &def
     return rangeResult(problemOfFloat(value->toDouble(), definition, displayUnits));
 }
 
-/// Makes the value that the item takes, or says why the definition does not take it.
-RestoreResult takeValue(const AttrAssignment &assignment, const DmlAttrDef &definition, int displayUnits,
-                        QVariant *value)
+/// Sets `*value` to the value for the item. If the definition does not accept it, returns the reason.
+RestoreResult checkValue(const AttrAssignment &assignment, const DmlAttrDef &definition, int displayUnits,
+                         QVariant *value)
 {
     *value = assignment.value;
     const bool isText = definition.type == DmlAttrText || definition.type == DmlAttrOption;
@@ -106,7 +107,7 @@ RestoreResult takeValue(const AttrAssignment &assignment, const DmlAttrDef &defi
         return RestoreResult();
     case DmlAttrInteger:
     case DmlAttrFloat:
-        return takeNumber(assignment, definition, displayUnits, value);
+        return checkNumber(assignment, definition, displayUnits, value);
     default:
         return RestoreResult();
     }
@@ -125,7 +126,7 @@ RestoreResult makeAssignment(const AttrAssignment &assignment, AvailableItems *a
         return refusal(RestoreTypeChanged, "'%1' has another type now", assignment.name);
     std::unique_ptr<FeatureAttrLWI> copy(static_cast<FeatureAttrLWI *>(item->clone()));
     QVariant value;
-    const RestoreResult result = takeValue(assignment, definition, copy->displayUnits(), &value);
+    const RestoreResult result = checkValue(assignment, definition, copy->displayUnits(), &value);
     if (result.status != RestoreDone)
         return result;
     copy->setAttrValue(value);

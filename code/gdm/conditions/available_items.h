@@ -11,16 +11,16 @@ namespace Zudunmaf
 
 class DmlAttrLWI;
 
-/// The attributes of a dialog's available table by name, and those of the dictionary beyond it. Internal: not
+/// The attributes of a dialog's available table by name, and the names of the whole dictionary. Internal: not
 /// installed.
 class AvailableItems
 {
 public:
     explicit AvailableItems(const RestoreTarget &target);
 
-    /// Returns the item of the attribute, with a definition; null if the table has none.
+    /// Returns the item of the attribute; null if the table has none. The item has a definition.
     const DmlAttrLWI *find(const QString &name) const { return m_items.value(name, nullptr); }
-    /// Returns the outcome for an attribute that find() does not know. Walks the dictionary at the first call.
+    /// Returns the outcome for an attribute that find() does not find. Walks the dictionary at the first call.
     RestoreResult absence(const QString &name);
 
 private:

@@ -14,7 +14,7 @@ namespace Zudunmaf
 namespace
 {
 
-/// Without the last character if the record had no room for all of its bytes.
+/// Returns the text without the last character if the end of the field has cut it.
 QString wholeCharacters(const char (&field)[200])
 {
     const FieldText<sizeof field> text(field);

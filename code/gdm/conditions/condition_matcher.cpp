@@ -14,7 +14,7 @@ namespace Zudunmaf
 namespace
 {
 
-/// What the user has entered with three decimals if the bound is the 32-bit float next to it; else the bound.
+/// Returns the number with three decimals whose nearest 32-bit float is the bound; the bound itself if there is none.
 double enteredNumber(double bound)
 {
     const double entered = roundedToDecimals(bound);
@@ -23,15 +23,15 @@ double enteredNumber(double bound)
     return isNarrowed ? entered : bound;
 }
 
-/// The 32-bit float next to the bound; the bound itself beyond their range.
+/// Returns the 32-bit float nearest to the bound; the bound itself if it is out of range.
 double narrowedNumber(double bound)
 {
     return std::fabs(bound) <= double(std::numeric_limits<float>::max()) ? double(static_cast<float>(bound))
                                                                          : bound;
 }
 
-/// How far a converted bound may lie from what exact arithmetic gives. Where the units differ by an offset, as degrees
-/// do, the resolution of the bound itself can be the coarser one.
+/// Returns the possible error of a converted bound. If units differ by an offset, as degrees do, the resolution of the
+/// unconverted bound can be the coarser one.
 double slackOf(const NumberUnits &units, double bound)
 {
     const double number = units.converted(bound);
@@ -103,7 +103,7 @@ void ConditionMatcher::setBounds(const AttrCondition &condition, int valueUnits)
     const NumberUnits units(condition.units, condition.unitsText, valueUnits);
     if (units.isUnknown())
         m_rule = Nothing;
-    if (units.isUnknown() || units.isSame() || units.isOneWithout())
+    if (units.isUnknown() || units.isSame() || units.isOneUnitless())
         return;
     m_low = units.converted(condition.low) - slackOf(units, condition.low);
     m_high = units.converted(condition.high) + slackOf(units, condition.high);

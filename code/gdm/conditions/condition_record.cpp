@@ -51,7 +51,7 @@ RestoreResult fillIntegers(const AttrCondition &condition, const DmlAttrDef &def
 RestoreResult fillFloats(const AttrCondition &condition, const DmlAttrDef &definition, DmlAttrValue *record)
 {
     const NumberUnits units(condition.units, condition.unitsText, definition.unitsClass);
-    if (units.isUnknown() || units.isOneWithout())
+    if (units.isUnknown() || units.isOneUnitless())
         return unknownUnits(condition.unitsText);
     const double low = units.converted(condition.low);
     const double high = units.converted(condition.high);

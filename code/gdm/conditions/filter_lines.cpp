@@ -28,7 +28,7 @@ QString namesOf(const QList<LineResult> &readings)
     return names.join(QLatin1String(", "));
 }
 
-/// A reading that is stale counts: the line may come from a time when it was the right one.
+/// Readings that the dictionary no longer allows make a line ambiguous too: it can be older than the dictionary.
 LineResult readLine(const QString &line, const LabelIndex &index, bool byPrompt)
 {
     QList<LineResult> readings;

@@ -7,16 +7,16 @@
 #include <QStringList>
 
 /// @file
-/// Reads the lines of AttributesFilterDialog::getFiltersAsStringList() back. docs/result-lines.md has their grammar.
+/// Reads the lines of AttributesFilterDialog::getFiltersAsStringList(). See docs/result-lines.md for their grammar.
 
 namespace Zudunmaf
 {
 
-/// What a line was read as.
+/// Outcome of reading one line.
 enum LineStatus {
     LineRead,        ///< A condition on exactly one attribute.
     LineUnknown,     ///< No attribute of the dictionary gives this line.
-    LineAmbiguous,   ///< Several attributes give this line, or have given it.
+    LineAmbiguous,   ///< Several attributes give this line, or could have given it.
     LineOptionGone,  ///< The option has no entry of this text.
     LineOutOfRange,  ///< A number is beyond the limits, or the bounds are out of order.
     LineNoDictionary ///< The dictionary could not be walked.
@@ -26,25 +26,25 @@ enum LineStatus {
 struct LineResult {
     LineStatus status = LineUnknown; ///< The outcome.
     AttrCondition condition;         ///< With LineRead, the condition, in the units of the attribute.
-    QString reason;                  ///< What is wrong, in English, for logs; empty with LineRead.
+    QString reason;                  ///< The error, in English, for logs; empty with LineRead.
 };
 
-/// What the attributes were labelled with when the lines were made.
+/// The labels in the lines.
 enum LineLabels {
     LabelsByName,  ///< The internal name.
     LabelsByPrompt ///< The prompt.
 };
 
-/// Reads lines of the filter dialog for a dictionary, and returns one result for each, in order. The empty line, which
-/// an attribute of an unknown type gives, is refused.
+/// Reads lines of the filter dialog for a dictionary, and returns one result for each, in order.
 ///
-/// A line is taken only if one attribute alone gives exactly this line, to each character; nothing is guessed. Numbers
-/// of a float have three decimals, and what is read is the printed number. A limit that was rounded up or down beyond
-/// itself is read as the limit, and -0.000 as the negative number next to zero. A label alone is a condition that is
-/// not set. A label with a placeholder such as %1 is found in the form that it has in the line. A number
-/// that a placeholder such as %L1 has written with separators of the locale is refused.
+/// A line is read only if exactly one attribute gives this line, character by character. A label alone is a condition
+/// that is not set. The numbers of a float are read as printed, with three decimals; two texts are read otherwise: a
+/// limit that rounding has moved out of range as the limit, and -0.000 as the negative number nearest to zero. A label
+/// with a placeholder such as %1 is recognised as it appears in the line.
 ///
-/// The dictionary is walked once for all lines; a failed walk is reported and refuses them all.
+/// Not read are the empty line of an attribute of an unknown type, and a number that a placeholder such as %L1 has
+/// printed with separators of the locale. The dictionary is walked once for all lines; if the walk fails, this is
+/// reported, and no line is read.
 GDM_EXPORT QList<LineResult> conditionsFromLines(const QStringList &lines, int did, LineLabels labels);
 
 } // namespace Zudunmaf

@@ -11,7 +11,8 @@
 namespace Zudunmaf
 {
 
-/// Returns the internal names of the items that are an `Item`, whatever they are labelled with. Internal: not installed.
+/// Returns the internal names of the items that are an `Item`, whatever they are labelled with. Internal: not
+/// installed.
 template <class Item>
 QSet<QString> namesOf(const QList<QTableWidgetItem *> &items)
 {

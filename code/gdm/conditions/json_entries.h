@@ -8,7 +8,7 @@
 namespace Zudunmaf
 {
 
-// One entry of a document, to and from its JSON object. Problems stay with the fields. Internal: not installed.
+// One entry of a document, to and from its JSON object. Errors are kept in the JsonFields. Internal: not installed.
 
 QJsonObject jsonOfCondition(const AttrCondition &condition);
 AttrCondition conditionIn(JsonFields *fields);

@@ -13,33 +13,33 @@
 namespace Zudunmaf
 {
 
-/// Returns a number as a JSON value that keeps its bits.
+/// Returns the number as a JSON value, without a loss of bits.
 QJsonValue jsonOfNumber(double number);
 
-/// Returns the name of a known type; an unknown one stays a number.
+/// Returns the name of a known type, or the number of an unknown one.
 QJsonValue jsonOfType(int type);
 
-/// Takes the fields of one JSON object one by one and keeps the first problem. Internal: not installed.
+/// Reads the fields of one JSON object one by one, and keeps the first error. Internal: not installed.
 class JsonFields
 {
 public:
-    /// `place` is that of the object.
+    /// `place` is the position of the object in the document.
     JsonFields(const QJsonObject &object, const QString &place);
 
     QString text(const char *name);
     bool flag(const char *name);
     double number(const char *name);
-    /// A whole number of 32 bits.
+    /// Returns a whole number of 32 bits.
     int integer(const char *name);
     int type(const char *name);
-    /// Accepts any value; undefined and a problem if there is none.
+    /// Returns any value; undefined, and an error, if there is none.
     QJsonValue any(const char *name);
 
     void refuse(const QString &name, const QString &reason);
     void refuse(const char *name, const QString &reason) { refuse(QString(QLatin1String(name)), reason); }
     bool has(const char *name) const { return m_object.contains(QLatin1String(name)); }
 
-    /// Refuses fields that were not asked for, and returns true if no problem was found.
+    /// Refuses fields that were not read. Returns true if there is no error, and sets `*problem` otherwise.
     bool finish(DocumentProblem *problem);
 
 private:

@@ -14,7 +14,7 @@ namespace Zudunmaf
 namespace
 {
 
-/// An object or an array that is open at the place of reading.
+/// An object or an array that is open at the current position.
 struct Level {
     bool isObject;
     int index;

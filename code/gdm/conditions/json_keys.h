@@ -11,9 +11,8 @@
 namespace Zudunmaf
 {
 
-/// Returns the place of the first field that its object has twice, such as "conditions[2].low", and a null string if
-/// there is none. QJsonDocument takes the last one and says nothing. The JSON is valid otherwise. Internal: not
-/// installed.
+/// Returns the place of the first field that an object has twice, such as "conditions[2].low"; a null string if there
+/// is none. QJsonDocument silently keeps the last one. The JSON must be valid otherwise. Internal: not installed.
 QString repeatedField(const QByteArray &json);
 
 } // namespace Zudunmaf

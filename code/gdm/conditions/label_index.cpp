@@ -10,11 +10,10 @@ namespace Zudunmaf
 namespace
 {
 
-/// No label has more characters: each field of a definition has this many bytes, all of them text in a record without a
-/// terminating zero.
+/// The greatest number of characters of a label: the size of its field, all of it text if the NUL is missing.
 const int LongestLabel = int(sizeof DmlAttrDef::prompt);
 
-/// QString::arg() replaces a sign that a digit follows, or an L and a digit.
+/// QString::arg() replaces a percent sign before a digit, or before an L and a digit.
 bool hasPlaceholder(const QString &label)
 {
     for (int sign = int(label.indexOf(QLatin1Char('%'))); sign >= 0;
@@ -54,7 +53,7 @@ QList<const DmlAttrDef *> LabelIndex::candidates(const QString &line) const
          end = int(line.indexOf(equals, end + 1)))
         labels << line.left(end);
 
-    // Bounds hold no blank, so the label stands between the first sign and the last.
+    // Bounds have no blank, so the label is between the first sign and the last.
     const QString within = QLatin1String(" <= ");
     const int start = int(line.indexOf(within)) + int(within.size());
     const int end = int(line.lastIndexOf(within));

@@ -10,8 +10,8 @@ struct DmlAttrDef;
 namespace Zudunmaf
 {
 
-/// Finds the attributes that a line can belong to. Each line is cut at every place where its label could end, so a line
-/// costs its own length and not that of the dictionary. Internal: not installed.
+/// Finds the attributes that can have given a line. Looks up each text of the line that could be the label, so the time
+/// depends on the length of the line and not on the size of the dictionary. Internal: not installed.
 class LabelIndex
 {
 public:
@@ -25,7 +25,8 @@ public:
 private:
     bool m_byPrompt;
     QHash<QString, QList<const DmlAttrDef *>> m_byLabel;
-    /// Attributes whose label has a placeholder, and may have another form in the line. Each line is tried with all of them.
+    /// Attributes whose label has a placeholder, which QString::arg() can have replaced. They are candidates for each
+    /// line.
     QList<const DmlAttrDef *> m_withPlaceholder;
 };
 

@@ -14,15 +14,15 @@ namespace Zudunmaf
 namespace
 {
 
-QString written(double number)
+QString numberText(double number)
 {
     return QString::number(number, 'g', 9);
 }
 
-QString beyond(double number, double minimum, double maximum)
+QString outsideLimits(double number, double minimum, double maximum)
 {
     return QString(QLatin1String("%1 is beyond the limits %2 to %3"))
-        .arg(written(number), written(minimum), written(maximum));
+        .arg(numberText(number), numberText(minimum), numberText(maximum));
 }
 
 double rounded(double limit)
@@ -31,7 +31,7 @@ double rounded(double limit)
     return std::isfinite(number) ? number : limit;
 }
 
-/// An editor narrows its limits to 32-bit floats, which makes those beyond their range infinite.
+/// Returns the limit as an editor has it: infinite beyond the range of a 32-bit float.
 double editorLimit(double limit)
 {
     return std::fabs(limit) > double(std::numeric_limits<float>::max())
@@ -50,15 +50,15 @@ double slackOf(double limit)
 QString problemOfInteger(double number, const DmlAttrDef &definition)
 {
     if (number != std::floor(number))
-        return QString(QLatin1String("%1 is no whole number")).arg(written(number));
+        return QString(QLatin1String("%1 is no whole number")).arg(numberText(number));
     if (number >= double(definition.intMin) && number <= double(definition.intMax))
         return QString();
-    return beyond(number, definition.intMin, definition.intMax);
+    return outsideLimits(number, definition.intMin, definition.intMax);
 }
 
 QString problemOfFloat(double number, const DmlAttrDef &definition, int displayUnits)
 {
-    // An exact number needs no services.
+    // Without calling the services in the usual case.
     if (number >= definition.floatMin && number <= definition.floatMax)
         return QString();
     NumberUnits units(definition.unitsClass, QString(), definition.unitsClass);
@@ -71,7 +71,7 @@ QString problemOfFloat(double number, const DmlAttrDef &definition, int displayU
     const double greatest = std::max(maximum, rounded(maximum)) + slackOf(maximum);
     if (shown >= least && shown <= greatest)
         return QString();
-    return beyond(number, definition.floatMin, definition.floatMax);
+    return outsideLimits(number, definition.floatMin, definition.floatMax);
 }
 
 QString problemOfOrder(double low, double high)
@@ -79,7 +79,7 @@ QString problemOfOrder(double low, double high)
     if (low <= high)
         return QString();
     return QString(QLatin1String("the lower bound %1 is above the upper bound %2"))
-        .arg(written(low), written(high));
+        .arg(numberText(low), numberText(high));
 }
 
 } // namespace Zudunmaf

@@ -8,13 +8,13 @@ struct DmlAttrDef;
 namespace Zudunmaf
 {
 
-// Each of these returns an empty string, or what is wrong with the number in English. Internal: not installed.
+// Each function returns the error in English, or an empty string if there is none. Internal: not installed.
 
 /// Accepts whole numbers within the limits of an integer attribute.
 QString problemOfInteger(double number, const DmlAttrDef &definition);
 
-/// Accepts numbers within the limits of a float attribute, both in the units of the definition. Limits are those of an
-/// editor under `displayUnits`: rounded to three decimals if that is wider, and only as exact as a 32-bit float.
+/// Accepts numbers within the limits of a float attribute, in the units of the definition. The limits are those of an
+/// editor with these display units: rounded to three decimals if that is wider, with the precision of a 32-bit float.
 QString problemOfFloat(double number, const DmlAttrDef &definition, int displayUnits);
 
 /// Accepts bounds in ascending order.

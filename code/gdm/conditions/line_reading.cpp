@@ -21,13 +21,13 @@ struct BoundTexts {
     QString high;
 };
 
-QString printed(double number)
+QString numberText(double number)
 {
     return QString(QLatin1String("%1")).arg(number, 0, 'f', FloatDecimals);
 }
 
-/// A character that the label does not hold.
-QChar markFor(const QString &label)
+/// Returns a character that the label does not contain.
+QChar unusedCharacter(const QString &label)
 {
     ushort code = 0xE000;
     while (label.contains(QChar(code)))
@@ -35,29 +35,29 @@ QChar markFor(const QString &label)
     return QChar(code);
 }
 
-/// Splits "low <= label <= high". A label with placeholders takes the upper bound in their places, once or several times,
-/// so what stands between the bounds is made in the way in which the line was.
+/// Splits "low <= label <= high". QString::arg() can have replaced placeholders in the label with the upper bound, so
+/// the text around the upper bound is made with the same calls as the line.
 bool splitRange(const QString &label, const QString &line, BoundTexts *bounds)
 {
     const int lowEnd = int(line.indexOf(QLatin1Char(' ')));
     if (lowEnd <= 0)
         return false;
     bounds->low = line.left(lowEnd);
-    const QChar mark = markFor(label);
+    const QChar mark = unusedCharacter(label);
     const QString pattern = QString(QLatin1String("%1 <= %2 <= %3"))
                                 .arg(QString(QLatin1String("")))
                                 .arg(label, 0, QLatin1Char(' '))
                                 .arg(QString(mark));
     const QStringList parts = pattern.split(mark);
-    const int holes = int(parts.size()) - 1;
-    const int width = int(line.size()) - lowEnd - (int(pattern.size()) - holes);
-    if (holes < 1 || width <= 0 || width % holes != 0)
+    const int placeholders = int(parts.size()) - 1;
+    const int width = int(line.size()) - lowEnd - (int(pattern.size()) - placeholders);
+    if (placeholders < 1 || width <= 0 || width % placeholders != 0)
         return false;
-    bounds->high = line.mid(lowEnd + int(parts.first().size()), width / holes);
+    bounds->high = line.mid(lowEnd + int(parts.first().size()), width / placeholders);
     return line.mid(lowEnd) == parts.join(bounds->high);
 }
 
-/// The line that the attribute gives with the record.
+/// Returns the line of the attribute with this record.
 QString lineOf(const DmlAttrDef &definition, bool byPrompt, const DmlAttrValue &record)
 {
     AttrFilterLWI item;
@@ -77,7 +77,8 @@ bool readIntegers(const BoundTexts &bounds, DmlAttrValue *record)
     return isLow && isHigh;
 }
 
-/// The printed number. A negative one that was rounded to zero keeps its sign in the line, which zero does not have.
+/// Returns the number of the text. Reads -0.000 as the greatest number below zero, because the line of zero has no
+/// sign.
 double numberIn(const QString &text, bool *isNumber)
 {
     const double number = text.toDouble(isNumber);
@@ -85,12 +86,12 @@ double numberIn(const QString &text, bool *isNumber)
     return isRoundedAway ? -std::numeric_limits<double>::denorm_min() : number;
 }
 
-/// The printed number, or the limit if the limit is printed like it and the number lies beyond.
-double floatWithin(double number, const QString &text, const DmlAttrDef &definition)
+/// Returns the number, or the limit if the number is out of range and the limit has the same text.
+double withinLimits(double number, const QString &text, const DmlAttrDef &definition)
 {
-    if (number < definition.floatMin && text == printed(definition.floatMin))
+    if (number < definition.floatMin && text == numberText(definition.floatMin))
         return definition.floatMin;
-    if (number > definition.floatMax && text == printed(definition.floatMax))
+    if (number > definition.floatMax && text == numberText(definition.floatMax))
         return definition.floatMax;
     return number;
 }
@@ -99,12 +100,12 @@ bool readFloats(const BoundTexts &bounds, const DmlAttrDef &definition, DmlAttrV
 {
     bool isLow = false;
     bool isHigh = false;
-    record->floatLow = floatWithin(numberIn(bounds.low, &isLow), bounds.low, definition);
-    record->floatHigh = floatWithin(numberIn(bounds.high, &isHigh), bounds.high, definition);
+    record->floatLow = withinLimits(numberIn(bounds.low, &isLow), bounds.low, definition);
+    record->floatHigh = withinLimits(numberIn(bounds.high, &isHigh), bounds.high, definition);
     return isLow && isHigh;
 }
 
-/// Reads what stands in the line beside the label; the name, type and isSet are there already.
+/// Reads the bounds of the line into the condition. Name, type and isSet are set before.
 bool readBounds(const DmlAttrDef &definition, bool byPrompt, const QString &line, AttrCondition *condition)
 {
     BoundTexts bounds;
@@ -116,7 +117,7 @@ bool readBounds(const DmlAttrDef &definition, bool byPrompt, const QString &line
     const bool isInteger = definition.type == DmlAttrInteger;
     const bool areNumbers =
         isInteger ? readIntegers(bounds, &record) : readFloats(bounds, definition, &record);
-    // A number that is written in another way was not written by the dialog.
+    // The dialog prints each number in one way only.
     if (!areNumbers || lineOf(definition, byPrompt, record) != line)
         return false;
     condition->low = isInteger ? record.intLow : record.floatLow;

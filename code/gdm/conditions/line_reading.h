@@ -6,8 +6,8 @@
 namespace Zudunmaf
 {
 
-/// Reads a line as the condition of one attribute: LineUnknown if the attribute can never have given it. Internal: not
-/// installed.
+/// Reads a line as the condition of one attribute. The status is LineUnknown if the attribute cannot have given it.
+/// Internal: not installed.
 LineResult readLineAs(const DmlAttrDef &definition, bool byPrompt, const QString &line);
 
 } // namespace Zudunmaf

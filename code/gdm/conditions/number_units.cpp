@@ -13,7 +13,7 @@ namespace Zudunmaf
 namespace
 {
 
-/// Beyond its range, the conversion to a float is undefined.
+/// Returns the number as a float, infinite out of its range: there, the conversion is undefined.
 float narrowed(double number)
 {
     if (std::fabs(number) <= double(std::numeric_limits<float>::max()))
@@ -33,35 +33,35 @@ QString textOfUnits(int code)
 NumberUnits::NumberUnits(int savedCode, const QString &savedText, int target)
     : m_source(savedCode)
     , m_target(target)
-    , m_way(Same)
+    , m_relation(Same)
 {
     const QString targetText = textOfUnits(target);
     if (savedText == targetText && (!savedText.isEmpty() || savedCode == target))
         return;
     if (!savedText.isEmpty()) {
         m_source = gen__torvex_get_str_units(savedText.toLocal8Bit().constData());
-        // The services may answer any code for a text that they do not know.
+        // The services can return any code for a text that they do not know.
         if (m_source == -1 || textOfUnits(m_source) != savedText) {
-            m_way = Unknown;
+            m_relation = Unknown;
             return;
         }
     }
-    m_way = wayBetween(m_source, target);
+    m_relation = relationBetween(m_source, target);
 }
 
-NumberUnits::Way NumberUnits::wayBetween(int source, int target)
+NumberUnits::Relation NumberUnits::relationBetween(int source, int target)
 {
     if (source == target)
         return Same;
     if (source == -1 || target == -1)
-        return OneWithout;
-    // Units of another dimension are not shown in those of the target.
-    return QString(gen__torvex_cur_units_str(source, target)) == textOfUnits(target) ? Known : Unknown;
+        return OneUnitless;
+    // The services show a number in the target units only if the dimensions are the same.
+    return QString(gen__torvex_cur_units_str(source, target)) == textOfUnits(target) ? Convertible : Unknown;
 }
 
 double NumberUnits::converted(double number) const
 {
-    if (m_way != Known || !std::isfinite(number))
+    if (m_relation != Convertible || !std::isfinite(number))
         return number;
     float value = narrowed(number);
     if (std::isfinite(value))

@@ -6,36 +6,36 @@
 namespace Zudunmaf
 {
 
-/// The text of the units with this code, empty if the services have none for it.
+/// Returns the text of the units with this code; empty if the services have none.
 QString textOfUnits(int code);
 
-/// The way from the units of a saved number to those that it is used in. A number is converted by the services, as a
-/// 32-bit float, and keeps each of its bits where the units are the same. Internal: not installed.
+/// Converts saved numbers to the units in which they are used. The services convert a number as a 32-bit float; if the
+/// units are the same, the number is unchanged. Internal: not installed.
 class NumberUnits
 {
 public:
-    /// A text counts more than its code, which may belong to another release of the host.
+    /// A text takes precedence over the code, which can be that of another release of the host.
     NumberUnits(int savedCode, const QString &savedText, int target);
 
-    /// Returns true if both are the same units, or both are none.
-    bool isSame() const { return m_way == Same; }
-    /// Returns true if one of the two is no units.
-    bool isOneWithout() const { return m_way == OneWithout; }
-    /// Returns true if the services do not know the units, or do not convert the one into the other.
-    bool isUnknown() const { return m_way == Unknown; }
+    /// Returns true if the units are the same, or if there are none.
+    bool isSame() const { return m_relation == Same; }
+    /// Returns true if only one of the two has units.
+    bool isOneUnitless() const { return m_relation == OneUnitless; }
+    /// Returns true if the services do not know the units, or cannot convert them.
+    bool isUnknown() const { return m_relation == Unknown; }
 
     /// Returns the number in the target units; unchanged unless both units are known and differ. Finite numbers
     /// beyond the range of a 32-bit float become infinite.
     double converted(double number) const;
 
 private:
-    enum Way { Same, Known, OneWithout, Unknown };
+    enum Relation { Same, Convertible, OneUnitless, Unknown };
 
-    static Way wayBetween(int source, int target);
+    static Relation relationBetween(int source, int target);
 
     int m_source;
     int m_target;
-    Way m_way;
+    Relation m_relation;
 };
 
 } // namespace Zudunmaf

@@ -10,13 +10,13 @@
 namespace Zudunmaf
 {
 
-/// The dictionary and the tables of a dialog before anything is restored. Internal: not installed.
+/// The dictionary and the tables of a dialog before entries are restored. Internal: not installed.
 struct RestoreTarget {
     int did = -1; ///< The dictionary; negative for none.
     QList<QTableWidgetItem *>
         available;                    ///< One item for each row of the available table, hidden rows included.
     QList<QTableWidgetItem *> chosen; ///< One item for each row of the chosen table.
-    AddToChosen add;                  ///< Called in the order of the entries, after all have been checked.
+    AddToChosen add;                  ///< Called in the order of the entries, after all of them are checked.
 };
 
 /// Restores conditions as copies of the available items, and returns one result for each entry, in order.
