@@ -1,11 +1,7 @@
 #ifndef GDM_GDM_QT_H
 #define GDM_GDM_QT_H
 
-/// Chief header of the library. In the order in which an attribute travels: the records and roles, the items
-/// that bind a definition to a condition or a value, the conditions and values as data of the host, and the two
-/// dialogs. Between them, internal, stand the
-/// delegate and the range editors of gdm/editing, which open over an item's cell and write back into the
-/// item.
+/// Main header of the library: records and roles, items, conditions and values, dialogs.
 #include "gdm/items/attr_records.h"
 #include "gdm/items/attr_roles.h"
 

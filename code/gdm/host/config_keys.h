@@ -2,15 +2,15 @@
 #define GDM_HOST_CONFIG_KEYS_H
 
 /// @file
-/// The host's configuration values that the library reads, each with gen__cfg_get() at each use.
+/// Keys of the host's configuration. The library calls gen__cfg_get() at each use and caches nothing.
 namespace Zudunmaf
 {
 namespace keys
 {
 
-/// True: attributes are labelled and matched by their prompt. False: by their internal name.
+/// True if attributes are labelled and matched by their prompt, false if by their internal name.
 constexpr char DisplayByPrompt[] = "edt_disp_attr_by_prompt";
-/// True: attributes of the group "Obsolete" are offered too.
+/// True if attributes of the group "Obsolete" are available too.
 constexpr char ShowObsolete[] = "edt_show_obsolete_attrs";
 
 } // namespace keys

@@ -4,7 +4,7 @@
 #include "gdm/host/dml_dictionary.h"
 #include "gdm/host/gen_services.h"
 
-/// The two services that can fail, with the report that each failure gets. Internal: not installed.
+/// The two services that can fail, with the error report. Internal: not installed.
 namespace Zudunmaf
 {
 
@@ -16,7 +16,7 @@ struct SourcePosition {
 
 #define GDM_HERE (::Zudunmaf::SourcePosition{__FILE__, __LINE__})
 
-/// Reads a boolean configuration value. False and one report where the service fails.
+/// Reads a boolean configuration value. If the service fails, reports it and returns false.
 inline bool readFlag(const char *key, bool *flag, const SourcePosition &here)
 {
     unsigned char value = 0;
@@ -29,9 +29,8 @@ inline bool readFlag(const char *key, bool *flag, const SourcePosition &here)
     return true;
 }
 
-/// Walks the dictionary and visits each definition. `did` is asked anew before each step. True where the walk
-/// came to its end; false and one report where a step failed, and what was visited until then must be thrown
-/// away.
+/// Calls `visit` for each definition of the dictionary, and `did` before each step. If a step fails, reports it and
+/// returns false; the caller then discards the definitions visited so far.
 template <class Did, class Visit>
 bool walkDictionary(Did did, unsigned int entityMask, const SourcePosition &here, Visit visit)
 {

@@ -6,16 +6,15 @@
 struct DmlAttrDef;
 
 /// @file
-/// The attribute dictionary that the host supplies. Bound at the first call, like the low-level services.
+/// The attribute dictionary of the host. Bound at the first call, as the low-level services are.
 extern "C" {
 
-/// Gives the attributes of dictionary `did` one at a time. `*cursor` is 0 before the first call and belongs
-/// to the service from then on. `entityMask` limits the walk to attributes that share a bit with it; all bits
-/// take every attribute. The int is 1 in every call.
+/// Sets `*definition` to the next attribute of dictionary `did`, or to null after the last one, and returns 0. Any
+/// other status is a failure, and `*definition` is then undefined. The dictionary owns the definition, which must
+/// outlive every item that points to it.
 ///
-/// Status 0 with a definition is the next attribute, status 0 with null the end; any other status is a
-/// failure, and `*definition` then means nothing. A definition belongs to the dictionary and outlives every
-/// item made of it.
+/// `*cursor` is 0 before the first call; after that, only the service changes it. The walk visits the attributes that
+/// have a bit in common with `entityMask`; with all bits, every attribute. The second argument is always 1.
 GDM_EXPORT int dml__atr_next(int did, int, unsigned int entityMask, int *cursor, DmlAttrDef **definition);
 }
 

@@ -4,8 +4,8 @@
 /// @file
 /// Visibility of symbols.
 
-/// Marks what is visible outside a shared library. The same word serves whoever defines a symbol and whoever
-/// uses it, so a host can stand behind the very declarations that the library was compiled against.
+/// Makes a symbol visible outside of its shared library. It is the same for import and export, so a host implements the
+/// declarations that the library was compiled with.
 #define GDM_EXPORT __attribute__((visibility("default")))
 
 #endif

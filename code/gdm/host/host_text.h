@@ -8,19 +8,19 @@
 #include <cstddef>
 #include <cstring>
 
-/// How texts of the host become QStrings: messages from the local 8-bit encoding, texts of the dictionary by
-/// the constructor for NUL-terminated strings. Internal: not installed.
+/// Conversion of host texts to QString: messages from the local 8-bit encoding, texts of the dictionary with the
+/// constructor for NUL-terminated strings. Internal: not installed.
 namespace Zudunmaf
 {
 
-/// The text to show for a message key.
+/// Returns the text for a message key.
 inline QString messageText(const char *key)
 {
     return QString::fromLocal8Bit(gen__nls_nlst(key), -1);
 }
 
-/// A character field of a record as a NUL-terminated string that never reads beyond the field: where a broken
-/// record lacks the NUL, the field's whole width counts. Lives no longer than the record.
+/// A character field of a record as a NUL-terminated string. If the record is invalid and lacks the NUL, the string is
+/// the whole field; nothing is read beyond it. The record must outlive the object.
 template <std::size_t Width>
 class FieldText
 {
@@ -46,7 +46,7 @@ private:
     char m_bounded[Width + 1];
 };
 
-/// The QString of a character field.
+/// Returns a character field as a QString.
 template <std::size_t Width>
 QString fieldString(const char (&field)[Width])
 {

@@ -2,9 +2,9 @@
 #define GDM_HOST_MESSAGE_KEYS_H
 
 /// The keys of all messages of the library. A key is passed to gen__nls_nlst() as a whole, so a text that is used in
-/// several places has a key for each of them, and each can have a translation of its own. The three keys of "All Groups"
-/// of a dialog are the exception: their translations must be equal, because the selected row of the group list is
-/// compared with the other two.
+/// several places has a key for each of them, and each can have a translation of its own. The three keys of "All
+/// Groups" of a dialog are the exception: their translations must be equal, because the selected row of the group list
+/// is compared with the other two.
 ///
 /// Not messages, and never translated: the window title "Assign Attributes", conditions in cells and lines, and the
 /// reasons that are meant for logs.

@@ -5,10 +5,9 @@
 #include <QVariant>
 
 /// @file
-/// What the versions of Qt answer differently, each given one answer. Nothing else in the library looks at
-/// the version. Internal: not installed.
+/// Differences between the versions of Qt. Nothing else in the library depends on the version. Internal: not installed.
 
-/// Whether Qt has JSON. Without it, the functions of gdm/conditions/attr_documents.h are not defined.
+/// 1 if Qt has JSON. If not, the functions of gdm/conditions/attr_documents.h are not defined.
 #if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
 #    define GDM_HAS_JSON 0
 #else
@@ -26,15 +25,15 @@ const QString::SplitBehavior SkipEmptyParts = QString::SkipEmptyParts;
 const Qt::SplitBehavior SkipEmptyParts = Qt::SkipEmptyParts;
 #endif
 
-/// The metatype of a signed char; -1, which no variant has, with Qt 4.8.
+/// The metatype of a signed char. Qt 4.8 has none: -1, which is the metatype of no variant.
 #if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
 const int SignedCharType = -1;
 #else
 const int SignedCharType = QMetaType::SChar;
 #endif
 
-/// Whether a variant counts as null: also where it holds a null QString, which Qt 6 no longer calls null. A
-/// held null pointer is a separate question, answered by recordIn().
+/// Returns true if the variant is null or holds a null QString; QVariant::isNull() says false for the latter in Qt 6.
+/// For null pointers, see recordIn().
 inline bool isNullVariant(const QVariant &variant)
 {
     return variant.isNull() || (variant.userType() == QMetaType::QString && variant.toString().isNull());
