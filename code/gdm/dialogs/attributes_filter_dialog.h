@@ -14,41 +14,42 @@ namespace Zudunmaf
 
 class DmlAttrLWI;
 
-/// Dialog in which a user picks attributes of the dictionary and puts a condition on each. The host runs it
-/// and reads the conditions with getFiltersAsStringList() while the dialog exists.
+/// Dialog in which a user chooses attributes of the dictionary and sets a condition on each. The host runs the dialog
+/// and reads conditions() or getFiltersAsStringList() before deleting it.
 ///
-/// A picked attribute stays on offer: two conditions on one attribute are two rows. No failure reaches the
-/// user; a failed service is reported through gen__log_status_check() and leaves the lists as they were.
+/// A chosen attribute remains available: two conditions on one attribute are two rows. The user sees no message about a
+/// failed service. It is reported with gen__log_status_check(), and the list that was being filled or filtered is left
+/// unchanged.
 class GDM_EXPORT AttributesFilterDialog : public TvxAttributesSelectionDialog
 {
     Q_OBJECT
 
 public:
-    /// The arguments are handed to the base unchanged; -1 lets the base choose the dictionary.
+    /// Passes the arguments on to the base. With a `did` of -1, the base chooses the dictionary.
     explicit AttributesFilterDialog(int did = -1, QWidget *parent = nullptr,
                                     Qt::WindowFlags flags = Qt::WindowFlags());
     ~AttributesFilterDialog() override;
 
-    /// A line for each attribute of the chosen list, in its order: "5 <= width <= 9", "finish = matt", or the
-    /// label alone where no condition is set.
+    /// Returns a line for each chosen attribute, in the order of the chosen table: "5 <= width <= 9", "finish = matt",
+    /// or the label alone if no condition is set.
     QStringList getFiltersAsStringList() const;
-    /// The conditions of the chosen list as values, in its order, as conditionOf() reads each. Unlike lines, they are
-    /// exact and can be saved: see gdm/conditions/attr_documents.h.
+    /// Returns the conditions of the chosen attributes, in the order of the chosen table; see conditionOf(). Unlike
+    /// lines, they are exact and can be saved; see gdm/conditions/attr_documents.h.
     QList<AttrCondition> conditions() const;
-    /// Adds conditions to the chosen list through `add`, which hands them to the host's base, and returns one result
-    /// for each. Conditions that do not fit the dictionary any more are left out and stay the caller's. Call it before
-    /// the dialog is shown, and after setDisplayUnits().
+    /// Adds the conditions to the chosen table through `add`, a function of the host's base, and returns one result for
+    /// each. Leaves out conditions that no longer fit the dictionary. Call it after setDisplayUnits(), and before the
+    /// dialog is shown.
     QList<RestoreResult> restoreConditions(const QList<AttrCondition> &conditions, const AddToChosen &add);
-    /// A new AttrFilterLWI without a definition, owned by the caller.
+    /// Returns a new AttrFilterLWI without a definition. The caller owns it.
     DmlAttrLWI *createNewItem();
 
     void buildInitialLists() override;
-    /// Shows the rows of the top view that the entity, the group and the filter text let through. The text is
-    /// a wildcard pattern, matched anywhere in the label without regard to case.
+    /// Shows the rows of the available table that match the entity, the group and the filter text, and hides the
+    /// others. The text is a wildcard pattern that matches anywhere in the label, case-insensitively.
     void filterAttributeList() override;
     void setupContextMenu() override;
-    /// Stores the units code and rebuilds the top view under the selection and the text of this moment.
-    /// Conditions stay in the units of their definitions.
+    /// Sets the units code, and fills the available table with the current entity, group and filter text. Conditions
+    /// remain in the units of their definitions.
     void setDisplayUnits(int units) override;
 
 private Q_SLOTS:

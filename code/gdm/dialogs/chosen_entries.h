@@ -7,11 +7,11 @@
 
 #include <QTableWidgetItem>
 
-// What both dialogs do with conditions or values. Internal: not installed.
+// Conditions or values of the chosen table, for both dialogs. Internal: not installed.
 namespace Zudunmaf
 {
 
-/// Reads the chosen items of the dialog's own class.
+/// Returns an entry for each chosen item that is an `Item`, in the order of the chosen table.
 template <class Item, class Entry>
 QList<Entry> chosenEntries(const TvxAttributesSelectionDialog &dialog, Entry (*entryOf)(const Item &))
 {

@@ -12,10 +12,10 @@
 namespace Zudunmaf
 {
 
-/// What an action of a context menu does, held in its data.
+/// The data of the menu's actions.
 enum MenuAction { MenuEdit = 1, MenuReset = 2 };
 
-/// Creates the context menu as a child of the dialog, hands it to the base and connects it to the dialog's slot.
+/// Creates the context menu as a child of the dialog, passes it to the base and connects it to the dialog's slot.
 inline QMenu *installContextMenu(TvxAttributesSelectionDialog *dialog, const DialogKind &kind)
 {
     QMenu *menu = new QMenu(dialog);

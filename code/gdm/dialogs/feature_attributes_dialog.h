@@ -12,43 +12,45 @@ namespace Zudunmaf
 
 class DmlAttrLWI;
 
-/// Dialog "Assign Attributes", in which a user picks attributes that a board feature can carry and gives each
-/// a value. The host reads the FeatureAttrLWI items of getChosenList() while the dialog exists.
+/// Dialog "Assign Attributes", in which a user chooses attributes that a board feature can carry and sets a value for
+/// each. The host runs the dialog and reads assignments(), or the FeatureAttrLWI items of getChosenList(), before
+/// deleting it.
 ///
-/// A picked attribute leaves the offer until it is removed again. No failure reaches the user; a failed
-/// service is reported through gen__log_status_check() and leaves the lists as they were.
+/// The row of a chosen attribute is hidden in the available table until the attribute is removed. The user sees no
+/// message about a failed service. It is reported with gen__log_status_check(), and the list that was being filled or
+/// filtered is left unchanged.
 class GDM_EXPORT FeatureAttributesDialog : public TvxAttributesSelectionDialog
 {
     Q_OBJECT
 
 public:
-    /// The arguments are handed to the base unchanged; -1 lets the base choose the dictionary.
+    /// Passes the arguments on to the base. With a `did` of -1, the base chooses the dictionary.
     explicit FeatureAttributesDialog(int did = -1, QWidget *parent = nullptr,
                                      Qt::WindowFlags flags = Qt::WindowFlags());
     ~FeatureAttributesDialog() override;
 
-    /// The values of the chosen list, in its order, as assignmentOf() reads each: exact, and in the units of the
-    /// definitions. They can be saved: see gdm/conditions/attr_documents.h.
+    /// Returns the values of the chosen attributes, in the order of the chosen table; see assignmentOf(). They are
+    /// exact, in the units of the definitions, and can be saved; see gdm/conditions/attr_documents.h.
     QList<AttrAssignment> assignments() const;
-    /// Adds values to the chosen list through `add`, which hands them to the host's base, and returns one result for
-    /// each. Values that do not fit the dictionary any more, or a second one of an attribute, are left out and stay the
-    /// caller's. Call it before the dialog is shown, and after setDisplayUnits().
+    /// Adds the values to the chosen table through `add`, a function of the host's base, and returns one result for
+    /// each. Leaves out values that no longer fit the dictionary, and a second value of an attribute. Call it after
+    /// setDisplayUnits(), and before the dialog is shown.
     QList<RestoreResult> restoreAssignments(const QList<AttrAssignment> &assignments, const AddToChosen &add);
-    /// A new FeatureAttrLWI without a definition, owned by the caller.
+    /// Returns a new FeatureAttrLWI without a definition. The caller owns it.
     DmlAttrLWI *createNewItem();
 
     void buildInitialLists() override;
-    /// Shows the rows of the top view that the entity, the group and the filter text let through and that are
-    /// not chosen. The text is a wildcard pattern, matched anywhere in the label without regard to case.
+    /// Shows the rows of the available table that match the entity, the group and the filter text and are not chosen,
+    /// and hides the others. The text is a wildcard pattern that matches anywhere in the label, case-insensitively.
     void filterAttributeList() override;
     void setupContextMenu() override;
-    /// Stores the units code and rebuilds the top view under the selection and the text of this moment. The
-    /// chosen items keep theirs, and their attributes are on offer again until the next
-    /// filterAttributeList().
+    /// Sets the units code, and fills the available table with the current entity, group and filter text. Chosen items
+    /// keep their units, and their attributes are visible in the available table until the next filterAttributeList().
     void setDisplayUnits(int units) override;
-    /// Hides the row of the item, an attribute of the top view that was taken over.
+    /// Hides the row of the item, which is that of an added attribute in the available table.
     void addButtonClickedCB(QTableWidgetItem *item) override;
-    /// Shows the row of the attribute that the item of the chosen list stands for, whatever the filter says.
+    /// Shows the available table's row for the attribute of the item, a chosen one, even if the criteria do not match
+    /// it.
     void removeButtonClickedCB(QTableWidgetItem *item) override;
 
 private Q_SLOTS:

@@ -52,7 +52,7 @@ bool Fill::readObsolete(const SourcePosition &here)
 
 FillRule Fill::rule() const
 {
-    // In statements of their own: the order of these calls is part of the contract.
+    // Separate statements, because the order of the calls is part of the contract.
     const int entityMask = m_dialog.getSelectedEntityMask();
     const QString group = m_dialog.getSelectedGroupName();
     const bool allGroups = group == messageText(m_kind.allGroupsAtFill);

@@ -24,8 +24,8 @@ TvxDataItem *newEntity(const char *textKey, EntityMask mask);
 bool collectGroups(const TvxAttributesSelectionDialog &dialog, const DialogKind &kind,
                    const SourcePosition &here, QStringList *groups);
 
-/// Makes the items for the available table, and owns them. Call the steps in the order of their declaration, and stop at
-/// the first that returns false because a service failed.
+/// Makes the items for the available table, and owns them. Call the steps in the order of their declaration, and stop
+/// at the first that returns false because a service failed.
 class Fill
 {
 public:

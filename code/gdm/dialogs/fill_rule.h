@@ -14,12 +14,13 @@ namespace Zudunmaf
 /// The two rules differ on purpose. An example, with the group "Board" and the filter text "width":
 /// - The attribute "width" of the group "BOARD" gets a row, and the row is hidden: VisibilityRule alone compares the
 ///   case of the group.
-/// - The attribute "line_width" of the group "Board" gets a row if gen__str_cmp_reg("line_width", "width") returns true.
-///   If it has a row from an earlier fill without a filter text, the row is visible: VisibilityRule matches "*width*".
-/// - If edt_show_obsolete_attrs becomes false, the rows of the group "Obsolete" stay as visible as others until the next
-///   fill, which leaves them out.
-/// - Displayed by prompt, FillRule matches the answer of gen__nls_nlsa_get_att_prompt(), and VisibilityRule the prompt of
-///   the definition, which is the label of the row.
+/// - The attribute "line_width" of the group "Board" gets a row if gen__str_cmp_reg("line_width", "width") returns
+///   true. If it has a row from an earlier fill without a filter text, the row is visible: VisibilityRule matches
+///   "*width*".
+/// - If edt_show_obsolete_attrs becomes false, the rows of the group "Obsolete" stay as visible as others until the
+///   next fill, which leaves them out.
+/// - Displayed by prompt, FillRule matches the answer of gen__nls_nlsa_get_att_prompt(), and VisibilityRule the prompt
+///   of the definition, which is the label of the row.
 class FillRule
 {
 public:

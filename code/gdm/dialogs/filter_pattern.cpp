@@ -6,17 +6,17 @@ namespace Zudunmaf
 namespace
 {
 
-char lowered(char character)
+char lowerCase(char character)
 {
     return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
 }
 
-/// Where in the label a match of the rest of a pattern can begin at the earliest.
+/// Returns the first position in the label where the rest of a pattern can match.
 const char *earliestStart(const char *label, const char *pattern)
 {
     if (*pattern == '?' || *pattern == '*')
         return label;
-    while (*label && lowered(*label) != *pattern)
+    while (*label && lowerCase(*label) != *pattern)
         ++label;
     return label;
 }
@@ -29,9 +29,9 @@ bool isAscii(const char *text)
     return bits < 0x80;
 }
 
-/// Whether QRegExp gives each character of the text its plain meaning, but for "*" and "?". A lone "]" and a
-/// backslash are odd there; beyond ASCII, so is case.
-bool isDirect(const QString &text)
+/// Returns true if all characters of the text but "*" and "?" match only themselves in QRegExp. A lone "]" and a
+/// backslash are special there, and characters other than ASCII have special cases.
+bool isPlain(const QString &text)
 {
     for (const QChar character : text) {
         const ushort code = character.unicode();
@@ -41,10 +41,10 @@ bool isDirect(const QString &text)
     return true;
 }
 
-/// A run of stars means what one star means, and costs QRegExp the cube of its length. Two oddities of
-/// QRegExp's reading are left alone: the star behind a backslash is an ordinary character, and how a set is
-/// read depends on what stands before it, so that beside one only runs that nobody types are cut.
-QString withShortRunsOfStars(const QString &text)
+/// Replaces several stars in a row with one. They mean the same, but QRegExp takes the cube of their number: 15 seconds
+/// for 3,000. A star after a backslash is an ordinary character. If there is a set, whose meaning depends on the
+/// characters before it, up to 16 stars are kept.
+QString withoutRepeatedStars(const QString &text)
 {
     const QLatin1Char star('*');
     const int longestRun = text.contains(QLatin1Char('[')) ? 16 : 1;
@@ -65,11 +65,11 @@ QString withShortRunsOfStars(const QString &text)
 
 FilterPattern::FilterPattern(const QString &text)
     : m_matchesAll(text.isEmpty())
-    , m_direct(isDirect(text))
+    , m_isPlain(isPlain(text))
 {
     const QString pattern =
-        withShortRunsOfStars(QString(QLatin1String("*%1*")).arg(text, 0, QLatin1Char(' ')));
-    if (m_direct)
+        withoutRepeatedStars(QString(QLatin1String("*%1*")).arg(text, 0, QLatin1Char(' ')));
+    if (m_isPlain)
         m_lowered = pattern.toLower().toLatin1();
     m_expression = QRegExp(pattern, Qt::CaseInsensitive, QRegExp::Wildcard);
 }
@@ -78,14 +78,14 @@ bool FilterPattern::matches(const char *label) const
 {
     if (m_matchesAll)
         return true;
-    if (m_direct && isAscii(label))
-        return matchesDirectly(label);
+    if (m_isPlain && isAscii(label))
+        return matchesPlain(label);
     return m_expression.indexIn(QString(label)) != -1;
 }
 
-/// Matches the whole label against the pattern, which begins and ends with a star. On a mismatch the last
-/// star takes one more character: no earlier star can do better, so there is nothing else to come back to.
-bool FilterPattern::matchesDirectly(const char *label) const
+/// Matches the whole label; the pattern begins and ends with a star. After a mismatch, the last star matches one more
+/// character. Earlier stars need no backtracking, because the last one can match whatever they would.
+bool FilterPattern::matchesPlain(const char *label) const
 {
     const char *pattern = m_lowered.constData();
     const char *afterStar = pattern;
@@ -96,7 +96,7 @@ bool FilterPattern::matchesDirectly(const char *label) const
             if (!*pattern)
                 return true;
             label = starEnd = earliestStart(label, pattern);
-        } else if (*pattern == '?' || *pattern == lowered(*label)) {
+        } else if (*pattern == '?' || *pattern == lowerCase(*label)) {
             ++pattern;
             ++label;
         } else {

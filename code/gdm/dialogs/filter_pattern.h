@@ -8,12 +8,12 @@
 namespace Zudunmaf
 {
 
-/// The filter text as a pattern that is looked for anywhere in a label, without regard to case. "*" stands
-/// for any characters, "?" for one, "[...]" for one of a set: the rule is that of QRegExp's wildcard syntax,
-/// and so is every answer. A pattern that QRegExp cannot read matches nothing. Internal: not installed.
+/// The filter text as a wildcard pattern that matches anywhere in a label, case-insensitively. "*" matches any
+/// characters, "?" one character, "[...]" one of a set. The result is always that of QRegExp; an invalid pattern
+/// matches nothing. Internal: not installed.
 ///
-/// Where pattern and label are plain ASCII without sets, which is nearly always, a direct match gives the
-/// same answer many times faster and in time bounded by the product of the two lengths.
+/// QRegExp itself is used only if the pattern or the label has sets or characters outside of printable ASCII. It takes
+/// hundreds of times as long.
 class FilterPattern
 {
 public:
@@ -23,10 +23,10 @@ public:
     bool matches(const char *label) const;
 
 private:
-    bool matchesDirectly(const char *label) const;
+    bool matchesPlain(const char *label) const;
 
     bool m_matchesAll;
-    bool m_direct;
+    bool m_isPlain;
     QByteArray m_lowered;
     QRegExp m_expression;
 };

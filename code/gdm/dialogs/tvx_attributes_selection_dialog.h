@@ -13,19 +13,19 @@ class QMenu;
 class QStyledItemDelegate;
 class QTableWidgetItem;
 
-/// One row of the entity list: the text that it shows and the mask of the entity. The constructor is the base
-/// library's; objects are made with `new` and go over to the base dialog.
+/// One row of the entity list: its text and the mask of the entity. The constructor is defined in the base library.
+/// Objects are created with `new`; the base dialog takes ownership.
 class GDM_EXPORT TvxDataItem
 {
 public:
-    /// `data` holds the row's entity mask as a whole number; `did` is the identifier that the row carries.
+    /// Constructs a row with this text. `data` is the entity mask, an int or an unsigned int; `did` is a dictionary.
     TvxDataItem(const QString &text, QVariant data, int did);
 
-    /// What the row shows.
+    /// Returns the text of the row.
     QString text() const { return m_text; }
-    /// The entity mask of the row.
+    /// Returns the entity mask of the row.
     QVariant data() const { return m_data; }
-    /// The dictionary that the row carries; 0 from the two dialogs.
+    /// Returns the dictionary of the row; 0 in the rows of the two dialogs.
     int did() const { return m_did; }
 
 private:
@@ -34,18 +34,18 @@ private:
     int m_did;
 };
 
-/// What the two dialogs require of the host's base dialog, which owns every widget: the entity list, the
-/// group list, the filter text, the top view with the attributes on offer, the chosen list, the add and
-/// remove buttons and OK and Cancel. The library derives from this class and a base library defines it; only
-/// that library runs moc here.
+/// Base class of the two dialogs, defined in the host's base library. The base owns all widgets: the entity list, the
+/// group list, the filter text, the top view (the table of available attributes), the chosen list (the table of chosen
+/// attributes), the add and remove buttons, OK and Cancel. Only the base library runs moc on this header.
 ///
-/// Both tables are QTableWidgets with the name in column 0 and the condition or value in column 1. In a row
-/// that can be edited, column 1 holds the DmlAttrLWI that carries what the user enters. Every operation that
-/// hands out one item for a row gives the item of column 1.
+/// Both tables are QTableWidgets with the label in column 0 and the condition or value in column 1. In a row that can
+/// be edited, the item in column 1 is a DmlAttrLWI with what the user enters. Operations with one item for each row use
+/// the item in column 1.
 ///
-/// The base calls filterAttributeList() when the selected entity, the selected group or the filter text changes. It moves
-/// attributes between the tables itself, by QTableWidgetItem::clone(), and calls one of the two hooks for each attribute
-/// that it moves, whatever has moved it: a button, a key, a drop, undoing a removal, or an item that the host adds.
+/// The base calls filterAttributeList() when the selected entity, the selected group or the filter text changes. It
+/// moves attributes between the tables itself, by QTableWidgetItem::clone(), and calls one of the two hooks for each
+/// attribute that it moves, whatever has moved it: a button, a key, a drop, undoing a removal, or an item that the host
+/// adds.
 class GDM_EXPORT TvxAttributesSelectionDialog : public QDialog
 {
     Q_OBJECT
@@ -53,83 +53,83 @@ class GDM_EXPORT TvxAttributesSelectionDialog : public QDialog
 public:
     /// The buttons that can have a picture.
     enum Buttons_Enum {
-        Buttons_Add = 0,   ///< Takes attributes over into the chosen list.
-        Buttons_Remove = 1 ///< Takes them away from it.
+        Buttons_Add = 0,   ///< Adds attributes to the chosen table.
+        Buttons_Remove = 1 ///< Removes attributes from the chosen table.
     };
 
-    /// `did` identifies the dictionary to walk; -1 leaves that to the selected entity row. The others are
-    /// QDialog's.
+    /// `did` is the dictionary; -1 if the selected entity row determines it. The other arguments are QDialog's.
     TvxAttributesSelectionDialog(int did, QWidget *parent, Qt::WindowFlags flags);
     ~TvxAttributesSelectionDialog() override;
 
-    /// Fills the three lists. May be called again.
+    /// Fills the entities, the groups and the available table, in this order, because each depends on what is selected
+    /// in the lists before it. Can be called again.
     virtual void buildInitialLists() = 0;
-    /// Sets the visibility of each row of the top view by entity, group and filter text.
+    /// Shows or hides each row of the available table by entity, group and filter text.
     virtual void filterAttributeList() = 0;
-    /// Builds the context menu and hands it to setCustomContextMenu().
+    /// Creates the context menu and passes it to setCustomContextMenu().
     virtual void setupContextMenu() = 0;
-    /// Stores the units code, -1 for none. Overrides call this one first and then rebuild the top view.
+    /// Sets the units code, -1 for none. Overrides call this implementation and then fill the available table.
     virtual void setDisplayUnits(int units);
-    /// Called for each attribute that was added to the chosen table, with its item in the available table. Not called for
-    /// an attribute that the available table does not have.
+    /// Called for each attribute that was added to the chosen table, with its item in the available table. Not called
+    /// for an attribute that the available table does not have.
     virtual void addButtonClickedCB(QTableWidgetItem *item);
-    /// Called for each attribute that is removed from the chosen table, with its item there. The item is deleted after the
-    /// call.
+    /// Called for each attribute that is removed from the chosen table, with its item there. The item is deleted after
+    /// the call.
     virtual void removeButtonClickedCB(QTableWidgetItem *item);
 
-    /// Connects the widgets to the base's reactions. Called once, after the lists are filled and the delegate
-    /// is set.
+    /// Connects the signals of the widgets. Called once, after the lists are filled and the delegate is set.
     void connectSignal2Slots();
 
-    /// The dictionary to walk; negative where there is none.
+    /// Returns the dictionary; negative if there is none.
     int getEntityDID() const;
-    /// The mask of the selected entity row; 0 where no row is selected.
+    /// Returns the mask of the selected entity row; 0 if no row is selected.
     int getSelectedEntityMask() const;
-    /// The text of the selected group row, unchanged; null where no row is selected.
+    /// Returns the text of the selected group row, unchanged; a null string if no row is selected.
     QString getSelectedGroupName() const;
-    /// What the user has typed; empty where that is nothing.
+    /// Returns the filter text; empty if the user has typed nothing.
     QString getUserFilterText();
-    /// The units code set last, -1 at first.
+    /// Returns the units code; -1 by default.
     int displayUnits();
 
-    /// One item for each row of the top view: all rows for false, the visible ones for true.
+    /// Returns one item for each row of the available table; with true, only for visible rows.
     QList<QTableWidgetItem *> getTopListItems(bool) const;
-    /// Shows or hides a row of the top view. A row out of range is ignored.
+    /// Shows or hides a row of the available table. Does nothing if the row is out of range.
     void setTopViewRowsVisiblity(int row, bool visible);
-    /// Makes the first row that is not hidden current; without one, no row is current or selected.
+    /// Makes the first visible row of the available table current. If no row is visible, clears the current row and the
+    /// selection.
     void setFirstVisibleItemAsCurrent();
-    /// Makes the row of this item of the top view current.
+    /// Makes the row of this item current in the available table.
     void setTopViewCurrentItem(QTableWidgetItem *item);
-    /// The item of the top view whose attribute has this internal name, hidden rows included; null if there
-    /// is none.
+    /// Returns the item in the available table whose attribute has this internal name, hidden rows included; null if
+    /// there is none.
     QTableWidgetItem *findItemByAttrName(const QString &name);
 
-    /// One item for each row of the chosen list, in row order. This is what a host reads.
+    /// Returns one item for each row of the chosen table, in row order. Hosts read the result from these items.
     QList<QTableWidgetItem *> getChosenList() const;
 
-    /// Installs the delegate on the tables whose cells are edited. The dialog owns it.
+    /// Sets the delegate of the tables whose cells are edited. The delegate is a child of the dialog.
     void setItemDelegate(QStyledItemDelegate *delegate);
-    /// Sets the header of column 0 or 1.
+    /// Sets the header text of a column, 0 or 1.
     void setHeaderTitle(int column, const QString &title);
-    /// Sets a button's picture from a file name without a path; false where it was not found.
+    /// Sets the icon of a button from a file name without path. Returns false if the file is not found.
     bool setButtonPixmap(Buttons_Enum button, const QString &name);
-    /// The menu to show on the user's request. The dialog owns it.
+    /// Sets the context menu. The menu is a child of the dialog.
     void setCustomContextMenu(QMenu *menu);
-    /// The items that a menu action applies to, each a DmlAttrLWI of column 1.
+    /// Returns the items that a menu action applies to: the DmlAttrLWI items in column 1.
     QList<QTableWidgetItem *> getItemsForContextMenuCallback();
-    /// Opens the in-place editor on the current row; does nothing without one.
+    /// Opens the editor of the current row. Does nothing if there is no current row.
     void editCurrentItem();
 
 protected:
-    /// Shows the rows and takes the objects over.
+    /// Fills the entity list, in list order. Takes ownership of the objects.
     void fillEntityList(const QList<TvxDataItem *> &items);
-    /// Shows the rows, in list order.
+    /// Fills the group list, in list order.
     void fillGroupsList(const QStringList &groups);
-    /// Replaces the rows of the top view by clones of the items, which stay the caller's. Never calls
-    /// filterAttributeList().
+    /// Replaces the rows of the available table with clones of the items; the caller keeps ownership of the items. Does
+    /// not call filterAttributeList().
     void fillAttributeList(const QList<QTableWidgetItem *> &items);
 
-    /// Closing by the window is Cancel.
+    /// Closing the window is Cancel.
     void closeEvent(QCloseEvent *event) override;
 
 private:

@@ -10,8 +10,8 @@ struct DmlAttrDef;
 namespace Zudunmaf
 {
 
-/// Decides which rows of the available table are visible; constructed once for each pass over the rows. FillRule has
-/// an example of how it differs from the rule that decides which attributes get a row. Internal: not installed.
+/// Decides which rows of the available table are visible. Constructed once for each pass over the rows. FillRule
+/// describes how the two rules differ. Internal: not installed.
 class VisibilityRule
 {
 public:
