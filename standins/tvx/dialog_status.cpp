@@ -2,11 +2,11 @@
 
 #include "gdm/items/attr_records.h"
 #include "gdm/items/attr_roles.h"
+#include "tvx/available_table.h"
+#include "tvx/filter_criteria.h"
 #include "tvx/number_entry.h"
-#include "tvx/offer_choice.h"
-#include "tvx/row_transfer.h"
+#include "tvx/row_mover.h"
 #include "tvx/selection_widgets.h"
-#include "tvx/top_table.h"
 #include "tvx/tvx_texts.h"
 
 #include <QAbstractSpinBox>
@@ -88,11 +88,11 @@ void setText(QLabel *label, const QString &text)
 
 } // namespace
 
-DialogStatus::DialogStatus(const SelectionWidgets &widgets, const OfferChoice &choice,
-                           const RowTransfer &transfer)
+DialogStatus::DialogStatus(const SelectionWidgets &widgets, const FilterCriteria &criteria,
+                           const RowMover &mover)
     : m_widgets(widgets)
-    , m_choice(choice)
-    , m_transfer(transfer)
+    , m_criteria(criteria)
+    , m_mover(mover)
 {
 }
 
@@ -115,19 +115,19 @@ void DialogStatus::updateCounts() const
 
 void DialogStatus::updateButtons() const
 {
-    TopTable *top = m_widgets.topView;
+    AvailableTable *top = m_widgets.topView;
     ChosenTable *chosen = m_widgets.chosenList;
     setEnabled(m_widgets.addButton, top->hasVisibleSelection(), top);
     setEnabled(m_widgets.removeButton, chosen->hasVisibleSelection(), chosen);
-    setEnabled(m_widgets.undoButton, m_transfer.canUndoRemoval(), chosen);
+    setEnabled(m_widgets.undoButton, m_mover.canUndoRemoval(), chosen);
     setEnabled(m_widgets.clearButton, chosen->rowCount() > 0, chosen);
 }
 
 void DialogStatus::updateTexts() const
 {
-    TopTable *top = m_widgets.topView;
+    AvailableTable *top = m_widgets.topView;
     ChosenTable *chosen = m_widgets.chosenList;
-    top->setEmptyText(offerText());
+    top->setEmptyText(emptyAvailableText());
     describe(top, top->shownEmptyText());
     describe(chosen, chosen->lastRefusal().isEmpty() ? chosen->shownEmptyText() : chosen->lastRefusal());
 
@@ -138,13 +138,13 @@ void DialogStatus::updateTexts() const
     setText(m_widgets.preview, line.isEmpty() ? QString() : textOf(texts::PreviewLine).arg(line));
 }
 
-QString DialogStatus::offerText() const
+QString DialogStatus::emptyAvailableText() const
 {
-    if (m_choice.dictionary() < 0)
+    if (m_criteria.dictionary() < 0)
         return textOf(texts::NoDictionary);
-    if (m_choice.isFillMissing() && m_widgets.topView->rowCount() == 0)
+    if (m_criteria.isFillMissing() && m_widgets.topView->rowCount() == 0)
         return textOf(texts::NotRead);
-    return textOf(m_choice.isNarrowed() ? texts::NothingMatches : texts::NothingLeft);
+    return textOf(m_criteria.isNarrowed() ? texts::NothingMatches : texts::NothingLeft);
 }
 
 QString DialogStatus::describedText() const

@@ -10,8 +10,8 @@ namespace Zudunmaf
 namespace tvx
 {
 
-class OfferChoice;
-class RowTransfer;
+class FilterCriteria;
+class RowMover;
 class SelectionWidgets;
 
 /// Brings everything that depends on the state of the dialog up to date: counts, which buttons can be
@@ -21,7 +21,7 @@ class SelectionWidgets;
 class DialogStatus
 {
 public:
-    DialogStatus(const SelectionWidgets &widgets, const OfferChoice &choice, const RowTransfer &transfer);
+    DialogStatus(const SelectionWidgets &widgets, const FilterCriteria &criteria, const RowMover &mover);
 
     void update() const;
 
@@ -29,13 +29,13 @@ private:
     void updateCounts() const;
     void updateButtons() const;
     void updateTexts() const;
-    QString offerText() const;
+    QString emptyAvailableText() const;
     QString describedText() const;
     QString limitsOfEditor() const;
 
     const SelectionWidgets &m_widgets;
-    const OfferChoice &m_choice;
-    const RowTransfer &m_transfer;
+    const FilterCriteria &m_criteria;
+    const RowMover &m_mover;
 };
 
 } // namespace tvx

@@ -1,8 +1,8 @@
 #include "tvx/selection_controller.h"
 
 #include "gdm/dialogs/tvx_attributes_selection_dialog.h"
-#include "tvx/row_transfer.h"
-#include "tvx/top_table.h"
+#include "tvx/available_table.h"
+#include "tvx/row_mover.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -22,9 +22,9 @@ SelectionController::SelectionController(int did, TvxAttributesSelectionDialog *
     : QObject(dialog)
     , m_dialog(dialog)
     , m_widgets(dialog)
-    , m_choice(did, m_widgets)
-    , m_transfer(new RowTransfer(dialog, m_widgets.topView, m_widgets.chosenList, this))
-    , m_status(m_widgets, m_choice, *m_transfer)
+    , m_criteria(did, m_widgets)
+    , m_mover(new RowMover(dialog, m_widgets.topView, m_widgets.chosenList, this))
+    , m_status(m_widgets, m_criteria, *m_mover)
 {
     dialog->installEventFilter(this);
     m_widgets.filterText->installEventFilter(this);
@@ -39,10 +39,10 @@ SelectionController::~SelectionController()
 
 void SelectionController::connectWidgets()
 {
-    if (m_connected)
+    if (m_isConnected)
         return;
-    m_connected = true;
-    connectChoice();
+    m_isConnected = true;
+    connectCriteria();
     connectButtons();
     connectTables();
     connectShortcuts();
@@ -50,20 +50,20 @@ void SelectionController::connectWidgets()
     refresh();
 }
 
-void SelectionController::connectChoice()
+void SelectionController::connectCriteria()
 {
     const auto indexChanged = QOverload<int>::of(&QComboBox::currentIndexChanged);
-    connect(m_widgets.entityList, indexChanged, this, &SelectionController::offerChanged);
-    connect(m_widgets.groupList, indexChanged, this, &SelectionController::offerChanged);
-    connect(m_widgets.filterText, &QLineEdit::textChanged, this, &SelectionController::offerChanged);
+    connect(m_widgets.entityList, indexChanged, this, &SelectionController::applyCriteria);
+    connect(m_widgets.groupList, indexChanged, this, &SelectionController::applyCriteria);
+    connect(m_widgets.filterText, &QLineEdit::textChanged, this, &SelectionController::applyCriteria);
 }
 
 void SelectionController::connectButtons()
 {
-    connect(m_widgets.addButton, &QPushButton::clicked, m_transfer, &RowTransfer::addSelected);
-    connect(m_widgets.removeButton, &QPushButton::clicked, m_transfer, &RowTransfer::removeSelected);
-    connect(m_widgets.undoButton, &QPushButton::clicked, m_transfer, &RowTransfer::undoRemoval);
-    connect(m_widgets.clearButton, &QPushButton::clicked, m_transfer, &RowTransfer::removeAll);
+    connect(m_widgets.addButton, &QPushButton::clicked, m_mover, &RowMover::addSelected);
+    connect(m_widgets.removeButton, &QPushButton::clicked, m_mover, &RowMover::removeSelected);
+    connect(m_widgets.undoButton, &QPushButton::clicked, m_mover, &RowMover::undoRemoval);
+    connect(m_widgets.clearButton, &QPushButton::clicked, m_mover, &RowMover::removeAll);
     connect(m_widgets.buttonBox, &QDialogButtonBox::accepted, this, &SelectionController::acceptDialog);
     connect(m_widgets.buttonBox, &QDialogButtonBox::rejected, this, &SelectionController::rejectDialog);
     // For a host that ends the dialog by its slots, and connects to these signals later.
@@ -73,27 +73,27 @@ void SelectionController::connectButtons()
 
 void SelectionController::connectTables()
 {
-    TopTable *top = m_widgets.topView;
+    AvailableTable *top = m_widgets.topView;
     ChosenTable *chosen = m_widgets.chosenList;
-    connect(top, &TopTable::rowsActivated, m_transfer, &RowTransfer::addSelected);
-    connect(chosen, &ChosenTable::rowsDropped, m_transfer, &RowTransfer::addSelected);
-    connect(chosen, &ChosenTable::removalRequested, m_transfer, &RowTransfer::removeSelected);
-    connect(top, &TopTable::rowsDropped, m_transfer, &RowTransfer::removeSelected);
+    connect(top, &AvailableTable::rowsActivated, m_mover, &RowMover::addSelected);
+    connect(chosen, &ChosenTable::rowsDropped, m_mover, &RowMover::addSelected);
+    connect(chosen, &ChosenTable::removalRequested, m_mover, &RowMover::removeSelected);
+    connect(top, &AvailableTable::rowsDropped, m_mover, &RowMover::removeSelected);
     connect(chosen, &ChosenTable::menuRequested, this, &SelectionController::showContextMenu);
 
-    connect(top, &TopTable::nameWidthChanged, this,
+    connect(top, &AvailableTable::nameWidthChanged, this,
             [this, chosen](int width) { followNameWidth(chosen, width); });
     connect(chosen, &ChosenTable::nameWidthChanged, this,
             [this, top](int width) { followNameWidth(top, width); });
-    connect(top, &TopTable::rowsHiddenOrShown, this, &SelectionController::refresh);
-    connect(top, &TopTable::itemSelectionChanged, this, &SelectionController::refresh);
-    connect(top, &TopTable::currentItemChanged, this, &SelectionController::refresh);
+    connect(top, &AvailableTable::rowsHiddenOrShown, this, &SelectionController::refresh);
+    connect(top, &AvailableTable::itemSelectionChanged, this, &SelectionController::refresh);
+    connect(top, &AvailableTable::currentItemChanged, this, &SelectionController::refresh);
     connect(chosen, &ChosenTable::itemSelectionChanged, this, &SelectionController::refresh);
     connect(chosen, &ChosenTable::currentItemChanged, this, &SelectionController::refresh);
     connect(chosen, &ChosenTable::editingStarted, this, &SelectionController::refresh);
     connect(chosen, &ChosenTable::editorChanged, this, &SelectionController::refresh);
     connect(chosen, &ChosenTable::editingEnded, this, &SelectionController::refresh);
-    connect(m_transfer, &RowTransfer::transferred, this, &SelectionController::refresh);
+    connect(m_mover, &RowMover::rowsMoved, this, &SelectionController::refresh);
 }
 
 void SelectionController::connectShortcuts()
@@ -104,7 +104,7 @@ void SelectionController::connectShortcuts()
         m_widgets.filterText->selectAll();
     });
     auto *undo = new QShortcut(QKeySequence::Undo, m_dialog);
-    connect(undo, &QShortcut::activated, m_transfer, &RowTransfer::undoRemoval);
+    connect(undo, &QShortcut::activated, m_mover, &RowMover::undoRemoval);
 }
 
 void SelectionController::acceptDialog()
@@ -123,13 +123,13 @@ void SelectionController::setDisplayUnits(int units)
 {
     m_widgets.chosenList->finishEditing();
     m_displayUnits = units;
-    m_choice.expectFill();
+    m_criteria.expectFill();
 }
 
 void SelectionController::fillTopView(const QList<QTableWidgetItem *> &items)
 {
     m_widgets.topView->fill(items);
-    m_choice.rememberFill();
+    m_criteria.rememberFill();
     fitNameWidth();
     refresh();
 }
@@ -151,13 +151,13 @@ void SelectionController::fitNameWidth()
     m_widgets.chosenList->setNameWidth(width);
 }
 
-void SelectionController::offerChanged()
+void SelectionController::applyCriteria()
 {
     m_widgets.chosenList->finishEditing();
-    m_widgets.topView->setHighlightedText(m_choice.text());
+    m_widgets.topView->setHighlightedText(m_criteria.text());
     {
-        const TopTable::Pass pass(m_widgets.topView);
-        if (m_choice.wantsRefill())
+        const AvailableTable::Pass pass(m_widgets.topView);
+        if (m_criteria.needsRefill())
             refill();
         m_dialog->filterAttributeList();
     }
@@ -241,7 +241,7 @@ bool SelectionController::filterKey(QKeyEvent *event)
 {
     QLineEdit *text = m_widgets.filterText;
     if (event->matches(QKeySequence::Undo) && !text->isUndoAvailable()) {
-        m_transfer->undoRemoval();
+        m_mover->undoRemoval();
         return true;
     }
     switch (event->key()) {
@@ -254,7 +254,7 @@ bool SelectionController::filterKey(QKeyEvent *event)
     case Qt::Key_Return:
     case Qt::Key_Enter:
         if (!event->isAutoRepeat()) {
-            m_transfer->addSelected();
+            m_mover->addSelected();
             // The next search replaces this one.
             text->selectAll();
         }
@@ -271,7 +271,7 @@ bool SelectionController::filterKey(QKeyEvent *event)
 
 void SelectionController::refresh()
 {
-    if (m_connected && !m_transfer->isRemoving())
+    if (m_isConnected && !m_mover->isRemoving())
         m_status.update();
 }
 

@@ -2,7 +2,7 @@
 #define TVX_SELECTION_CONTROLLER_H
 
 #include "tvx/dialog_status.h"
-#include "tvx/offer_choice.h"
+#include "tvx/filter_criteria.h"
 #include "tvx/selection_widgets.h"
 
 #include <QObject>
@@ -20,7 +20,7 @@ namespace tvx
 {
 
 class AttributeTable;
-class RowTransfer;
+class RowMover;
 
 /// All that the base dialog holds and does, behind its declaration. It is the receiver of every connection
 /// and goes before the dialog's widgets do, so that nothing reaches a dialog that is half gone.
@@ -40,9 +40,9 @@ public:
     void connectWidgets();
 
     const SelectionWidgets &widgets() const { return m_widgets; }
-    const OfferChoice &choice() const { return m_choice; }
-    OfferChoice &choice() { return m_choice; }
-    RowTransfer &transfer() { return *m_transfer; }
+    const FilterCriteria &criteria() const { return m_criteria; }
+    FilterCriteria &criteria() { return m_criteria; }
+    RowMover &mover() { return *m_mover; }
 
     int displayUnits() const { return m_displayUnits; }
     /// An open edit is ended and stored first: its number stands in the units of before.
@@ -58,13 +58,13 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void connectChoice();
+    void connectCriteria();
     void connectButtons();
     void connectTables();
     void connectShortcuts();
     void acceptDialog();
     void rejectDialog();
-    void offerChanged();
+    void applyCriteria();
     void refill();
     void fitNameWidth();
     void followNameWidth(AttributeTable *table, int width);
@@ -74,12 +74,12 @@ private:
 
     TvxAttributesSelectionDialog *m_dialog;
     SelectionWidgets m_widgets;
-    OfferChoice m_choice;
-    RowTransfer *m_transfer;
+    FilterCriteria m_criteria;
+    RowMover *m_mover;
     DialogStatus m_status;
     QPointer<QMenu> m_contextMenu;
     int m_displayUnits = -1;
-    bool m_connected = false;
+    bool m_isConnected = false;
     bool m_nameWidthIsUsers = false;
 };
 

@@ -1,12 +1,12 @@
 #include "tvx/selection_widgets.h"
 
 #include "gdm/host/message_keys.h"
+#include "tvx/available_table.h"
 #include "tvx/button_picture.h"
 #include "tvx/caption.h"
 #include "tvx/choice_list.h"
 #include "tvx/chosen_table.h"
 #include "tvx/text_lines.h"
-#include "tvx/top_table.h"
 #include "tvx/tvx_texts.h"
 
 #include <QDialog>
@@ -64,7 +64,7 @@ QLabel *label(const char *text, QWidget *buddy)
 
 SelectionWidgets::SelectionWidgets(QDialog *dialog)
 {
-    createChoice(dialog);
+    createCriteria(dialog);
     createTables(dialog);
     createButtons(dialog);
     createTexts(dialog);
@@ -80,7 +80,7 @@ SelectionWidgets::SelectionWidgets(QDialog *dialog)
     filterText->setFocus();
 }
 
-void SelectionWidgets::createChoice(QDialog *dialog)
+void SelectionWidgets::createCriteria(QDialog *dialog)
 {
     entityList = named(new ChoiceList(dialog), "entityList", texts::Entity);
     groupList = named(new ChoiceList(dialog), "groupList", texts::Group);
@@ -91,7 +91,7 @@ void SelectionWidgets::createChoice(QDialog *dialog)
 
 void SelectionWidgets::createTables(QDialog *dialog)
 {
-    topView = named(new TopTable(dialog), "topView", texts::Offered);
+    topView = named(new AvailableTable(dialog), "topView", texts::Offered);
     chosenList = named(new ChosenTable(dialog), "chosenList", texts::Chosen);
     topView->setDragTypes(QLatin1String(OfferedRows), QLatin1String(ChosenRows));
     chosenList->setDragTypes(QLatin1String(ChosenRows), QLatin1String(OfferedRows));
@@ -135,7 +135,7 @@ void SelectionWidgets::arrange(QDialog *dialog)
     ends->addWidget(buttonBox, 0, Qt::AlignBottom);
 
     auto *layout = new QVBoxLayout(dialog);
-    layout->addLayout(choiceLayout());
+    layout->addLayout(criteriaLayout());
     layout->addWidget(tablesWidget(dialog), 1);
     layout->addWidget(description);
     layout->addLayout(ends);
@@ -146,7 +146,7 @@ void SelectionWidgets::arrange(QDialog *dialog)
     QWidget::setTabOrder(chosenList, buttonBox->button(QDialogButtonBox::Ok));
 }
 
-QLayout *SelectionWidgets::choiceLayout() const
+QLayout *SelectionWidgets::criteriaLayout() const
 {
     const int gap = 2 * filterText->fontMetrics().averageCharWidth();
     auto *lists = new QHBoxLayout;

@@ -16,7 +16,7 @@ namespace tvx
 {
 
 class ChosenTable;
-class TopTable;
+class AvailableTable;
 
 /// The widgets of the dialog and their places: entity, group and filter; what is on offer; the buttons
 /// between the tables; what is chosen; the description; OK and Cancel. The dialog owns them all. Object names
@@ -35,7 +35,7 @@ public:
     QComboBox *groupList;
     QLineEdit *filterText;
     QLabel *offeredLabel;
-    TopTable *topView;
+    AvailableTable *topView;
     QPushButton *addButton;
     QPushButton *removeButton;
     QPushButton *undoButton;
@@ -47,12 +47,12 @@ public:
     QDialogButtonBox *buttonBox;
 
 private:
-    void createChoice(QDialog *dialog);
+    void createCriteria(QDialog *dialog);
     void createTables(QDialog *dialog);
     void createButtons(QDialog *dialog);
     void createTexts(QDialog *dialog);
     void arrange(QDialog *dialog);
-    QLayout *choiceLayout() const;
+    QLayout *criteriaLayout() const;
     QWidget *tablesWidget(QDialog *dialog) const;
 };
 

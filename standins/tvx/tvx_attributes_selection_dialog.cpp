@@ -1,9 +1,9 @@
 #include "gdm/dialogs/tvx_attributes_selection_dialog.h"
 
+#include "tvx/available_table.h"
 #include "tvx/button_picture.h"
-#include "tvx/row_transfer.h"
+#include "tvx/row_mover.h"
 #include "tvx/selection_controller.h"
-#include "tvx/top_table.h"
 
 #include <QCloseEvent>
 #include <QMenu>
@@ -46,22 +46,22 @@ void TvxAttributesSelectionDialog::removeButtonClickedCB(QTableWidgetItem *) {}
 
 int TvxAttributesSelectionDialog::getEntityDID() const
 {
-    return d->choice().dictionary();
+    return d->criteria().dictionary();
 }
 
 int TvxAttributesSelectionDialog::getSelectedEntityMask() const
 {
-    return d->choice().mask();
+    return d->criteria().mask();
 }
 
 QString TvxAttributesSelectionDialog::getSelectedGroupName() const
 {
-    return d->choice().group();
+    return d->criteria().group();
 }
 
 QString TvxAttributesSelectionDialog::getUserFilterText()
 {
-    return d->choice().text();
+    return d->criteria().text();
 }
 
 int TvxAttributesSelectionDialog::displayUnits()
@@ -71,7 +71,7 @@ int TvxAttributesSelectionDialog::displayUnits()
 
 QList<QTableWidgetItem *> TvxAttributesSelectionDialog::getTopListItems(bool visibleOnly) const
 {
-    const Zudunmaf::tvx::TopTable *top = d->widgets().topView;
+    const Zudunmaf::tvx::AvailableTable *top = d->widgets().topView;
     return visibleOnly ? top->rowItems(true) : top->allItems();
 }
 
@@ -136,12 +136,12 @@ void TvxAttributesSelectionDialog::editCurrentItem()
 
 void TvxAttributesSelectionDialog::fillEntityList(const QList<TvxDataItem *> &items)
 {
-    d->choice().setEntities(items);
+    d->criteria().setEntities(items);
 }
 
 void TvxAttributesSelectionDialog::fillGroupsList(const QStringList &groups)
 {
-    d->choice().setGroups(groups);
+    d->criteria().setGroups(groups);
 }
 
 void TvxAttributesSelectionDialog::fillAttributeList(const QList<QTableWidgetItem *> &items)

@@ -1,5 +1,5 @@
-#ifndef TVX_ROW_TRANSFER_H
-#define TVX_ROW_TRANSFER_H
+#ifndef TVX_ROW_MOVER_H
+#define TVX_ROW_MOVER_H
 
 #include "tvx/chosen_table.h"
 
@@ -15,25 +15,25 @@ namespace Zudunmaf
 namespace tvx
 {
 
-class TopTable;
+class AvailableTable;
 
 /// Moves attributes between the two tables, calls the dialog's hooks, and keeps what was taken away until it
 /// is brought back or the dialog ends. Each command ends an open edit first. Hidden rows are never moved.
 ///
 /// An attribute takes any number of conditions, which are the items with a filter text, but one value: a row
 /// with a second one is not made.
-class RowTransfer : public QObject
+class RowMover : public QObject
 {
     Q_OBJECT
 
 public:
-    RowTransfer(TvxAttributesSelectionDialog *dialog, TopTable *top, ChosenTable *chosen, QObject *parent);
+    RowMover(TvxAttributesSelectionDialog *dialog, AvailableTable *top, ChosenTable *chosen, QObject *parent);
 
     /// An attribute that has a value already gets no second row: its row is selected, and the hook is not called.
     void addSelected();
     void removeSelected();
     void removeAll();
-    /// While rows go, nothing is selected for a moment, which is not to be shown; transferred() comes after.
+    /// While rows go, nothing is selected for a moment, which is not to be shown; rowsMoved() comes after.
     bool isRemoving() const { return m_isRemoving; }
     bool canUndoRemoval() const { return !m_removals.empty(); }
     /// Brings the rows removed last back to their places, with what was entered. A value that has been chosen
@@ -46,7 +46,7 @@ public:
 
 Q_SIGNALS:
     /// Rows have come to or gone from the chosen ones.
-    void transferred();
+    void rowsMoved();
 
 private:
     struct Offered {
@@ -65,7 +65,7 @@ private:
     void rememberValues(const std::vector<ChosenTable::Row> &rows);
 
     TvxAttributesSelectionDialog *m_dialog;
-    TopTable *m_top;
+    AvailableTable *m_top;
     ChosenTable *m_chosen;
     std::vector<std::vector<ChosenTable::Row>> m_removals;
     /// The names of the chosen values, so that adding N copies costs no N * N names.

@@ -1,4 +1,4 @@
-#include "tvx/offer_choice.h"
+#include "tvx/filter_criteria.h"
 
 #include "gdm/dialogs/tvx_attributes_selection_dialog.h"
 #include "tvx/selection_widgets.h"
@@ -12,7 +12,7 @@ namespace Zudunmaf
 namespace tvx
 {
 
-OfferChoice::OfferChoice(int did, const SelectionWidgets &widgets)
+FilterCriteria::FilterCriteria(int did, const SelectionWidgets &widgets)
     : m_did(did)
     , m_entityList(widgets.entityList)
     , m_groupList(widgets.groupList)
@@ -20,9 +20,9 @@ OfferChoice::OfferChoice(int did, const SelectionWidgets &widgets)
 {
 }
 
-OfferChoice::~OfferChoice() = default;
+FilterCriteria::~FilterCriteria() = default;
 
-void OfferChoice::setEntities(const QList<TvxDataItem *> &items)
+void FilterCriteria::setEntities(const QList<TvxDataItem *> &items)
 {
     const QSignalBlocker blocker(m_entityList);
     m_entityList->clear();
@@ -34,7 +34,7 @@ void OfferChoice::setEntities(const QList<TvxDataItem *> &items)
     m_entityList->setCurrentIndex(m_entityList->count() - 1);
 }
 
-void OfferChoice::setGroups(const QStringList &groups)
+void FilterCriteria::setGroups(const QStringList &groups)
 {
     const QSignalBlocker blocker(m_groupList);
     m_groupList->clear();
@@ -42,13 +42,13 @@ void OfferChoice::setGroups(const QStringList &groups)
     m_groupList->setCurrentIndex(groups.isEmpty() ? -1 : 0);
 }
 
-const TvxDataItem *OfferChoice::entity() const
+const TvxDataItem *FilterCriteria::entity() const
 {
     const int row = m_entityList->currentIndex();
     return row < 0 ? nullptr : m_entities[static_cast<std::size_t>(row)].get();
 }
 
-int OfferChoice::dictionary() const
+int FilterCriteria::dictionary() const
 {
     if (m_did != -1)
         return m_did;
@@ -56,46 +56,46 @@ int OfferChoice::dictionary() const
     return item ? item->did() : -1;
 }
 
-int OfferChoice::mask() const
+int FilterCriteria::mask() const
 {
     const TvxDataItem *item = entity();
     return item ? item->data().toInt() : 0;
 }
 
-QString OfferChoice::group() const
+QString FilterCriteria::group() const
 {
     return m_groupList->itemText(m_groupList->currentIndex());
 }
 
-QString OfferChoice::text() const
+QString FilterCriteria::text() const
 {
     return m_filterText->text();
 }
 
-bool OfferChoice::isNarrowed() const
+bool FilterCriteria::isNarrowed() const
 {
     return m_entityList->currentIndex() != m_entityList->count() - 1 || m_groupList->currentIndex() > 0 ||
            !text().isEmpty();
 }
 
-void OfferChoice::rememberFill()
+void FilterCriteria::rememberFill()
 {
     m_atLastFill = state();
     m_lastFillNarrowed = isNarrowed();
     m_fillMissing = false;
 }
 
-bool OfferChoice::wantsRefill() const
+bool FilterCriteria::needsRefill() const
 {
     return m_fillMissing || (m_lastFillNarrowed && !(state() == m_atLastFill));
 }
 
-OfferChoice::State OfferChoice::state() const
+FilterCriteria::State FilterCriteria::state() const
 {
     return {dictionary(), mask(), group(), text()};
 }
 
-bool OfferChoice::State::operator==(const State &other) const
+bool FilterCriteria::State::operator==(const State &other) const
 {
     return dictionary == other.dictionary && mask == other.mask && group == other.group && text == other.text;
 }

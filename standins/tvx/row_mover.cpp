@@ -1,8 +1,8 @@
-#include "tvx/row_transfer.h"
+#include "tvx/row_mover.h"
 
 #include "gdm/dialogs/tvx_attributes_selection_dialog.h"
 #include "gdm/items/attr_roles.h"
-#include "tvx/top_table.h"
+#include "tvx/available_table.h"
 
 #include <algorithm>
 #include <memory>
@@ -44,8 +44,8 @@ QVector<QTableWidgetItem *> valuesOf(const std::vector<ChosenTable::Row> &rows)
 
 } // namespace
 
-RowTransfer::RowTransfer(TvxAttributesSelectionDialog *dialog, TopTable *top, ChosenTable *chosen,
-                         QObject *parent)
+RowMover::RowMover(TvxAttributesSelectionDialog *dialog, AvailableTable *top, ChosenTable *chosen,
+                   QObject *parent)
     : QObject(parent)
     , m_dialog(dialog)
     , m_top(top)
@@ -53,7 +53,7 @@ RowTransfer::RowTransfer(TvxAttributesSelectionDialog *dialog, TopTable *top, Ch
 {
 }
 
-void RowTransfer::addSelected()
+void RowMover::addSelected()
 {
     finishEditing();
     // All items first: a hook changes the selection of the top view.
@@ -74,22 +74,22 @@ void RowTransfer::addSelected()
     }
     values += valuesOf(copies);
     {
-        const TopTable::Pass pass(m_top);
+        const AvailableTable::Pass pass(m_top);
         append(std::move(copies));
         reportAdded(entering);
     }
     m_chosen->selectItems(values);
-    Q_EMIT transferred();
+    Q_EMIT rowsMoved();
 }
 
 /// Also clears the message on an entry that was refused before.
-void RowTransfer::finishEditing()
+void RowMover::finishEditing()
 {
     m_chosen->forgetRefusal();
     m_chosen->finishEditing();
 }
 
-std::vector<RowTransfer::Offered> RowTransfer::selectedOffers() const
+std::vector<RowMover::Offered> RowMover::selectedOffers() const
 {
     std::vector<Offered> offers;
     const QVector<int> rows = m_top->selectedVisibleRows();
@@ -101,7 +101,7 @@ std::vector<RowTransfer::Offered> RowTransfer::selectedOffers() const
     return offers;
 }
 
-void RowTransfer::reportAdded(const std::vector<Offered> &offers)
+void RowMover::reportAdded(const std::vector<Offered> &offers)
 {
     const int fills = m_top->fillCount();
     for (const Offered &offer : offers) {
@@ -113,32 +113,32 @@ void RowTransfer::reportAdded(const std::vector<Offered> &offers)
     }
 }
 
-void RowTransfer::reportAdded(const QString &name)
+void RowMover::reportAdded(const QString &name)
 {
     if (QTableWidgetItem *item = m_top->findByName(name))
         m_dialog->addButtonClickedCB(item);
 }
 
-void RowTransfer::removeSelected()
+void RowMover::removeSelected()
 {
     remove(m_chosen->selectedVisibleRows());
 }
 
-void RowTransfer::removeAll()
+void RowMover::removeAll()
 {
     QVector<int> rows(m_chosen->rowCount());
     std::iota(rows.begin(), rows.end(), 0);
     remove(rows);
 }
 
-void RowTransfer::remove(const QVector<int> &rows)
+void RowMover::remove(const QVector<int> &rows)
 {
     finishEditing();
     if (rows.isEmpty())
         return;
     m_isRemoving = true;
     {
-        const TopTable::Pass pass(m_top);
+        const AvailableTable::Pass pass(m_top);
         for (int row : rows)
             m_dialog->removeButtonClickedCB(m_chosen->rowItem(row));
     }
@@ -148,10 +148,10 @@ void RowTransfer::remove(const QVector<int> &rows)
     const int below = rows.last() - static_cast<int>(rows.size()) + 1;
     m_chosen->makeRowCurrent(std::min(below, m_chosen->rowCount() - 1));
     m_isRemoving = false;
-    Q_EMIT transferred();
+    Q_EMIT rowsMoved();
 }
 
-void RowTransfer::undoRemoval()
+void RowMover::undoRemoval()
 {
     finishEditing();
     if (!canUndoRemoval())
@@ -168,15 +168,15 @@ void RowTransfer::undoRemoval()
     rememberValues(rows);
     m_chosen->restoreRows(std::move(rows));
     {
-        const TopTable::Pass pass(m_top);
+        const AvailableTable::Pass pass(m_top);
         for (const QTableWidgetItem *value : values)
             reportAdded(nameOf(*value));
     }
     m_chosen->selectItems(values);
-    Q_EMIT transferred();
+    Q_EMIT rowsMoved();
 }
 
-bool RowTransfer::addCopyOf(const QTableWidgetItem &item)
+bool RowMover::addCopyOf(const QTableWidgetItem &item)
 {
     const QString name = nameOf(item);
     const bool isAttribute = !name.isEmpty() && item.data(DmlAttrDefRole).value<void *>();
@@ -187,17 +187,17 @@ bool RowTransfer::addCopyOf(const QTableWidgetItem &item)
     copies.push_back(copyOf(item));
     append(std::move(copies));
     reportAdded(name);
-    Q_EMIT transferred();
+    Q_EMIT rowsMoved();
     return true;
 }
 
-void RowTransfer::append(std::vector<ChosenTable::Row> rows)
+void RowMover::append(std::vector<ChosenTable::Row> rows)
 {
     rememberValues(rows);
     m_chosen->appendRows(std::move(rows));
 }
 
-void RowTransfer::rememberValues(const std::vector<ChosenTable::Row> &rows)
+void RowMover::rememberValues(const std::vector<ChosenTable::Row> &rows)
 {
     for (const ChosenTable::Row &row : rows) {
         if (!isCondition(*row.value))
@@ -206,7 +206,7 @@ void RowTransfer::rememberValues(const std::vector<ChosenTable::Row> &rows)
 }
 
 /// A dialog has items of one kind, and any row of either table shows which. Without a row, each kind is accepted.
-bool RowTransfer::isOfDialogsKind(const QTableWidgetItem &item) const
+bool RowMover::isOfDialogsKind(const QTableWidgetItem &item) const
 {
     const QTableWidgetItem *chosen = m_chosen->rowItem(0);
     const QTableWidgetItem *known = chosen ? chosen : m_top->rowItem(0);
@@ -215,7 +215,7 @@ bool RowTransfer::isOfDialogsKind(const QTableWidgetItem &item) const
 
 /// The value items of the chosen rows by attribute; empty in a dialog of conditions. A dialog has rows of one kind, and
 /// the first says which.
-QHash<QString, QTableWidgetItem *> RowTransfer::valuesByName() const
+QHash<QString, QTableWidgetItem *> RowMover::valuesByName() const
 {
     QHash<QString, QTableWidgetItem *> values;
     const QTableWidgetItem *first = m_chosen->rowItem(0);

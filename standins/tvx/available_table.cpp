@@ -1,4 +1,4 @@
-#include "tvx/top_table.h"
+#include "tvx/available_table.h"
 
 #include "gdm/items/attr_roles.h"
 #include "tvx/match_highlight_delegate.h"
@@ -22,7 +22,7 @@ constexpr int WidthSample = 64;
 
 } // namespace
 
-TopTable::Pass::Pass(TopTable *table)
+AvailableTable::Pass::Pass(AvailableTable *table)
     : m_table(table)
 {
     if (m_table->m_passes++ > 0)
@@ -32,7 +32,7 @@ TopTable::Pass::Pass(TopTable *table)
     m_table->rememberAnnounced();
 }
 
-TopTable::Pass::~Pass()
+AvailableTable::Pass::~Pass()
 {
     if (--m_table->m_passes > 0)
         return;
@@ -43,17 +43,17 @@ TopTable::Pass::~Pass()
     m_table->announceCurrentRow();
 }
 
-TopTable::TopTable(QWidget *parent)
+AvailableTable::AvailableTable(QWidget *parent)
     : AttributeTable(parent)
     , m_delegate(new MatchHighlightDelegate(this))
 {
     setItemDelegate(m_delegate);
-    connect(this, &QTableWidget::doubleClicked, this, &TopTable::rowsActivated);
+    connect(this, &QTableWidget::doubleClicked, this, &AvailableTable::rowsActivated);
     m_announcement.setSingleShot(true);
-    connect(&m_announcement, &QTimer::timeout, this, &TopTable::rowsHiddenOrShown);
+    connect(&m_announcement, &QTimer::timeout, this, &AvailableTable::rowsHiddenOrShown);
 }
 
-void TopTable::fill(const QList<QTableWidgetItem *> &items)
+void AvailableTable::fill(const QList<QTableWidgetItem *> &items)
 {
     const QTableWidgetItem *current = rowItem(currentRow());
     const QString name = current ? current->data(DmlAttrNameRole).toString() : QString();
@@ -78,7 +78,7 @@ void TopTable::fill(const QList<QTableWidgetItem *> &items)
         verticalScrollBar()->setValue(scrolled);
 }
 
-void TopTable::placeClones(const QList<QTableWidgetItem *> &items)
+void AvailableTable::placeClones(const QList<QTableWidgetItem *> &items)
 {
     setRowCount(static_cast<int>(items.size()));
     const SilentChange change(this);
@@ -92,7 +92,7 @@ void TopTable::placeClones(const QList<QTableWidgetItem *> &items)
     forgetRowNumbers();
 }
 
-void TopTable::setRowVisible(int row, bool visible)
+void AvailableTable::setRowVisible(int row, bool visible)
 {
     if (row < 0 || row >= m_items.size())
         return;
@@ -110,39 +110,39 @@ void TopTable::setRowVisible(int row, bool visible)
         m_firstVisibleBound = std::min(m_firstVisibleBound, row);
 }
 
-int TopTable::firstVisibleRow()
+int AvailableTable::firstVisibleRow()
 {
     const int row = nextVisibleRow(m_firstVisibleBound, 1);
     m_firstVisibleBound = row < 0 ? rowCount() : row;
     return row;
 }
 
-void TopTable::makeFirstVisibleRowCurrent()
+void AvailableTable::makeFirstVisibleRowCurrent()
 {
     requestRow(firstVisibleRow());
 }
 
-void TopTable::makeItemCurrent(const QTableWidgetItem *item)
+void AvailableTable::makeItemCurrent(const QTableWidgetItem *item)
 {
     if (item && item->tableWidget() == this)
         requestRow(item->row());
 }
 
-void TopTable::requestRow(int row)
+void AvailableTable::requestRow(int row)
 {
     // In a pass, the view would look up the position of each row that becomes current, a pass over the rows by itself.
     const QSignalBlocker blocker(m_passes > 0 ? selectionModel() : nullptr);
     makeRowCurrent(row);
 }
 
-void TopTable::rememberAnnounced()
+void AvailableTable::rememberAnnounced()
 {
     m_announcedCurrent = currentIndex();
     m_announcedSelection = selectionModel()->selection();
 }
 
 /// Restores without a signal what was current and selected before the pass, and then sets what is so now with signals.
-void TopTable::announceCurrentRow()
+void AvailableTable::announceCurrentRow()
 {
     const QModelIndex current = currentIndex();
     const QItemSelection selection = selectionModel()->selection();
@@ -159,7 +159,7 @@ void TopTable::announceCurrentRow()
     set(current, selection);
 }
 
-QTableWidgetItem *TopTable::findByName(const QString &name)
+QTableWidgetItem *AvailableTable::findByName(const QString &name)
 {
     if (!m_namesKnown) {
         m_rowOfName.reserve(rowCount());
@@ -170,13 +170,13 @@ QTableWidgetItem *TopTable::findByName(const QString &name)
     return rowItem(m_rowOfName.value(name, -1));
 }
 
-void TopTable::setHighlightedText(const QString &text)
+void AvailableTable::setHighlightedText(const QString &text)
 {
     m_delegate->setSearchedText(text);
     viewport()->update();
 }
 
-int TopTable::wantedNameWidth() const
+int AvailableTable::wantedNameWidth() const
 {
     QString longest;
     const int step = std::max(1, rowCount() / WidthSample);
@@ -188,7 +188,7 @@ int TopTable::wantedNameWidth() const
     return fontMetrics().horizontalAdvance(longest) + 2 * fontMetrics().height();
 }
 
-void TopTable::keyPressEvent(QKeyEvent *event)
+void AvailableTable::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
         AttributeTable::keyPressEvent(event);
@@ -197,7 +197,7 @@ void TopTable::keyPressEvent(QKeyEvent *event)
 }
 
 /// The view takes two clicks of any button for a double-click.
-void TopTable::mouseDoubleClickEvent(QMouseEvent *event)
+void AvailableTable::mouseDoubleClickEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton)
         AttributeTable::mouseDoubleClickEvent(event);
@@ -205,18 +205,18 @@ void TopTable::mouseDoubleClickEvent(QMouseEvent *event)
         mousePressEvent(event);
 }
 
-void TopTable::rowsReordered()
+void AvailableTable::rowsReordered()
 {
     m_items = rowItems(false);
     forgetRowNumbers();
 }
 
-QList<QTableWidgetItem *> TopTable::allItems() const
+QList<QTableWidgetItem *> AvailableTable::allItems() const
 {
     return m_items;
 }
 
-void TopTable::forgetRowNumbers()
+void AvailableTable::forgetRowNumbers()
 {
     m_rowOfName.clear();
     m_namesKnown = false;

@@ -1,5 +1,5 @@
-#ifndef TVX_TOP_TABLE_H
-#define TVX_TOP_TABLE_H
+#ifndef TVX_AVAILABLE_TABLE_H
+#define TVX_AVAILABLE_TABLE_H
 
 #include "tvx/attribute_table.h"
 
@@ -16,7 +16,7 @@ namespace tvx
 class MatchHighlightDelegate;
 
 /// The attributes on offer. Rows come all at once, by fill(), and are then only hidden and shown.
-class TopTable : public AttributeTable
+class AvailableTable : public AttributeTable
 {
     Q_OBJECT
 
@@ -26,15 +26,15 @@ public:
     class Pass
     {
     public:
-        explicit Pass(TopTable *table);
+        explicit Pass(AvailableTable *table);
         ~Pass();
 
     private:
         Q_DISABLE_COPY(Pass)
-        TopTable *m_table;
+        AvailableTable *m_table;
     };
 
-    explicit TopTable(QWidget *parent);
+    explicit AvailableTable(QWidget *parent);
 
     /// Replaces the rows by two clones of each item, all visible. The current attribute stays current where
     /// it is among them, without scrolling; else the first row is.

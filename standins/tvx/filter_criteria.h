@@ -1,5 +1,5 @@
-#ifndef TVX_OFFER_CHOICE_H
-#define TVX_OFFER_CHOICE_H
+#ifndef TVX_FILTER_CRITERIA_H
+#define TVX_FILTER_CRITERIA_H
 
 #include <QStringList>
 
@@ -19,12 +19,12 @@ class SelectionWidgets;
 
 /// What the user has chosen to be offered: entity, group and filter text. It also knows whether the last fill
 /// of the top view left rows out that the present choice may want back.
-class OfferChoice
+class FilterCriteria
 {
 public:
     /// `did` is the dictionary; -1 leaves it to the selected entity row. The widgets stay the dialog's.
-    OfferChoice(int did, const SelectionWidgets &widgets);
-    ~OfferChoice();
+    FilterCriteria(int did, const SelectionWidgets &widgets);
+    ~FilterCriteria();
 
     /// Shows the rows, takes the objects over and selects the last row. No change is signalled.
     void setEntities(const QList<TvxDataItem *> &items);
@@ -45,10 +45,10 @@ public:
     /// True if the fill that was due last has not come: the rows, if any, are those of before.
     bool isFillMissing() const { return m_fillMissing; }
     /// True if a fill is missing, or the choice was narrowed at the last fill and has changed since.
-    bool wantsRefill() const;
+    bool needsRefill() const;
 
 private:
-    Q_DISABLE_COPY(OfferChoice)
+    Q_DISABLE_COPY(FilterCriteria)
 
     struct State {
         int dictionary;
