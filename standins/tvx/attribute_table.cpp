@@ -1,17 +1,16 @@
 #include "tvx/attribute_table.h"
 
 #include "gdm/items/attr_roles.h"
+#include "tvx/elided_cell_tip.h"
+#include "tvx/name_column_width.h"
+#include "tvx/row_drag.h"
+#include "tvx/row_sorter.h"
 
 #include <QApplication>
 #include <QClipboard>
-#include <QDrag>
-#include <QDropEvent>
 #include <QHeaderView>
-#include <QHelpEvent>
+#include <QKeyEvent>
 #include <QLocale>
-#include <QMimeData>
-#include <QPainter>
-#include <QToolTip>
 
 #include <algorithm>
 
@@ -33,26 +32,14 @@ QLocale plainNumbers()
     return locale;
 }
 
-QByteArray windowMark(const QWidget *widget)
-{
-    return QByteArray::number(reinterpret_cast<quintptr>(widget->window()));
-}
-
 } // namespace
-
-AttributeTable::SilentChange::SilentChange(AttributeTable *table)
-    : m_table(table)
-    , m_blocker(table->model())
-{
-}
-
-AttributeTable::SilentChange::~SilentChange()
-{
-    m_table->viewport()->update();
-}
 
 AttributeTable::AttributeTable(QWidget *parent)
     : QTableWidget(0, ColumnCount, parent)
+    , m_emptyText(this)
+    , m_nameColumnWidth(new NameColumnWidth(this))
+    , m_sorter(new RowSorter(this))
+    , m_drag(new RowDrag(this))
 {
     setLocale(plainNumbers());
     setSelectionBehavior(SelectRows);
@@ -66,6 +53,8 @@ AttributeTable::AttributeTable(QWidget *parent)
     setAcceptDrops(true);
     setDropIndicatorShown(false);
     setUpHeaders();
+    new ElidedCellTip(this);
+    connect(m_drag, &RowDrag::rowsDropped, this, &AttributeTable::rowsDropped);
 }
 
 void AttributeTable::setUpHeaders()
@@ -73,49 +62,23 @@ void AttributeTable::setUpHeaders()
     verticalHeader()->hide();
     verticalHeader()->setMinimumSectionSize(1);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    fixRowHeight();
+    updateRowHeight();
 
     QHeaderView *header = horizontalHeader();
     header->setHighlightSections(false);
     header->setSectionsClickable(true);
     header->setStretchLastSection(true);
     alignHeader();
-    // The view selects a whole column at a press on its header; here the press sorts.
+    // The view would select a whole column at a press on its header, which sorts here.
     disconnect(header, &QHeaderView::sectionPressed, this, nullptr);
     disconnect(header, &QHeaderView::sectionEntered, this, nullptr);
-    connect(header, &QHeaderView::sectionClicked, this, &AttributeTable::sortByClick);
-    connect(header, &QHeaderView::sectionResized, this, [this](int column, int, int width) {
-        if (column != NameColumn || m_applyingWidth)
-            return;
-        setNameWidth(boundedNameWidth(width));
-        Q_EMIT nameWidthChanged(m_nameWidth);
-    });
 }
 
-/// The header itself takes no notice of the direction of the layout.
+/// QHeaderView does not mirror its default alignment.
 void AttributeTable::alignHeader()
 {
     horizontalHeader()->setDefaultAlignment(
         QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter));
-}
-
-void AttributeTable::setEmptyText(const QString &text)
-{
-    if (text == m_emptyText)
-        return;
-    m_emptyText = text;
-    viewport()->update();
-}
-
-QString AttributeTable::shownEmptyText() const
-{
-    return visibleRowCount() > 0 ? QString() : m_emptyText;
-}
-
-void AttributeTable::setDragTypes(const QString &own, const QString &accepted)
-{
-    m_ownDragType = own;
-    m_acceptedDragType = accepted;
 }
 
 int AttributeTable::visibleRowCount() const
@@ -173,44 +136,10 @@ void AttributeTable::makeRowCurrent(int row)
     }
 }
 
-void AttributeTable::setNameWidth(int width)
-{
-    m_nameWidth = width;
-    applyNameWidth();
-}
-
-void AttributeTable::setMinimumValueWidth(int width)
-{
-    m_minimumValueWidth = width;
-    applyNameWidth();
-}
-
-void AttributeTable::setEditorWidth(int width)
-{
-    m_editorWidth = width;
-    applyNameWidth();
-}
-
-int AttributeTable::boundedNameWidth(int width) const
-{
-    // Not the viewport's, so that a scroll bar of one table leaves the columns of both in one line.
-    const int available = this->width();
-    const int left = available - std::max(m_minimumValueWidth, m_editorWidth);
-    const int narrowest = available / 4;
-    return std::clamp(width, narrowest, std::max(narrowest, std::min(available * 6 / 10, left)));
-}
-
-void AttributeTable::applyNameWidth()
-{
-    m_applyingWidth = true;
-    horizontalHeader()->resizeSection(NameColumn, boundedNameWidth(m_nameWidth));
-    m_applyingWidth = false;
-}
-
 QSize AttributeTable::sizeForRows(int rows) const
 {
-    // A splitter asks dozens of times while a dialog opens, and Qt's own hints measure the header and the scroll bars
-    // each time. The header is about as high as a row.
+    // A splitter asks dozens of times while a dialog opens, and the hints of QTableView measure the header and the
+    // scroll bars each time. The header is about as high as a row.
     return QSize(MinimumCharacters * fontMetrics().averageCharWidth(),
                  (rows + 1) * verticalHeader()->defaultSectionSize() + 2 * frameWidth());
 }
@@ -227,24 +156,9 @@ QSize AttributeTable::sizeHint() const
 
 void AttributeTable::keyboardSearch(const QString &search)
 {
-    const bool goesOn =
-        m_sinceTyped.isValid() && !m_sinceTyped.hasExpired(QApplication::keyboardInputInterval());
-    m_sinceTyped.start();
-    m_typed = goesOn ? m_typed + search : search;
-    // One letter again and again walks the rows; a text that grows may stay on the present one.
-    const bool walks =
-        !m_typed.isEmpty() && m_typed.count(m_typed.at(0), Qt::CaseInsensitive) == m_typed.size();
-    const QString text = walks ? m_typed.left(1) : m_typed;
-    const int rows = rowCount();
-    const int start = std::max(currentRow() + (walks ? 1 : 0), 0);
-    for (int step = 0; step < rows; ++step) {
-        const int row = (start + step) % rows;
-        const QTableWidgetItem *label = isRowHidden(row) ? nullptr : item(row, NameColumn);
-        if (label && label->text().startsWith(text, Qt::CaseInsensitive)) {
-            makeRowCurrent(row);
-            return;
-        }
-    }
+    const int row = m_typeAhead.rowFor(search, *this);
+    if (row >= 0)
+        makeRowCurrent(row);
 }
 
 int AttributeTable::nextVisibleRow(int row, int step) const
@@ -254,15 +168,15 @@ int AttributeTable::nextVisibleRow(int row, int step) const
     return row < rowCount() ? row : -1;
 }
 
-void AttributeTable::fixRowHeight()
+void AttributeTable::updateRowHeight()
 {
-    // Without a row there is nobody to ask, and Qt's own height is far from that of a row to come.
+    // Without a row there is no size hint, and the style's default height differs much from that of a later row.
     const int height = rowCount() > 0 ? sizeHintForRow(0) : fontMetrics().height() + DelegateMargin;
     if (height <= 0)
         return;
     QHeaderView *header = verticalHeader();
     header->setDefaultSectionSize(height);
-    // Passed over by that, a hidden row would come back as high as it was.
+    // The call above skips hidden rows, which would keep their old height when shown.
     for (int row = 0; header->sectionsHidden() && row < rowCount(); ++row) {
         if (isRowHidden(row))
             header->resizeSection(row, height);
@@ -281,110 +195,11 @@ void AttributeTable::setRowShown(int row, bool shown)
         header->setUpdatesEnabled(true);
 }
 
-void AttributeTable::renewPlaces(int first)
-{
-    const SilentChange change(this);
-    for (int row = first; row < rowCount(); ++row) {
-        setItem(row, NameColumn, takeItem(row, NameColumn));
-        setItem(row, ValueColumn, takeItem(row, ValueColumn));
-    }
-}
-
-void AttributeTable::sortByClick(int column)
-{
-    m_order.advance(column);
-    horizontalHeader()->setSortIndicatorShown(m_order.isSorted());
-    if (m_order.isSorted())
-        horizontalHeader()->setSortIndicator(column, m_order.direction());
-    reorder();
-    if (currentItem())
-        scrollToItem(currentItem());
-}
-
-void AttributeTable::restoreOrder()
-{
-    if (m_order.isSorted())
-        reorder();
-}
-
-void AttributeTable::reorder()
-{
-    const int column = m_order.column();
-    placeRows(m_order.arrange(rowCount(), [this, column](int row) {
-        const QTableWidgetItem *cell = item(row, column);
-        return cell ? cell->text() : QString();
-    }));
-    rowsReordered();
-}
-
-/// Puts the rows into the given order. Hidden and selected belong to a row's number, so they are carried
-/// along.
-void AttributeTable::placeRows(const QVector<int> &order)
-{
-    struct Row {
-        QTableWidgetItem *items[ColumnCount];
-        bool hidden;
-        bool selected;
-    };
-    const int current = currentRow();
-    QVector<Row> rows;
-    rows.reserve(order.size());
-    for (int row : order) {
-        rows.append({{item(row, NameColumn), item(row, ValueColumn)},
-                     isRowHidden(row),
-                     selectionModel()->isRowSelected(row, QModelIndex())});
-    }
-
-    const SilentChange change(this);
-    for (int row = 0; row < rowCount(); ++row) {
-        takeItem(row, NameColumn);
-        takeItem(row, ValueColumn);
-    }
-    QItemSelection selection;
-    for (int row = 0; row < rows.size(); ++row) {
-        setItem(row, NameColumn, rows[row].items[NameColumn]);
-        setItem(row, ValueColumn, rows[row].items[ValueColumn]);
-        setRowShown(row, !rows[row].hidden);
-        if (rows[row].selected)
-            selection.select(model()->index(row, NameColumn), model()->index(row, ValueColumn));
-    }
-    if (current >= 0) {
-        const int place = static_cast<int>(order.indexOf(current));
-        selectionModel()->setCurrentIndex(model()->index(place, NameColumn), QItemSelectionModel::NoUpdate);
-    }
-    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
-}
-
-bool AttributeTable::viewportEvent(QEvent *event)
-{
-    if (event->type() == QEvent::ToolTip) {
-        const auto *help = static_cast<QHelpEvent *>(event);
-        if (showElidedText(help->pos(), help->globalPos()))
-            return true;
-    }
-    return QTableWidget::viewportEvent(event);
-}
-
-/// A cell that is cut off shows its whole text above what the item has to say.
-bool AttributeTable::showElidedText(const QPoint &position, const QPoint &globalPosition)
-{
-    const QTableWidgetItem *cell = itemAt(position);
-    if (!cell)
-        return false;
-    const QString text = cell->text();
-    const int margin = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1);
-    if (fontMetrics().horizontalAdvance(text) + margin <= visualItemRect(cell).width())
-        return false;
-    const QString tip = cell->toolTip();
-    QToolTip::showText(globalPosition, tip.isEmpty() ? text : text + QLatin1Char('\n') + tip, viewport());
-    return true;
-}
-
 void AttributeTable::changeEvent(QEvent *event)
 {
     QTableWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
-        fixRowHeight();
+        updateRowHeight();
     else if (event->type() == QEvent::LayoutDirectionChange)
         alignHeader();
 }
@@ -395,7 +210,7 @@ void AttributeTable::keyPressEvent(QKeyEvent *event)
     if (event->matches(QKeySequence::Copy)) {
         copySelectedRows();
     } else if (plain && (event->key() == Qt::Key_Home || event->key() == Qt::Key_End)) {
-        // By rows, these two lead to the first and the last row and not to the ends of the present one.
+        // The view would move to the first and last cell of the current row.
         makeRowCurrent(event->key() == Qt::Key_Home ? nextVisibleRow(0, 1)
                                                     : nextVisibleRow(rowCount() - 1, -1));
     } else {
@@ -427,62 +242,19 @@ QString AttributeTable::copyLine(int row) const
 void AttributeTable::paintEvent(QPaintEvent *event)
 {
     QTableWidget::paintEvent(event);
-    const QString text = shownEmptyText();
-    if (text.isEmpty())
-        return;
-    QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::PlaceholderText));
-    const int margin = fontMetrics().height();
-    painter.drawText(viewport()->rect().adjusted(margin, 0, -margin, 0), Qt::AlignCenter | Qt::TextWordWrap,
-                     text);
+    m_emptyText.paint();
 }
 
 void AttributeTable::resizeEvent(QResizeEvent *event)
 {
     QTableWidget::resizeEvent(event);
-    applyNameWidth();
+    m_nameColumnWidth->apply();
 }
 
 void AttributeTable::startDrag(Qt::DropActions)
 {
-    if (!hasVisibleSelection())
-        return;
-    auto *data = new QMimeData;
-    data->setData(m_ownDragType, windowMark(this));
-    auto *drag = new QDrag(this);
-    drag->setMimeData(data);
-    drag->exec(Qt::CopyAction);
-}
-
-bool AttributeTable::takes(const QDropEvent *event) const
-{
-    return event->mimeData()->data(m_acceptedDragType) == windowMark(this);
-}
-
-void AttributeTable::dragEnterEvent(QDragEnterEvent *event)
-{
-    dragMoveEvent(event);
-}
-
-void AttributeTable::dragMoveEvent(QDragMoveEvent *event)
-{
-    if (takes(event)) {
-        event->setDropAction(Qt::CopyAction);
-        event->accept();
-    } else {
-        event->ignore();
-    }
-}
-
-void AttributeTable::dropEvent(QDropEvent *event)
-{
-    if (!takes(event)) {
-        event->ignore();
-        return;
-    }
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
-    Q_EMIT rowsDropped();
+    if (hasVisibleSelection())
+        m_drag->start();
 }
 
 } // namespace tvx

@@ -2,10 +2,12 @@
 
 #include "gdm/items/attr_roles.h"
 #include "tvx/match_highlight_delegate.h"
+#include "tvx/row_sorter.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScrollBar>
+#include <QSignalBlocker>
 
 #include <algorithm>
 #include <utility>
@@ -48,6 +50,7 @@ AvailableTable::AvailableTable(QWidget *parent)
     , m_delegate(new MatchHighlightDelegate(this))
 {
     setItemDelegate(m_delegate);
+    connect(sorter(), &RowSorter::sorted, this, &AvailableTable::rereadRows);
     connect(this, &QTableWidget::doubleClicked, this, &AvailableTable::rowsActivated);
     m_announcement.setSingleShot(true);
     connect(&m_announcement, &QTimer::timeout, this, &AvailableTable::rowsHiddenOrShown);
@@ -63,10 +66,10 @@ void AvailableTable::fill(const QList<QTableWidgetItem *> &items)
     ++m_fills;
     // Rows that are used again would stay hidden.
     setRowCount(0);
-    rowOrder().rowsReplaced();
-    placeClones(items);
-    fixRowHeight();
-    restoreOrder();
+    sorter()->order().rowsReplaced();
+    insertClones(items);
+    updateRowHeight();
+    sorter()->sortIfByColumn();
 
     const QTableWidgetItem *found = name.isNull() ? nullptr : findByName(name);
     const bool autoScroll = hasAutoScroll();
@@ -78,10 +81,10 @@ void AvailableTable::fill(const QList<QTableWidgetItem *> &items)
         verticalScrollBar()->setValue(scrolled);
 }
 
-void AvailableTable::placeClones(const QList<QTableWidgetItem *> &items)
+void AvailableTable::insertClones(const QList<QTableWidgetItem *> &items)
 {
     setRowCount(static_cast<int>(items.size()));
-    const SilentChange change(this);
+    const QSignalBlocker blocker(model());
     int row = 0;
     m_items.clear();
     for (const QTableWidgetItem *item : items) {
@@ -90,6 +93,7 @@ void AvailableTable::placeClones(const QList<QTableWidgetItem *> &items)
         setItem(row++, ValueColumn, m_items.constLast());
     }
     forgetRowNumbers();
+    viewport()->update();
 }
 
 void AvailableTable::setRowVisible(int row, bool visible)
@@ -205,7 +209,7 @@ void AvailableTable::mouseDoubleClickEvent(QMouseEvent *event)
         mousePressEvent(event);
 }
 
-void AvailableTable::rowsReordered()
+void AvailableTable::rereadRows()
 {
     m_items = rowItems(false);
     forgetRowNumbers();

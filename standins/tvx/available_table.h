@@ -65,10 +65,10 @@ Q_SIGNALS:
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
-    void rowsReordered() override;
 
 private:
-    void placeClones(const QList<QTableWidgetItem *> &items);
+    void insertClones(const QList<QTableWidgetItem *> &items);
+    void rereadRows();
     void forgetRowNumbers();
     int firstVisibleRow();
     void requestRow(int row);

@@ -3,13 +3,16 @@
 #include "tvx/cell_editor_filter.h"
 #include "tvx/editor_content.h"
 #include "tvx/editor_note.h"
+#include "tvx/name_column_width.h"
 #include "tvx/number_entry.h"
+#include "tvx/row_sorter.h"
 #include "tvx/text_choices.h"
 
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QSignalBlocker>
 
 #include <algorithm>
 #include <utility>
@@ -18,6 +21,22 @@ namespace Zudunmaf
 {
 namespace tvx
 {
+
+namespace
+{
+
+/// Inserts the items from this row on again. QTableWidgetItem caches its index, and after rows above it have come or
+/// gone, each call of column() would search the table for the item.
+void refreshItemPositions(QTableWidget *table, int firstRow)
+{
+    const QSignalBlocker blocker(table->model());
+    for (int row = firstRow; row < table->rowCount(); ++row) {
+        for (int column = 0; column < table->columnCount(); ++column)
+            table->setItem(row, column, table->takeItem(row, column));
+    }
+}
+
+} // namespace
 
 ChosenTable::ChosenTable(QWidget *parent)
     : AttributeTable(parent)
@@ -37,7 +56,7 @@ ChosenTable::~ChosenTable()
 void ChosenTable::appendRows(std::vector<Row> rows)
 {
     putBehind(std::move(rows));
-    restoreOrder();
+    sorter()->sortIfByColumn();
 }
 
 void ChosenTable::restoreRows(std::vector<Row> rows)
@@ -47,8 +66,8 @@ void ChosenTable::restoreRows(std::vector<Row> rows)
     for (const Row &row : rows)
         places.append(row.place);
     putBehind(std::move(rows));
-    rowOrder().rowsReturned(rowCount(), places);
-    reorder();
+    sorter()->order().rowsReturned(rowCount(), places);
+    sorter()->sort();
 }
 
 void ChosenTable::putBehind(std::vector<Row> rows)
@@ -56,23 +75,24 @@ void ChosenTable::putBehind(std::vector<Row> rows)
     const int first = rowCount();
     model()->insertRows(first, static_cast<int>(rows.size()));
     {
-        const SilentChange change(this);
+        const QSignalBlocker blocker(model());
         int place = first;
         for (Row &row : rows) {
             setItem(place, NameColumn, row.name.release());
             setItem(place++, ValueColumn, row.value.release());
         }
     }
+    viewport()->update();
     if (first == 0)
-        fixRowHeight();
+        updateRowHeight();
 }
 
 std::vector<ChosenTable::Row> ChosenTable::takeRows(const QVector<int> &rows)
 {
-    const QVector<int> places = rowOrder().placesOf(rows);
+    const QVector<int> places = sorter()->order().placesOf(rows);
     std::vector<Row> taken(rows.size());
     {
-        const SilentChange change(this);
+        const QSignalBlocker blocker(model());
         for (int i = 0; i < rows.size(); ++i) {
             Row &row = taken[static_cast<std::size_t>(i)];
             row.name.reset(takeItem(rows[i], NameColumn));
@@ -80,7 +100,7 @@ std::vector<ChosenTable::Row> ChosenTable::takeRows(const QVector<int> &rows)
             row.place = places[i];
         }
     }
-    rowOrder().rowsRemoved(rows);
+    sorter()->order().rowsRemoved(rows);
     // From the end, and neighbours together: each removal moves all rows below it.
     for (auto last = rows.size() - 1; last >= 0;) {
         auto first = last;
@@ -90,8 +110,9 @@ std::vector<ChosenTable::Row> ChosenTable::takeRows(const QVector<int> &rows)
         last = first - 1;
     }
     if (!rows.isEmpty())
-        renewPlaces(rows.first());
-    if (rowOrder().isSorted())
+        refreshItemPositions(this, rows.first());
+    viewport()->update();
+    if (sorter()->order().isSorted())
         std::sort(taken.begin(), taken.end(), [](const Row &a, const Row &b) { return a.place < b.place; });
     return taken;
 }
@@ -167,7 +188,7 @@ void ChosenTable::prepareEditor(int row)
 /// Two spin boxes with wide limits need more than the column may have.
 void ChosenTable::makeRoomFor(const QWidget *editor)
 {
-    setEditorWidth(editor->minimumSizeHint().width() + width() - viewport()->width());
+    nameColumnWidth()->setEditorWidth(editor->minimumSizeHint().width() + width() - viewport()->width());
     updateEditorGeometries();
 }
 
@@ -317,7 +338,7 @@ void ChosenTable::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHin
         m_filter = nullptr;
         if (m_note)
             m_note->hide();
-        setEditorWidth(0);
+        nameColumnWidth()->setEditorWidth(0);
         // Before the editor is hidden: Qt would give the focus to the first widget of the dialog in between.
         if (hadFocus)
             setFocus();

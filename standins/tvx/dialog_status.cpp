@@ -127,9 +127,10 @@ void DialogStatus::updateTexts() const
 {
     AvailableTable *top = m_widgets.topView;
     ChosenTable *chosen = m_widgets.chosenList;
-    top->setEmptyText(emptyAvailableText());
-    describe(top, top->shownEmptyText());
-    describe(chosen, chosen->lastRefusal().isEmpty() ? chosen->shownEmptyText() : chosen->lastRefusal());
+    top->emptyText().setText(emptyAvailableText());
+    describe(top, top->emptyText().shownText());
+    describe(chosen,
+             chosen->lastRefusal().isEmpty() ? chosen->emptyText().shownText() : chosen->lastRefusal());
 
     setText(m_widgets.description, describedText());
     const QTableWidgetItem *current = chosen->rowItem(chosen->currentRow());

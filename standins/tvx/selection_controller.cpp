@@ -2,6 +2,7 @@
 
 #include "gdm/dialogs/tvx_attributes_selection_dialog.h"
 #include "tvx/available_table.h"
+#include "tvx/name_column_width.h"
 #include "tvx/row_mover.h"
 
 #include <QApplication>
@@ -81,10 +82,7 @@ void SelectionController::connectTables()
     connect(top, &AvailableTable::rowsDropped, m_mover, &RowMover::removeSelected);
     connect(chosen, &ChosenTable::menuRequested, this, &SelectionController::showContextMenu);
 
-    connect(top, &AvailableTable::nameWidthChanged, this,
-            [this, chosen](int width) { followNameWidth(chosen, width); });
-    connect(chosen, &ChosenTable::nameWidthChanged, this,
-            [this, top](int width) { followNameWidth(top, width); });
+    NameColumnWidth::link(top->nameColumnWidth(), chosen->nameColumnWidth());
     connect(top, &AvailableTable::rowsHiddenOrShown, this, &SelectionController::refresh);
     connect(top, &AvailableTable::itemSelectionChanged, this, &SelectionController::refresh);
     connect(top, &AvailableTable::currentItemChanged, this, &SelectionController::refresh);
@@ -130,25 +128,15 @@ void SelectionController::fillTopView(const QList<QTableWidgetItem *> &items)
 {
     m_widgets.topView->fill(items);
     m_criteria.rememberFill();
-    fitNameWidth();
+    fitNameColumns();
     refresh();
 }
 
-/// The columns of the two tables stand in one line.
-void SelectionController::followNameWidth(AttributeTable *table, int width)
+void SelectionController::fitNameColumns()
 {
-    m_nameWidthIsUsers = true;
-    table->setNameWidth(width);
-}
-
-/// As the names want it, until the user has other wishes.
-void SelectionController::fitNameWidth()
-{
-    if (m_nameWidthIsUsers)
-        return;
     const int width = m_widgets.topView->wantedNameWidth();
-    m_widgets.topView->setNameWidth(width);
-    m_widgets.chosenList->setNameWidth(width);
+    m_widgets.topView->nameColumnWidth()->fit(width);
+    m_widgets.chosenList->nameColumnWidth()->fit(width);
 }
 
 void SelectionController::applyCriteria()
@@ -227,7 +215,7 @@ bool SelectionController::eventFilter(QObject *watched, QEvent *event)
         return key == Qt::Key_Return || key == Qt::Key_Enter;
     }
     if (watched == m_dialog && event->type() == QEvent::FontChange) {
-        fitNameWidth();
+        fitNameColumns();
         m_widgets.fitToFont();
         m_widgets.fitToHeight();
     }

@@ -19,7 +19,6 @@ namespace Zudunmaf
 namespace tvx
 {
 
-class AttributeTable;
 class RowMover;
 
 /// All that the base dialog holds and does, behind its declaration. It is the receiver of every connection
@@ -66,8 +65,7 @@ private:
     void rejectDialog();
     void applyCriteria();
     void refill();
-    void fitNameWidth();
-    void followNameWidth(AttributeTable *table, int width);
+    void fitNameColumns();
     void showContextMenu(const QPoint &globalPosition);
     bool filterKey(QKeyEvent *event);
     void refresh();
@@ -80,7 +78,6 @@ private:
     QPointer<QMenu> m_contextMenu;
     int m_displayUnits = -1;
     bool m_isConnected = false;
-    bool m_nameWidthIsUsers = false;
 };
 
 } // namespace tvx

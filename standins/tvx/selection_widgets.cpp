@@ -6,6 +6,7 @@
 #include "tvx/caption.h"
 #include "tvx/choice_list.h"
 #include "tvx/chosen_table.h"
+#include "tvx/name_column_width.h"
 #include "tvx/text_lines.h"
 #include "tvx/tvx_texts.h"
 
@@ -29,8 +30,6 @@ namespace tvx
 namespace
 {
 
-constexpr char OfferedRows[] = "application/x-zudunmaf-offered-rows";
-constexpr char ChosenRows[] = "application/x-zudunmaf-chosen-rows";
 /// The height, in lines of text, from which the description gets a third line.
 constexpr int AmpleHeight = 32;
 
@@ -93,9 +92,7 @@ void SelectionWidgets::createTables(QDialog *dialog)
 {
     topView = named(new AvailableTable(dialog), "topView", texts::Offered);
     chosenList = named(new ChosenTable(dialog), "chosenList", texts::Chosen);
-    topView->setDragTypes(QLatin1String(OfferedRows), QLatin1String(ChosenRows));
-    chosenList->setDragTypes(QLatin1String(ChosenRows), QLatin1String(OfferedRows));
-    chosenList->setEmptyText(textOf(texts::NothingChosen));
+    chosenList->emptyText().setText(textOf(texts::NothingChosen));
 }
 
 void SelectionWidgets::createButtons(QDialog *dialog)
@@ -204,8 +201,8 @@ void SelectionWidgets::fitToFont()
                                 widthOf(keys::FloatRangeFrom) + widthOf(keys::FloatRangeTo));
     const int rangeWidth =
         labels + 2 * metrics.horizontalAdvance(QLatin1String("-2147483648")) + 7 * metrics.height();
-    topView->setMinimumValueWidth(rangeWidth);
-    chosenList->setMinimumValueWidth(rangeWidth);
+    topView->nameColumnWidth()->setMinimumValueWidth(rangeWidth);
+    chosenList->nameColumnWidth()->setMinimumValueWidth(rangeWidth);
 }
 
 void SelectionWidgets::fitToHeight()

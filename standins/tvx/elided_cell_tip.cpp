@@ -1,0 +1,44 @@
+#include "tvx/elided_cell_tip.h"
+
+#include <QHelpEvent>
+#include <QStyle>
+#include <QTableWidget>
+#include <QToolTip>
+
+namespace Zudunmaf
+{
+namespace tvx
+{
+
+ElidedCellTip::ElidedCellTip(QTableWidget *table)
+    : QObject(table)
+    , m_table(table)
+{
+    table->viewport()->installEventFilter(this);
+}
+
+bool ElidedCellTip::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip && showTip(*static_cast<QHelpEvent *>(event)))
+        return true;
+    return QObject::eventFilter(watched, event);
+}
+
+bool ElidedCellTip::showTip(const QHelpEvent &event) const
+{
+    const QTableWidgetItem *cell = m_table->itemAt(event.pos());
+    if (!cell)
+        return false;
+    const QString text = cell->text();
+    const int margin =
+        2 * (m_table->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, m_table) + 1);
+    if (m_table->fontMetrics().horizontalAdvance(text) + margin <= m_table->visualItemRect(cell).width())
+        return false;
+    const QString tip = cell->toolTip();
+    QToolTip::showText(event.globalPos(), tip.isEmpty() ? text : text + QLatin1Char('\n') + tip,
+                       m_table->viewport());
+    return true;
+}
+
+} // namespace tvx
+} // namespace Zudunmaf

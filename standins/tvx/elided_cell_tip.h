@@ -1,0 +1,34 @@
+#ifndef TVX_ELIDED_CELL_TIP_H
+#define TVX_ELIDED_CELL_TIP_H
+
+#include <QObject>
+
+class QHelpEvent;
+class QTableWidget;
+
+namespace Zudunmaf
+{
+namespace tvx
+{
+
+/// Shows the whole text of an elided cell as a tool tip, followed by the tool tip of the item. Owned by the table.
+class ElidedCellTip : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ElidedCellTip(QTableWidget *table);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    bool showTip(const QHelpEvent &event) const;
+
+    QTableWidget *m_table;
+};
+
+} // namespace tvx
+} // namespace Zudunmaf
+
+#endif
