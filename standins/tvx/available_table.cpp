@@ -1,6 +1,7 @@
 #include "tvx/available_table.h"
 
 #include "gdm/items/attr_roles.h"
+#include "tvx/batch_update.h"
 #include "tvx/match_highlight_delegate.h"
 #include "tvx/row_sorter.h"
 
@@ -24,36 +25,37 @@ constexpr int WidthSample = 64;
 
 } // namespace
 
-AvailableTable::Pass::Pass(AvailableTable *table)
-    : m_table(table)
-{
-    if (m_table->m_passes++ > 0)
-        return;
-    m_table->setUpdatesEnabled(false);
-    m_table->verticalHeader()->setUpdatesEnabled(false);
-    m_table->rememberAnnounced();
-}
-
-AvailableTable::Pass::~Pass()
-{
-    if (--m_table->m_passes > 0)
-        return;
-    m_table->verticalHeader()->setUpdatesEnabled(true);
-    if (std::exchange(m_table->m_rowsChanged, false))
-        m_table->updateGeometries();
-    m_table->setUpdatesEnabled(true);
-    m_table->announceCurrentRow();
-}
-
 AvailableTable::AvailableTable(QWidget *parent)
     : AttributeTable(parent)
     , m_delegate(new MatchHighlightDelegate(this))
+    , m_deferredSelection(selectionModel())
 {
     setItemDelegate(m_delegate);
-    connect(sorter(), &RowSorter::sorted, this, &AvailableTable::rereadRows);
+    connect(sorter(), &RowSorter::sorted, this, [this] { m_cache.reset(rowItems(false)); });
     connect(this, &QTableWidget::doubleClicked, this, &AvailableTable::rowsActivated);
-    m_announcement.setSingleShot(true);
-    connect(&m_announcement, &QTimer::timeout, this, &AvailableTable::rowsHiddenOrShown);
+    m_rowsTimer.setSingleShot(true);
+    connect(&m_rowsTimer, &QTimer::timeout, this, &AvailableTable::rowsHiddenOrShown);
+}
+
+void AvailableTable::beginBatchUpdate()
+{
+    if (m_batchUpdates++ > 0)
+        return;
+    setUpdatesEnabled(false);
+    // Otherwise the header looks up a position for each row that is hidden or shown, and a pass takes quadratic time.
+    verticalHeader()->setUpdatesEnabled(false);
+    m_deferredSelection.remember();
+}
+
+void AvailableTable::endBatchUpdate()
+{
+    if (--m_batchUpdates > 0)
+        return;
+    verticalHeader()->setUpdatesEnabled(true);
+    if (std::exchange(m_haveRowsChanged, false))
+        updateGeometries();
+    setUpdatesEnabled(true);
+    m_deferredSelection.emitChanges();
 }
 
 void AvailableTable::fill(const QList<QTableWidgetItem *> &items)
@@ -61,10 +63,10 @@ void AvailableTable::fill(const QList<QTableWidgetItem *> &items)
     const QTableWidgetItem *current = rowItem(currentRow());
     const QString name = current ? current->data(DmlAttrNameRole).toString() : QString();
     const int scrolled = verticalScrollBar()->value();
-    const Pass pass(this);
+    const BatchUpdate batch(this);
 
-    ++m_fills;
-    // Rows that are used again would stay hidden.
+    ++m_fillCount;
+    // Rows that are reused would stay hidden.
     setRowCount(0);
     sorter()->order().rowsReplaced();
     insertClones(items);
@@ -76,7 +78,7 @@ void AvailableTable::fill(const QList<QTableWidgetItem *> &items)
     setAutoScroll(!found);
     makeRowCurrent(found ? found->row() : 0);
     setAutoScroll(autoScroll);
-    rememberAnnounced();
+    m_deferredSelection.remember();
     if (found)
         verticalScrollBar()->setValue(scrolled);
 }
@@ -85,93 +87,52 @@ void AvailableTable::insertClones(const QList<QTableWidgetItem *> &items)
 {
     setRowCount(static_cast<int>(items.size()));
     const QSignalBlocker blocker(model());
+    QList<QTableWidgetItem *> values;
+    values.reserve(items.size());
     int row = 0;
-    m_items.clear();
     for (const QTableWidgetItem *item : items) {
         setItem(row, NameColumn, item->clone());
-        m_items.append(item->clone());
-        setItem(row++, ValueColumn, m_items.constLast());
+        values.append(item->clone());
+        setItem(row++, ValueColumn, values.constLast());
     }
-    forgetRowNumbers();
+    m_cache.reset(values);
     viewport()->update();
 }
 
 void AvailableTable::setRowVisible(int row, bool visible)
 {
-    if (row < 0 || row >= m_items.size())
+    if (row < 0 || row >= rowCount())
         return;
-    if (m_passes > 0) {
-        // Told of each row, the view would keep a list of them, and paint a second time after the end of the pass.
+    if (m_batchUpdates > 0) {
+        // Blocks the header's signals: otherwise the view queues every section and repaints after the batch update.
         const QSignalBlocker blocker(verticalHeader());
         setRowShown(row, visible);
-        m_rowsChanged = true;
+        m_haveRowsChanged = true;
     } else {
         setRowShown(row, visible);
-        if (!m_announcement.isActive())
-            m_announcement.start();
+        if (!m_rowsTimer.isActive())
+            m_rowsTimer.start();
     }
     if (visible)
-        m_firstVisibleBound = std::min(m_firstVisibleBound, row);
-}
-
-int AvailableTable::firstVisibleRow()
-{
-    const int row = nextVisibleRow(m_firstVisibleBound, 1);
-    m_firstVisibleBound = row < 0 ? rowCount() : row;
-    return row;
+        m_cache.rowShown(row);
 }
 
 void AvailableTable::makeFirstVisibleRowCurrent()
 {
-    requestRow(firstVisibleRow());
+    makeCurrent(m_cache.firstVisibleRow(*this));
 }
 
 void AvailableTable::makeItemCurrent(const QTableWidgetItem *item)
 {
     if (item && item->tableWidget() == this)
-        requestRow(item->row());
+        makeCurrent(item->row());
 }
 
-void AvailableTable::requestRow(int row)
+void AvailableTable::makeCurrent(int row)
 {
-    // In a pass, the view would look up the position of each row that becomes current, a pass over the rows by itself.
-    const QSignalBlocker blocker(m_passes > 0 ? selectionModel() : nullptr);
+    // Otherwise the view looks up the position of each row that becomes current, which is a pass over the rows itself.
+    const QSignalBlocker blocker(m_batchUpdates > 0 ? selectionModel() : nullptr);
     makeRowCurrent(row);
-}
-
-void AvailableTable::rememberAnnounced()
-{
-    m_announcedCurrent = currentIndex();
-    m_announcedSelection = selectionModel()->selection();
-}
-
-/// Restores without a signal what was current and selected before the pass, and then sets what is so now with signals.
-void AvailableTable::announceCurrentRow()
-{
-    const QModelIndex current = currentIndex();
-    const QItemSelection selection = selectionModel()->selection();
-    if (current == m_announcedCurrent && selection == m_announcedSelection)
-        return;
-    const auto set = [this](const QModelIndex &index, const QItemSelection &rows) {
-        selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
-        selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect);
-    };
-    {
-        const QSignalBlocker blocker(selectionModel());
-        set(m_announcedCurrent, m_announcedSelection);
-    }
-    set(current, selection);
-}
-
-QTableWidgetItem *AvailableTable::findByName(const QString &name)
-{
-    if (!m_namesKnown) {
-        m_rowOfName.reserve(rowCount());
-        for (int row = rowCount() - 1; row >= 0; --row)
-            m_rowOfName.insert(rowItem(row)->data(DmlAttrNameRole).toString(), row);
-        m_namesKnown = true;
-    }
-    return rowItem(m_rowOfName.value(name, -1));
 }
 
 void AvailableTable::setHighlightedText(const QString &text)
@@ -200,31 +161,13 @@ void AvailableTable::keyPressEvent(QKeyEvent *event)
         Q_EMIT rowsActivated();
 }
 
-/// The view takes two clicks of any button for a double-click.
+/// QAbstractItemView takes two clicks of any button for a double-click.
 void AvailableTable::mouseDoubleClickEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton)
         AttributeTable::mouseDoubleClickEvent(event);
     else
         mousePressEvent(event);
-}
-
-void AvailableTable::rereadRows()
-{
-    m_items = rowItems(false);
-    forgetRowNumbers();
-}
-
-QList<QTableWidgetItem *> AvailableTable::allItems() const
-{
-    return m_items;
-}
-
-void AvailableTable::forgetRowNumbers()
-{
-    m_rowOfName.clear();
-    m_namesKnown = false;
-    m_firstVisibleBound = 0;
 }
 
 } // namespace tvx

@@ -2,10 +2,9 @@
 #define TVX_AVAILABLE_TABLE_H
 
 #include "tvx/attribute_table.h"
+#include "tvx/deferred_selection.h"
+#include "tvx/row_cache.h"
 
-#include <QHash>
-#include <QItemSelection>
-#include <QPersistentModelIndex>
 #include <QTimer>
 
 namespace Zudunmaf
@@ -13,53 +12,45 @@ namespace Zudunmaf
 namespace tvx
 {
 
+class BatchUpdate;
 class MatchHighlightDelegate;
 
-/// The attributes on offer. Rows come all at once, by fill(), and are then only hidden and shown.
+/// The available attributes: the contract's top view. fill() inserts all rows at once; after that, rows are only hidden,
+/// shown and sorted. Does not decide which rows are visible.
 class AvailableTable : public AttributeTable
 {
     Q_OBJECT
 
 public:
-    /// Brackets anything that hides, shows or makes current many rows: until the outermost one ends, nothing is painted,
-    /// and nothing is signalled of the rows that become current; at the end, the last of them is.
-    class Pass
-    {
-    public:
-        explicit Pass(AvailableTable *table);
-        ~Pass();
-
-    private:
-        Q_DISABLE_COPY(Pass)
-        AvailableTable *m_table;
-    };
-
     explicit AvailableTable(QWidget *parent);
 
-    /// Replaces the rows by two clones of each item, all visible. The current attribute stays current where
-    /// it is among them, without scrolling; else the first row is.
+    /// Replaces the rows by two clones of each item, all visible. The current attribute stays current, without scrolling,
+    /// if it is among them; else the first row becomes current.
     void fill(const QList<QTableWidgetItem *> &items);
-    /// How often fill() was called: an item that was asked for before the last time is gone.
-    int fillCount() const { return m_fills; }
-    /// The items that stand for the rows, hidden ones too, in row order.
-    QList<QTableWidgetItem *> allItems() const;
-    /// Shows or hides a row; out of range, nothing happens.
+    /// Returns how often fill() was called. Each call deletes the items of the table.
+    int fillCount() const { return m_fillCount; }
+    /// Returns the value items of all rows, hidden ones included, in row order.
+    QList<QTableWidgetItem *> allItems() const { return m_cache.items(); }
+    /// Returns the value item of the attribute with this internal name, the first of several; null if there is none.
+    QTableWidgetItem *findByName(const QString &name) { return m_cache.findByName(name); }
+
+    /// Hides or shows a row. Does nothing if it is out of range.
     void setRowVisible(int row, bool visible);
-    /// Makes the first visible row current and the only one selected; without one, no row is. Takes effect at once.
+    /// Makes the first visible row current and the only selected one; without a visible row, none is. Takes effect at
+    /// once, while a batch update defers the signals.
     void makeFirstVisibleRowCurrent();
-    /// The same for the row of an item of this table; does nothing for any other item.
+    /// Does the same for the row of an item. Does nothing if the item is not in this table.
     void makeItemCurrent(const QTableWidgetItem *item);
-    /// The item of the row with this internal name, the first of several; null if there is none.
-    QTableWidgetItem *findByName(const QString &name);
-    /// Marks what this text, in which wildcards count, matches in the names.
+
+    /// Highlights what this text, a pattern with wildcards, matches in the names.
     void setHighlightedText(const QString &text);
-    /// A width that holds the names, measured on a sample of the rows.
+    /// Returns a width that fits the names, estimated from a sample of the rows.
     int wantedNameWidth() const;
 
 Q_SIGNALS:
-    /// Enter was pressed, or a row clicked twice.
+    /// Emitted when Enter is pressed or a row double-clicked.
     void rowsActivated();
-    /// Rows were hidden or shown outside of any pass. Comes once for all of them, from the event loop.
+    /// Emitted when rows were hidden or shown outside of a batch update: once for all of them, from the event loop.
     void rowsHiddenOrShown();
 
 protected:
@@ -67,30 +58,22 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
 
 private:
+    friend class BatchUpdate;
+
+    void beginBatchUpdate();
+    void endBatchUpdate();
     void insertClones(const QList<QTableWidgetItem *> &items);
-    void rereadRows();
-    void forgetRowNumbers();
-    int firstVisibleRow();
-    void requestRow(int row);
-    void rememberAnnounced();
-    void announceCurrentRow();
+    void makeCurrent(int row);
 
     MatchHighlightDelegate *m_delegate;
-    /// Kept, since every key in the filter asks for it.
-    QList<QTableWidgetItem *> m_items;
-    QHash<QString, int> m_rowOfName;
-    bool m_namesKnown = false;
-    /// No row before this one is visible.
-    int m_firstVisibleBound = 0;
-    int m_passes = 0;
-    /// Rows were hidden or shown in the present pass.
-    bool m_rowsChanged = false;
-    int m_fills = 0;
-    /// Waits for the event loop, so that many rows are announced at once.
-    QTimer m_announcement;
-    /// What the view and its listeners have been told is current and selected.
-    QPersistentModelIndex m_announcedCurrent;
-    QItemSelection m_announcedSelection;
+    RowCache m_cache;
+    int m_fillCount = 0;
+    int m_batchUpdates = 0;
+    /// Rows were hidden or shown in the present batch update.
+    bool m_haveRowsChanged = false;
+    DeferredSelection m_deferredSelection;
+    /// Delays rowsHiddenOrShown() to the event loop.
+    QTimer m_rowsTimer;
 };
 
 } // namespace tvx

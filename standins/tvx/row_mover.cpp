@@ -2,7 +2,7 @@
 
 #include "gdm/dialogs/tvx_attributes_selection_dialog.h"
 #include "gdm/items/attr_roles.h"
-#include "tvx/available_table.h"
+#include "tvx/batch_update.h"
 
 #include <algorithm>
 #include <memory>
@@ -74,7 +74,7 @@ void RowMover::addSelected()
     }
     values += valuesOf(copies);
     {
-        const AvailableTable::Pass pass(m_top);
+        const BatchUpdate batch(m_top);
         append(std::move(copies));
         reportAdded(entering);
     }
@@ -138,7 +138,7 @@ void RowMover::remove(const QVector<int> &rows)
         return;
     m_isRemoving = true;
     {
-        const AvailableTable::Pass pass(m_top);
+        const BatchUpdate batch(m_top);
         for (int row : rows)
             m_dialog->removeButtonClickedCB(m_chosen->rowItem(row));
     }
@@ -168,7 +168,7 @@ void RowMover::undoRemoval()
     rememberValues(rows);
     m_chosen->restoreRows(std::move(rows));
     {
-        const AvailableTable::Pass pass(m_top);
+        const BatchUpdate batch(m_top);
         for (const QTableWidgetItem *value : values)
             reportAdded(nameOf(*value));
     }

@@ -1,7 +1,7 @@
 #include "tvx/selection_controller.h"
 
 #include "gdm/dialogs/tvx_attributes_selection_dialog.h"
-#include "tvx/available_table.h"
+#include "tvx/batch_update.h"
 #include "tvx/name_column_width.h"
 #include "tvx/row_mover.h"
 
@@ -144,7 +144,7 @@ void SelectionController::applyCriteria()
     m_widgets.chosenList->finishEditing();
     m_widgets.topView->setHighlightedText(m_criteria.text());
     {
-        const AvailableTable::Pass pass(m_widgets.topView);
+        const BatchUpdate batch(m_widgets.topView);
         if (m_criteria.needsRefill())
             refill();
         m_dialog->filterAttributeList();
