@@ -21,7 +21,7 @@ void ButtonGlyph::paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, 
     const QColor colour = palette.color(group, QPalette::ButtonText);
     const int side = qMin(rect.width(), rect.height());
     const int thickness = qMax(1, side / 8);
-    const int length = thickness + side * 2 / 7 * 2; // so that both ends reach as far from the middle
+    const int length = thickness + side * 2 / 7 * 2; // symmetric about the centre
 
     QRect bar(0, 0, length, thickness);
     bar.moveCenter(rect.center());

@@ -10,14 +10,14 @@ namespace Zudunmaf
 namespace tvx
 {
 
-/// A plus or minus sign, drawn at the size that is asked for and in the colour of the text of its button, so
-/// that it stays sharp at every scale and visible on every palette.
+/// Paints a plus or minus sign at any size in the text colour of a button, so that it is sharp at every scale and visible
+/// in every palette. Owned by the icon.
 class ButtonGlyph : public QIconEngine
 {
 public:
     enum Shape { Plus, Minus };
 
-    /// `button` lends its palette; it may go before the icon.
+    /// Uses the palette of `button`, which may be deleted before the icon.
     ButtonGlyph(Shape shape, QWidget *button);
 
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override;

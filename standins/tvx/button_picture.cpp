@@ -28,7 +28,7 @@ QIcon ownPicture(QPushButton *button, const QString &name)
 QIcon filePicture(const QString &name)
 {
     const QString path = QLatin1String("icons:") + name;
-    // An icon of a file that is no picture is not null; its pixmap is.
+    // QIcon is not null for a file that is not a picture; QPixmap is.
     if (name.isEmpty() || !QFileInfo(path).isFile() || QPixmap(path).isNull())
         return QIcon();
     return QIcon(path);

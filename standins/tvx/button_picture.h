@@ -10,9 +10,9 @@ namespace Zudunmaf
 namespace tvx
 {
 
-/// Gives the button the picture of this file name: one of the base's own ("Add.ico", "Delete.ico"), else a
-/// file in the `icons` search path of QDir. Where there is none, or none that can be read, the result is
-/// false and the button gets the picture of the icon theme or of the style. Its text stays in either case.
+/// Sets the icon of a button: the built-in picture of this name ("Add.ico", "Delete.ico"), or a file in the `icons` search
+/// path of QDir. If there is none that can be read, sets an icon of the theme or the style and returns false. The text of
+/// the button stays.
 bool setButtonPicture(QPushButton *button, TvxAttributesSelectionDialog::Buttons_Enum role,
                       const QString &name);
 

@@ -2,83 +2,60 @@
 #define TVX_CHOSEN_TABLE_H
 
 #include "tvx/attribute_table.h"
-
-#include <QPersistentModelIndex>
-#include <QPointer>
-#include <QTimer>
-
-#include <memory>
-#include <vector>
+#include "tvx/chosen_rows.h"
 
 namespace Zudunmaf
 {
 namespace tvx
 {
 
-class CellEditorFilter;
-class EditorContent;
-class EditorNote;
+class EditSession;
+class RowMenu;
 
-/// The chosen attributes, and the only table whose cells are edited. An edit of either column edits the value column:
-/// its item carries what the user enters.
+/// The chosen attributes, and the only table whose cells are edited. An edit of either column edits the value column.
 ///
-/// The delegate stores whatever an editor shows. This table commits an editor only where the user has changed it, once,
-/// and never with a number that the limits refuse.
+/// A delegate stores whatever its editor shows. This table commits an editor only if the user has changed it, once, and
+/// never with a number that the limits refuse.
 class ChosenTable : public AttributeTable
 {
     Q_OBJECT
 
 public:
-    /// A row that stands in no table: its two items, and its place in the order in which the rows came.
-    struct Row {
-        std::unique_ptr<QTableWidgetItem> name;
-        std::unique_ptr<QTableWidgetItem> value;
-        int place;
-    };
-
     explicit ChosenTable(QWidget *parent);
     ~ChosenTable() override;
 
-    /// Puts rows behind the others, wherever the order by a header then shows them. Their places are not
-    /// looked at.
-    void appendRows(std::vector<Row> rows);
-    /// Takes rows out, whose numbers are ascending. They are handed out in the order in which they came.
-    std::vector<Row> takeRows(const QVector<int> &rows);
-    /// Brings rows back that takeRows() has handed out, to their places among the others.
-    void restoreRows(std::vector<Row> rows);
-    /// Makes the rows of these value items the selected ones, the first of them current, and scrolls to them.
-    void selectItems(const QVector<QTableWidgetItem *> &items);
+    ChosenRows &rows() { return m_rows; }
+    RowMenu *menu() const { return m_menu; }
 
-    /// Opens the editor of a row; nothing happens where the row has none.
+    /// Opens the editor of a row. Does nothing if the row is out of range or has no editor.
     void editRow(int row);
-    /// The open editor; null if there is none.
-    QWidget *openEditor() const { return m_editor; }
-    /// Closes an open editor and stores what the user has changed. A refused entry leaves the row as it was, and
-    /// lastRefusal() says so. Does nothing if no editor is open; drops the edit if the table has been hidden since it
-    /// began.
+    /// Returns the open editor; null if there is none.
+    QWidget *openEditor() const;
+    /// Closes an open editor and stores what the user has changed. A refused entry leaves the item as it was, and
+    /// lastRefusal() says so. If the table was hidden after the edit began, nothing is stored. Does nothing if no editor
+    /// is open.
     void finishEditing();
-    /// The same for a dialog that is accepted, which hides before it says so.
+    /// Does the same, but also stores if the table was hidden: QDialog::accept() hides the dialog first.
     void finishAcceptedEditing();
-    /// The same, but with a refused entry the editor stays open, its entry selected; false then.
+    /// Does the same as finishEditing() if the entry is not refused. Else selects the entry and returns false.
     bool tryFinishEditing();
-    /// Closes an open editor and leaves the row as it was.
+    /// Closes an open editor and leaves the item as it was.
     void dropEditing();
 
-    /// True while an editor is open on an entry that the limits refuse.
+    /// Returns true if an editor is open with an entry that the limits refuse.
     bool isEntryRefused() const;
-    /// What became of the last refused entry, as a sentence for the user; empty once the user has gone on to another row.
-    QString lastRefusal() const { return m_lastRefusal; }
-    void forgetRefusal() { m_lastRefusal.clear(); }
+    /// Returns a sentence on the last entry that was refused; empty after the user has gone on to another row.
+    QString lastRefusal() const;
+    /// Clears that sentence.
+    void forgetRefusal();
 
 Q_SIGNALS:
     void editingStarted();
-    /// Emitted when the content of the open editor changes.
+    /// Emitted when the content of the open editor has changed.
     void editorChanged();
     void editingEnded();
-    /// Delete was pressed.
+    /// Emitted when Delete is pressed.
     void removalRequested();
-    /// The menu is to be shown at this place of the screen, for the selected rows.
-    void menuRequested(const QPoint &globalPosition);
 
 protected:
     bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
@@ -92,30 +69,14 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
-    void putBehind(std::vector<Row> rows);
-    void prepareEditor(int row);
-    void makeRoomFor(const QWidget *editor);
-    void endEvent();
-    void enterEditing();
-    void noteEdit();
-    void showMessage(const QString &message);
-    void rememberRefusal();
-    void requestMenuAtCurrentRow();
-    void requestMenu(int row, const QPoint &globalPosition);
+    void beginSession(QWidget *editor, const QModelIndex &index);
+    void endSession();
+    void finishEntered();
     void followFocus(const QWidget *old, const QWidget *now);
 
-    QPointer<QWidget> m_editor;
-    QPersistentModelIndex m_editedIndex;
-    /// Of the open editor, which owns it.
-    QPointer<EditorContent> m_content;
-    QPointer<CellEditorFilter> m_filter;
-    QPointer<EditorNote> m_note;
-    QString m_lastRefusal;
-    /// The refusal belongs to the event that is being delivered, which may change the current row too.
-    bool m_isRefusalNew = false;
-    bool m_isHiddenEdit = false;
-    /// Fires when the event that is being delivered is over.
-    QTimer m_afterEvent;
+    ChosenRows m_rows;
+    EditSession *m_session;
+    RowMenu *m_menu;
 };
 
 } // namespace tvx

@@ -1,8 +1,8 @@
 #include "tvx/dialog_status.h"
 
-#include "gdm/items/attr_records.h"
-#include "gdm/items/attr_roles.h"
+#include "tvx/attribute_item.h"
 #include "tvx/available_table.h"
+#include "tvx/chosen_table.h"
 #include "tvx/filter_criteria.h"
 #include "tvx/number_entry.h"
 #include "tvx/row_mover.h"
@@ -21,10 +21,9 @@ namespace tvx
 namespace
 {
 
-/// A middle dot between blanks.
 QString separator()
 {
-    return QStringLiteral("  \u00b7  ");
+    return QStringLiteral("  \u00b7  "); // a middle dot
 }
 
 QString typeText(int type)
@@ -45,27 +44,26 @@ QString typeText(int type)
     }
 }
 
-/// An item that describes its attribute in lines of its own is taken at its word; another is told by its
-/// roles.
+/// The tool tip of a value is a whole description, one fact a line. That of a condition is not: it is empty, or the prompt.
 QString descriptionOf(const QTableWidgetItem &item)
 {
     QStringList parts;
-    const QStringList lines = item.toolTip().split(QLatin1Char('\n'));
-    if (lines.size() > 1) {
-        parts.reserve(lines.size());
-        for (const QString &line : lines)
-            parts.append(line.simplified());
-    } else {
-        parts = QStringList{item.data(DmlAttrNameRole).toString(), item.data(DmlAttrPromptRole).toString(),
+    if (isCondition(item)) {
+        parts = QStringList{nameOf(item), item.data(DmlAttrPromptRole).toString(),
                             typeText(item.data(DmlAttrTypeRole).toInt())};
         if (parts[0] == parts[1])
             parts.removeFirst();
+    } else {
+        const QStringList lines = item.toolTip().split(QLatin1Char('\n'));
+        for (const QString &line : lines)
+            parts.append(line.simplified());
     }
     parts.removeAll(QString());
     return parts.join(separator());
 }
 
-/// Left alone, the keyboard would go on to the next button, which may do the opposite.
+/// Moves the focus of a button that becomes disabled to its table. Qt would move it to the next button, which may do the
+/// opposite.
 void setEnabled(QPushButton *button, bool enabled, QWidget *table)
 {
     if (!enabled && button->window()->focusWidget() == button)
@@ -151,7 +149,7 @@ QString DialogStatus::emptyAvailableText() const
 QString DialogStatus::describedText() const
 {
     const ChosenTable *chosen = m_widgets.chosenList;
-    // The window's focus, which stays where it is while a menu is open.
+    // focusWidget() of the window keeps its answer while a menu is open.
     const bool inChosen = chosen->openEditor() || chosen->window()->focusWidget() == chosen;
     const QTableWidgetItem *current = inChosen ? chosen->rowItem(chosen->currentRow())
                                                : m_widgets.topView->rowItem(m_widgets.topView->currentRow());

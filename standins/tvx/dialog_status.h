@@ -14,10 +14,9 @@ class FilterCriteria;
 class RowMover;
 class SelectionWidgets;
 
-/// Brings everything that depends on the state of the dialog up to date: counts, which buttons can be
-/// pressed, the texts in tables without rows, description and preview. It reads that state and changes
-/// nothing of it, but that the keyboard goes from a button that cannot be pressed any more to its table.
-/// What it is made of must outlive it.
+/// Updates everything that follows from the state of the dialog: counts, enabled buttons, description, result line and
+/// the texts of empty tables. Moves the focus off a button that becomes disabled, and changes no other state. Owned by the
+/// controller; its arguments must outlive it.
 class DialogStatus
 {
 public:

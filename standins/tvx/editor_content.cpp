@@ -1,8 +1,7 @@
 #include "tvx/editor_content.h"
 
 #include "gdm/host/gen_services.h"
-#include "gdm/items/attr_records.h"
-#include "gdm/items/attr_roles.h"
+#include "tvx/attribute_item.h"
 #include "tvx/number_entry.h"
 #include "tvx/tvx_texts.h"
 
@@ -11,7 +10,6 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMetaProperty>
-#include <QTableWidgetItem>
 
 #include <utility>
 
@@ -54,15 +52,10 @@ QString textOf(const QWidget *part)
     return part->metaObject()->userProperty().read(part).toString();
 }
 
-bool isCondition(const QTableWidgetItem &item)
-{
-    return item.data(DmlAttrFilterTextRole).isValid();
-}
-
 /// The units in which the editor of an item shows its numbers: those in the cell, else those of the definition.
 QString unitsOf(const QTableWidgetItem &item)
 {
-    const auto *definition = static_cast<const DmlAttrDef *>(item.data(DmlAttrDefRole).value<void *>());
+    const auto *definition = definitionOf(item);
     if (!definition || definition->type != DmlAttrFloat)
         return QString();
     const QString cell = item.text();

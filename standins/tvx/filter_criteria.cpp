@@ -80,14 +80,14 @@ bool FilterCriteria::isNarrowed() const
 
 void FilterCriteria::rememberFill()
 {
-    m_atLastFill = state();
-    m_lastFillNarrowed = isNarrowed();
-    m_fillMissing = false;
+    m_stateAtFill = state();
+    m_wasNarrowedAtFill = isNarrowed();
+    m_isFillMissing = false;
 }
 
 bool FilterCriteria::needsRefill() const
 {
-    return m_fillMissing || (m_lastFillNarrowed && !(state() == m_atLastFill));
+    return m_isFillMissing || (m_wasNarrowedAtFill && !(state() == m_stateAtFill));
 }
 
 FilterCriteria::State FilterCriteria::state() const

@@ -17,18 +17,18 @@ namespace tvx
 
 class SelectionWidgets;
 
-/// What the user has chosen to be offered: entity, group and filter text. It also knows whether the last fill
-/// of the top view left rows out that the present choice may want back.
+/// The criteria of the filter: entity, group and filter text. Also knows whether the rows of the available table were
+/// filled under narrower criteria and must be filled again. Owned by the controller. Does not call the dialog.
 class FilterCriteria
 {
 public:
-    /// `did` is the dictionary; -1 leaves it to the selected entity row. The widgets stay the dialog's.
+    /// `did` is the dictionary; -1 means that of the selected entity row.
     FilterCriteria(int did, const SelectionWidgets &widgets);
     ~FilterCriteria();
 
-    /// Shows the rows, takes the objects over and selects the last row. No change is signalled.
+    /// Fills the entity list, takes ownership of the items and selects the last row. Emits no signal.
     void setEntities(const QList<TvxDataItem *> &items);
-    /// Shows the rows and selects the first one. No change is signalled.
+    /// Fills the group list and selects the first row. Emits no signal.
     void setGroups(const QStringList &groups);
 
     int dictionary() const;
@@ -36,15 +36,15 @@ public:
     QString group() const;
     QString text() const;
 
-    /// True where not the last entity, the first group and an empty text are chosen.
+    /// Returns false only if every attribute is available: last entity row, first group row, no text.
     bool isNarrowed() const;
-    /// The top view has just been filled under the present choice.
+    /// Must be called when the available table was filled under the present criteria.
     void rememberFill();
-    /// A fill is due: rememberFill() follows unless the dialog cannot read its attributes.
-    void expectFill() { m_fillMissing = true; }
-    /// True if the fill that was due last has not come: the rows, if any, are those of before.
-    bool isFillMissing() const { return m_fillMissing; }
-    /// True if a fill is missing, or the choice was narrowed at the last fill and has changed since.
+    /// Must be called when a fill is due. rememberFill() follows unless the dialog cannot read its attributes.
+    void expectFill() { m_isFillMissing = true; }
+    /// Returns true if the fill that was due has not come. The rows, if any, are outdated.
+    bool isFillMissing() const { return m_isFillMissing; }
+    /// Returns true if a fill is missing, or if the criteria were narrowed at the last fill and have changed since.
     bool needsRefill() const;
 
 private:
@@ -66,9 +66,9 @@ private:
     QComboBox *m_groupList;
     QLineEdit *m_filterText;
     std::vector<std::unique_ptr<TvxDataItem>> m_entities;
-    State m_atLastFill{};
-    bool m_lastFillNarrowed = false;
-    bool m_fillMissing = true;
+    State m_stateAtFill{};
+    bool m_wasNarrowedAtFill = false;
+    bool m_isFillMissing = true;
 };
 
 } // namespace tvx

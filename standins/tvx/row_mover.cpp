@@ -1,8 +1,9 @@
 #include "tvx/row_mover.h"
 
 #include "gdm/dialogs/tvx_attributes_selection_dialog.h"
-#include "gdm/items/attr_roles.h"
+#include "tvx/attribute_item.h"
 #include "tvx/batch_update.h"
+#include "tvx/chosen_table.h"
 
 #include <algorithm>
 #include <memory>
@@ -17,38 +18,28 @@ namespace tvx
 namespace
 {
 
-QString nameOf(const QTableWidgetItem &item)
-{
-    return item.data(DmlAttrNameRole).toString();
-}
-
-bool isCondition(const QTableWidgetItem &item)
-{
-    return item.data(DmlAttrFilterTextRole).isValid();
-}
-
-ChosenTable::Row copyOf(const QTableWidgetItem &item)
+ChosenRow copyOf(const QTableWidgetItem &item)
 {
     return {std::unique_ptr<QTableWidgetItem>(item.clone()), std::unique_ptr<QTableWidgetItem>(item.clone()),
             -1};
 }
 
-QVector<QTableWidgetItem *> valuesOf(const std::vector<ChosenTable::Row> &rows)
+QVector<QTableWidgetItem *> valuesOf(const std::vector<ChosenRow> &rows)
 {
     QVector<QTableWidgetItem *> values;
     values.reserve(static_cast<int>(rows.size()));
-    for (const ChosenTable::Row &row : rows)
+    for (const ChosenRow &row : rows)
         values.append(row.value.get());
     return values;
 }
 
 } // namespace
 
-RowMover::RowMover(TvxAttributesSelectionDialog *dialog, AvailableTable *top, ChosenTable *chosen,
+RowMover::RowMover(TvxAttributesSelectionDialog *dialog, AvailableTable *available, ChosenTable *chosen,
                    QObject *parent)
     : QObject(parent)
     , m_dialog(dialog)
-    , m_top(top)
+    , m_available(available)
     , m_chosen(chosen)
 {
 }
@@ -56,66 +47,66 @@ RowMover::RowMover(TvxAttributesSelectionDialog *dialog, AvailableTable *top, Ch
 void RowMover::addSelected()
 {
     finishEditing();
-    // All items first: a hook changes the selection of the top view.
-    const std::vector<Offered> offers = selectedOffers();
-    if (offers.empty())
+    // Collected first, because a hook changes the selection.
+    const std::vector<AvailableRow> selected = selectedAvailableRows();
+    if (selected.empty())
         return;
-    const QHash<QString, QTableWidgetItem *> present = valuesByName();
-    std::vector<ChosenTable::Row> copies;
-    std::vector<Offered> entering;
+    const QHash<QString, QTableWidgetItem *> present = chosenValues();
+    std::vector<ChosenRow> copies;
+    std::vector<AvailableRow> added;
     QVector<QTableWidgetItem *> values;
-    for (const Offered &offer : offers) {
-        if (QTableWidgetItem *value = present.value(offer.name)) {
+    for (const AvailableRow &row : selected) {
+        if (QTableWidgetItem *value = present.value(row.name)) {
             values.append(value);
             continue;
         }
-        copies.push_back(copyOf(*offer.item));
-        entering.push_back(offer);
+        copies.push_back(copyOf(*row.item));
+        added.push_back(row);
     }
     values += valuesOf(copies);
     {
-        const BatchUpdate batch(m_top);
+        const BatchUpdate batch(m_available);
         append(std::move(copies));
-        reportAdded(entering);
+        callAddHooks(added);
     }
-    m_chosen->selectItems(values);
+    m_chosen->rows().select(values);
     Q_EMIT rowsMoved();
 }
 
-/// Also clears the message on an entry that was refused before.
+/// Also clears the sentence on an earlier refused entry.
 void RowMover::finishEditing()
 {
     m_chosen->forgetRefusal();
     m_chosen->finishEditing();
 }
 
-std::vector<RowMover::Offered> RowMover::selectedOffers() const
+std::vector<RowMover::AvailableRow> RowMover::selectedAvailableRows() const
 {
-    std::vector<Offered> offers;
-    const QVector<int> rows = m_top->selectedVisibleRows();
-    offers.reserve(static_cast<std::size_t>(rows.size()));
+    std::vector<AvailableRow> selected;
+    const QVector<int> rows = m_available->selectedVisibleRows();
+    selected.reserve(static_cast<std::size_t>(rows.size()));
     for (int row : rows) {
-        QTableWidgetItem *item = m_top->rowItem(row);
-        offers.push_back({item, nameOf(*item)});
+        QTableWidgetItem *item = m_available->rowItem(row);
+        selected.push_back({item, nameOf(*item)});
     }
-    return offers;
+    return selected;
 }
 
-void RowMover::reportAdded(const std::vector<Offered> &offers)
+void RowMover::callAddHooks(const std::vector<AvailableRow> &rows)
 {
-    const int fills = m_top->fillCount();
-    for (const Offered &offer : offers) {
-        // A hook that has the rows built anew takes the items away.
-        if (m_top->fillCount() == fills)
-            m_dialog->addButtonClickedCB(offer.item);
+    const int fills = m_available->fillCount();
+    for (const AvailableRow &row : rows) {
+        // A hook that fills the table again deletes the items.
+        if (m_available->fillCount() == fills)
+            m_dialog->addButtonClickedCB(row.item);
         else
-            reportAdded(offer.name);
+            callAddHook(row.name);
     }
 }
 
-void RowMover::reportAdded(const QString &name)
+void RowMover::callAddHook(const QString &name)
 {
-    if (QTableWidgetItem *item = m_top->findByName(name))
+    if (QTableWidgetItem *item = m_available->findByName(name))
         m_dialog->addButtonClickedCB(item);
 }
 
@@ -138,12 +129,12 @@ void RowMover::remove(const QVector<int> &rows)
         return;
     m_isRemoving = true;
     {
-        const BatchUpdate batch(m_top);
+        const BatchUpdate batch(m_available);
         for (int row : rows)
             m_dialog->removeButtonClickedCB(m_chosen->rowItem(row));
     }
-    m_removals.push_back(m_chosen->takeRows(rows));
-    for (const ChosenTable::Row &row : m_removals.back())
+    m_removals.push_back(m_chosen->rows().take(rows));
+    for (const ChosenRow &row : m_removals.back())
         m_valueNames.remove(nameOf(*row.value));
     const int below = rows.last() - static_cast<int>(rows.size()) + 1;
     m_chosen->makeRowCurrent(std::min(below, m_chosen->rowCount() - 1));
@@ -156,66 +147,63 @@ void RowMover::undoRemoval()
     finishEditing();
     if (!canUndoRemoval())
         return;
-    std::vector<ChosenTable::Row> rows = std::move(m_removals.back());
+    std::vector<ChosenRow> rows = std::move(m_removals.back());
     m_removals.pop_back();
-    const QHash<QString, QTableWidgetItem *> present = valuesByName();
-    const auto isPresent = [&present](const ChosenTable::Row &row) {
-        return present.contains(nameOf(*row.value));
-    };
+    const QHash<QString, QTableWidgetItem *> present = chosenValues();
+    const auto isPresent = [&present](const ChosenRow &row) { return present.contains(nameOf(*row.value)); };
     rows.erase(std::remove_if(rows.begin(), rows.end(), isPresent), rows.end());
 
     const QVector<QTableWidgetItem *> values = valuesOf(rows);
     rememberValues(rows);
-    m_chosen->restoreRows(std::move(rows));
+    m_chosen->rows().restore(std::move(rows));
     {
-        const BatchUpdate batch(m_top);
+        const BatchUpdate batch(m_available);
         for (const QTableWidgetItem *value : values)
-            reportAdded(nameOf(*value));
+            callAddHook(nameOf(*value));
     }
-    m_chosen->selectItems(values);
+    m_chosen->rows().select(values);
     Q_EMIT rowsMoved();
 }
 
 bool RowMover::addCopyOf(const QTableWidgetItem &item)
 {
     const QString name = nameOf(item);
-    const bool isAttribute = !name.isEmpty() && item.data(DmlAttrDefRole).value<void *>();
+    const bool isAttribute = !name.isEmpty() && definitionOf(item);
     if (!isAttribute || !isOfDialogsKind(item) || (!isCondition(item) && m_valueNames.contains(name)))
         return false;
     finishEditing();
-    std::vector<ChosenTable::Row> copies;
+    std::vector<ChosenRow> copies;
     copies.push_back(copyOf(item));
     append(std::move(copies));
-    reportAdded(name);
+    callAddHook(name);
     Q_EMIT rowsMoved();
     return true;
 }
 
-void RowMover::append(std::vector<ChosenTable::Row> rows)
+void RowMover::append(std::vector<ChosenRow> rows)
 {
     rememberValues(rows);
-    m_chosen->appendRows(std::move(rows));
+    m_chosen->rows().append(std::move(rows));
 }
 
-void RowMover::rememberValues(const std::vector<ChosenTable::Row> &rows)
+void RowMover::rememberValues(const std::vector<ChosenRow> &rows)
 {
-    for (const ChosenTable::Row &row : rows) {
+    for (const ChosenRow &row : rows) {
         if (!isCondition(*row.value))
             m_valueNames.insert(nameOf(*row.value));
     }
 }
 
-/// A dialog has items of one kind, and any row of either table shows which. Without a row, each kind is accepted.
+/// Returns true if the item is of the kind of the other rows, conditions or values, or if there is no other row.
 bool RowMover::isOfDialogsKind(const QTableWidgetItem &item) const
 {
     const QTableWidgetItem *chosen = m_chosen->rowItem(0);
-    const QTableWidgetItem *known = chosen ? chosen : m_top->rowItem(0);
+    const QTableWidgetItem *known = chosen ? chosen : m_available->rowItem(0);
     return !known || nameOf(*known).isEmpty() || isCondition(*known) == isCondition(item);
 }
 
-/// The value items of the chosen rows by attribute; empty in a dialog of conditions. A dialog has rows of one kind, and
-/// the first says which.
-QHash<QString, QTableWidgetItem *> RowMover::valuesByName() const
+/// Returns the chosen values by attribute; none in a dialog of conditions. All rows of a dialog are of one kind.
+QHash<QString, QTableWidgetItem *> RowMover::chosenValues() const
 {
     QHash<QString, QTableWidgetItem *> values;
     const QTableWidgetItem *first = m_chosen->rowItem(0);
@@ -224,7 +212,7 @@ QHash<QString, QTableWidgetItem *> RowMover::valuesByName() const
     const QList<QTableWidgetItem *> items = m_chosen->rowItems(false);
     for (QTableWidgetItem *item : items)
         values.insert(nameOf(*item), item);
-    // Items of another class have no name, and are all different.
+    // Items without a name have no attribute in common.
     values.remove(QString());
     return values;
 }

@@ -1,9 +1,10 @@
 #ifndef TVX_ROW_MOVER_H
 #define TVX_ROW_MOVER_H
 
-#include "tvx/chosen_table.h"
+#include "tvx/chosen_rows.h"
 
 #include <QHash>
+#include <QObject>
 #include <QSet>
 
 #include <vector>
@@ -16,59 +17,65 @@ namespace tvx
 {
 
 class AvailableTable;
+class ChosenTable;
 
-/// Moves attributes between the two tables, calls the dialog's hooks, and keeps what was taken away until it
-/// is brought back or the dialog ends. Each command ends an open edit first. Hidden rows are never moved.
+/// Adds, removes and restores rows of the chosen table and calls the hooks of the dialog; no other class calls them.
+/// Keeps removed rows until they are restored or the dialog is deleted. Owned by the controller.
 ///
-/// An attribute takes any number of conditions, which are the items with a filter text, but one value: a row
-/// with a second one is not made.
+/// Each operation commits an open editor first and leaves hidden rows alone. An attribute can have any number of
+/// conditions but one value, so a second row with a value is never made.
 class RowMover : public QObject
 {
     Q_OBJECT
 
 public:
-    RowMover(TvxAttributesSelectionDialog *dialog, AvailableTable *top, ChosenTable *chosen, QObject *parent);
+    RowMover(TvxAttributesSelectionDialog *dialog, AvailableTable *available, ChosenTable *chosen,
+             QObject *parent);
 
-    /// An attribute that has a value already gets no second row: its row is selected, and the hook is not called.
+    /// Adds a row for each selected available attribute, calls the add hook for each, and selects the rows. For an
+    /// attribute that has a value already, selects its row instead.
     void addSelected();
-    void removeSelected();
-    void removeAll();
-    /// While rows go, nothing is selected for a moment, which is not to be shown; rowsMoved() comes after.
-    bool isRemoving() const { return m_isRemoving; }
-    bool canUndoRemoval() const { return !m_removals.empty(); }
-    /// Brings the rows removed last back to their places, with what was entered. A value that has been chosen
-    /// again meanwhile stays as it is.
-    void undoRemoval();
-
-    /// Puts a copy of the item behind the chosen rows, as addSelected() would; no editing, no selection.
-    /// False where the item has no attribute, or a second value of one.
+    /// Appends a row with copies of `item` and calls the add hook. Selects nothing. Returns false, and adds nothing, if the
+    /// item has no attribute or is of another kind than those of the dialog, or if the attribute has a value already.
     bool addCopyOf(const QTableWidgetItem &item);
 
+    /// Calls the remove hook for each selected chosen row and removes the rows.
+    void removeSelected();
+    /// Does the same with all chosen rows.
+    void removeAll();
+    /// Returns true during a removal. The selection is briefly empty then; skip refreshes until rowsMoved().
+    bool isRemoving() const { return m_isRemoving; }
+
+    bool canUndoRemoval() const { return !m_removals.empty(); }
+    /// Restores the rows of the last removal to their positions, calls the add hook for each, and selects them. Skips rows
+    /// whose attribute has a value again.
+    void undoRemoval();
+
 Q_SIGNALS:
-    /// Rows have come to or gone from the chosen ones.
+    /// Emitted after chosen rows were added, removed or restored.
     void rowsMoved();
 
 private:
-    struct Offered {
+    struct AvailableRow {
         QTableWidgetItem *item;
         QString name;
     };
 
-    std::vector<Offered> selectedOffers() const;
-    void reportAdded(const std::vector<Offered> &offers);
-    void reportAdded(const QString &name);
+    std::vector<AvailableRow> selectedAvailableRows() const;
+    void append(std::vector<ChosenRow> rows);
     void remove(const QVector<int> &rows);
+    void callAddHooks(const std::vector<AvailableRow> &rows);
+    void callAddHook(const QString &name);
     void finishEditing();
     bool isOfDialogsKind(const QTableWidgetItem &item) const;
-    QHash<QString, QTableWidgetItem *> valuesByName() const;
-    void append(std::vector<ChosenTable::Row> rows);
-    void rememberValues(const std::vector<ChosenTable::Row> &rows);
+    QHash<QString, QTableWidgetItem *> chosenValues() const;
+    void rememberValues(const std::vector<ChosenRow> &rows);
 
     TvxAttributesSelectionDialog *m_dialog;
-    AvailableTable *m_top;
+    AvailableTable *m_available;
     ChosenTable *m_chosen;
-    std::vector<std::vector<ChosenTable::Row>> m_removals;
-    /// The names of the chosen values, so that adding N copies costs no N * N names.
+    std::vector<std::vector<ChosenRow>> m_removals;
+    /// The names of the chosen values, so that addCopyOf() needs no pass over the chosen rows.
     QSet<QString> m_valueNames;
     bool m_isRemoving = false;
 };

@@ -16,8 +16,8 @@ namespace tvx
 namespace
 {
 
-/// Orders as the user's language does, and numbers in a text by value: 2 before 10. The C locale, which could
-/// do neither, counts as English.
+/// Returns a collator for the user's language that compares numbers in texts by value, so that 2 comes before 10. The C
+/// locale supports neither, so English replaces it.
 QCollator newCollator()
 {
     const QLocale user;
@@ -27,7 +27,7 @@ QCollator newCollator()
     return collator;
 }
 
-/// A cell's text in a form that compares quickly.
+/// The text of a cell, prepared for comparison: numbers before texts before empty texts.
 struct SortKey {
     enum Kind { Number, Text, Nothing };
 
@@ -39,7 +39,7 @@ struct SortKey {
         kind = Text;
         bool isNumber = false;
         const double value = QLocale::c().toDouble(cell.section(QLatin1Char(' '), 0, 0), &isNumber);
-        // "nan" and "inf" are read as well, and the one is neither less nor more than anything.
+        // toDouble() also reads "nan", which has no order, and "inf".
         if (isNumber && std::isfinite(value)) {
             kind = Number;
             number = value;
@@ -76,81 +76,83 @@ void RowOrder::advance(int column)
 
 QVector<int> RowOrder::arrange(int rowCount, const std::function<QString(int)> &textOfRow)
 {
-    numberRows(rowCount);
+    indexRows(rowCount);
     if (!isSorted()) {
         const QVector<int> order = orderOfArrival();
-        m_arrival.clear();
+        m_arrivalIndexes.clear();
         return order;
     }
     const QVector<int> order = orderOfTexts(rowCount, textOfRow);
-    m_arrival = placesOf(order);
+    m_arrivalIndexes = arrivalIndexesOf(order);
     return order;
 }
 
-QVector<int> RowOrder::placesOf(const QVector<int> &rows) const
+QVector<int> RowOrder::arrivalIndexesOf(const QVector<int> &rows) const
 {
-    if (m_arrival.isEmpty())
+    if (m_arrivalIndexes.isEmpty())
         return rows;
-    QVector<int> places;
-    places.reserve(rows.size());
+    QVector<int> indexes;
+    indexes.reserve(rows.size());
     for (int row : rows)
-        places.append(m_arrival[row]);
-    return places;
+        indexes.append(m_arrivalIndexes[row]);
+    return indexes;
 }
 
 void RowOrder::rowsReplaced()
 {
-    m_arrival.clear();
+    m_arrivalIndexes.clear();
 }
 
 void RowOrder::rowsRemoved(const QVector<int> &rows)
 {
-    if (m_arrival.isEmpty())
+    if (m_arrivalIndexes.isEmpty())
         return;
-    QVector<int> gone = placesOf(rows);
-    std::sort(gone.begin(), gone.end());
-    QVector<int> left;
-    left.reserve(m_arrival.size() - rows.size());
+    QVector<int> removed = arrivalIndexesOf(rows);
+    std::sort(removed.begin(), removed.end());
+    QVector<int> remaining;
+    remaining.reserve(m_arrivalIndexes.size() - rows.size());
     auto next = rows.begin();
-    for (int row = 0; row < m_arrival.size(); ++row) {
+    for (int row = 0; row < m_arrivalIndexes.size(); ++row) {
         if (next != rows.end() && *next == row) {
             ++next;
             continue;
         }
-        const auto goneBefore = std::lower_bound(gone.begin(), gone.end(), m_arrival[row]) - gone.begin();
-        left.append(m_arrival[row] - static_cast<int>(goneBefore));
+        const int index = m_arrivalIndexes[row];
+        const auto removedBefore = std::lower_bound(removed.begin(), removed.end(), index) - removed.begin();
+        remaining.append(index - static_cast<int>(removedBefore));
     }
-    m_arrival = left;
+    m_arrivalIndexes = remaining;
 }
 
-void RowOrder::rowsReturned(int rowCount, const QVector<int> &places)
+void RowOrder::rowsRestored(int rowCount, const QVector<int> &arrivalIndexes)
 {
-    const int others = rowCount - static_cast<int>(places.size());
-    numberRows(others);
-    QVector<int> returned;
+    const int others = rowCount - static_cast<int>(arrivalIndexes.size());
+    indexRows(others);
+    QVector<int> restored;
     QVector<int> free;
-    for (int place = 0; place < rowCount; ++place) {
-        const int next = static_cast<int>(returned.size());
-        const bool isTaken = next < places.size() && std::min(places[next], others + next) == place;
-        (isTaken ? returned : free).append(place);
+    for (int index = 0; index < rowCount; ++index) {
+        const int next = static_cast<int>(restored.size());
+        const bool isRestored =
+            next < arrivalIndexes.size() && std::min(arrivalIndexes[next], others + next) == index;
+        (isRestored ? restored : free).append(index);
     }
-    for (int &place : m_arrival)
-        place = free[place];
-    m_arrival += returned;
+    for (int &index : m_arrivalIndexes)
+        index = free[index];
+    m_arrivalIndexes += restored;
 }
 
-void RowOrder::numberRows(int rowCount)
+void RowOrder::indexRows(int rowCount)
 {
-    m_arrival.reserve(rowCount);
-    while (m_arrival.size() < rowCount)
-        m_arrival.append(static_cast<int>(m_arrival.size()));
+    m_arrivalIndexes.reserve(rowCount);
+    while (m_arrivalIndexes.size() < rowCount)
+        m_arrivalIndexes.append(static_cast<int>(m_arrivalIndexes.size()));
 }
 
 QVector<int> RowOrder::orderOfArrival() const
 {
-    QVector<int> rows(m_arrival.size());
-    for (int row = 0; row < m_arrival.size(); ++row)
-        rows[m_arrival[row]] = row;
+    QVector<int> rows(m_arrivalIndexes.size());
+    for (int row = 0; row < m_arrivalIndexes.size(); ++row)
+        rows[m_arrivalIndexes[row]] = row;
     return rows;
 }
 

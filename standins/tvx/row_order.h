@@ -11,44 +11,44 @@ namespace Zudunmaf
 namespace tvx
 {
 
-/// The order of a table's rows: as they came, or by the text of one column. It remembers in which order the
-/// rows came, so that this order can be reached again, and moves nothing itself.
+/// Computes the order of a table's rows: the order of arrival, or that of the texts of one column. Remembers the order of
+/// arrival while the rows are sorted. Owned by RowSorter, which moves the rows; this class moves nothing.
 class RowOrder
 {
 public:
-    /// What a click on the header of a column brings: ascending, then descending, then as the rows came.
+    /// Cycles the column: ascending, descending, unsorted.
     void advance(int column);
     bool isSorted() const { return m_column >= 0; }
-    /// The column by whose text the rows are sorted; -1 for none.
+    /// Returns the column by whose texts the rows are sorted; -1 if they are not sorted.
     int column() const { return m_column; }
     Qt::SortOrder direction() const { return m_direction; }
 
-    /// Where each row is to come from: the present number of the row that goes to place 0, 1, and so on. Rows
-    /// of equal text keep their present order; empty texts stand last when ascending, numbers before texts
-    /// and by value, texts as the user's language has it, with numbers in them by value. The caller puts the rows
-    /// into this order.
+    /// Returns for each row of the new order the row where it is now. The caller moves the rows accordingly.
+    ///
+    /// Rows of equal text keep their order. In ascending order, numbers come first, by value; then texts, by the rules of
+    /// the user's language and with numbers in them by value; then empty texts.
     QVector<int> arrange(int rowCount, const std::function<QString(int row)> &textOfRow);
 
-    /// The places of rows in the order in which they came, counted from 0.
-    QVector<int> placesOf(const QVector<int> &rows) const;
+    /// Returns the arrival index of each row: its index in the order of arrival, from 0.
+    QVector<int> arrivalIndexesOf(const QVector<int> &rows) const;
 
-    /// All rows were replaced; the column stays.
+    /// Must be called when all rows were replaced. The column stays.
     void rowsReplaced();
-    /// These rows, ascending, were taken out. Rows that are appended need no call.
+    /// Must be called when rows, in ascending order, were removed. Appended rows need no call.
     void rowsRemoved(const QVector<int> &rows);
-    /// The last of now `rowCount` rows have come back to these places, ascending, which placesOf() gave. They
-    /// stand there at the next arrange(); where fewer rows are left, behind the others.
-    void rowsReturned(int rowCount, const QVector<int> &places);
+    /// Must be called when removed rows were appended again, so that the table has `rowCount` rows now. At the next
+    /// arrange() they return to their arrival indexes, which are in ascending order; if fewer rows are left, to the end.
+    void rowsRestored(int rowCount, const QVector<int> &arrivalIndexes);
 
 private:
-    void numberRows(int rowCount);
+    void indexRows(int rowCount);
     QVector<int> orderOfArrival() const;
     QVector<int> orderOfTexts(int rowCount, const std::function<QString(int row)> &textOfRow) const;
 
     int m_column = -1;
     Qt::SortOrder m_direction = Qt::AscendingOrder;
-    /// Each row's place in the order of arrival, without gaps. Empty while the rows stand in that order.
-    QVector<int> m_arrival;
+    /// The arrival index of each row. Empty while the rows are in the order of arrival.
+    QVector<int> m_arrivalIndexes;
 };
 
 } // namespace tvx

@@ -2,7 +2,10 @@
 
 #include "gdm/dialogs/tvx_attributes_selection_dialog.h"
 #include "tvx/batch_update.h"
+#include "tvx/chosen_table.h"
+#include "tvx/filter_line_keys.h"
 #include "tvx/name_column_width.h"
+#include "tvx/row_menu.h"
 #include "tvx/row_mover.h"
 
 #include <QApplication>
@@ -10,7 +13,6 @@
 #include <QDialogButtonBox>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QMenu>
 #include <QPushButton>
 #include <QShortcut>
 
@@ -28,7 +30,7 @@ SelectionController::SelectionController(int did, TvxAttributesSelectionDialog *
     , m_status(m_widgets, m_criteria, *m_mover)
 {
     dialog->installEventFilter(this);
-    m_widgets.filterText->installEventFilter(this);
+    new FilterLineKeys(m_widgets.filterText, m_widgets.topView, m_mover, this);
     m_widgets.entityList->installEventFilter(this);
     m_widgets.groupList->installEventFilter(this);
 }
@@ -67,7 +69,7 @@ void SelectionController::connectButtons()
     connect(m_widgets.clearButton, &QPushButton::clicked, m_mover, &RowMover::removeAll);
     connect(m_widgets.buttonBox, &QDialogButtonBox::accepted, this, &SelectionController::acceptDialog);
     connect(m_widgets.buttonBox, &QDialogButtonBox::rejected, this, &SelectionController::rejectDialog);
-    // For a host that ends the dialog by its slots, and connects to these signals later.
+    // For a host that calls accept() or reject() itself. Connected first, so that its own slots find the result.
     connect(m_dialog, &QDialog::accepted, this, [this] { m_widgets.chosenList->finishAcceptedEditing(); });
     connect(m_dialog, &QDialog::rejected, this, [this] { m_widgets.chosenList->dropEditing(); });
 }
@@ -80,7 +82,7 @@ void SelectionController::connectTables()
     connect(chosen, &ChosenTable::rowsDropped, m_mover, &RowMover::addSelected);
     connect(chosen, &ChosenTable::removalRequested, m_mover, &RowMover::removeSelected);
     connect(top, &AvailableTable::rowsDropped, m_mover, &RowMover::removeSelected);
-    connect(chosen, &ChosenTable::menuRequested, this, &SelectionController::showContextMenu);
+    connect(chosen->menu(), &RowMenu::triggered, this, &SelectionController::refresh);
 
     NameColumnWidth::link(top->nameColumnWidth(), chosen->nameColumnWidth());
     connect(top, &AvailableTable::rowsHiddenOrShown, this, &SelectionController::refresh);
@@ -124,7 +126,7 @@ void SelectionController::setDisplayUnits(int units)
     m_criteria.expectFill();
 }
 
-void SelectionController::fillTopView(const QList<QTableWidgetItem *> &items)
+void SelectionController::fillAvailable(const QList<QTableWidgetItem *> &items)
 {
     m_widgets.topView->fill(items);
     m_criteria.rememberFill();
@@ -152,8 +154,8 @@ void SelectionController::applyCriteria()
     refresh();
 }
 
-/// Without groups the dictionary could not be walked at all: then all lists are filled again, and the entity that the
-/// user has just selected stays selected.
+/// Fills the available table again. Without groups the walk of the dictionary has failed: then all lists are filled, and
+/// the entity that the user has just selected is selected again.
 void SelectionController::refill()
 {
     if (m_widgets.groupList->count() > 0) {
@@ -167,94 +169,36 @@ void SelectionController::refill()
         m_widgets.entityList->setCurrentIndex(entity);
 }
 
-void SelectionController::setContextMenu(QMenu *menu)
-{
-    if (m_contextMenu)
-        disconnect(m_contextMenu, nullptr, this, nullptr);
-    m_contextMenu = menu;
-    if (!menu)
-        return;
-    const auto showChanges = [this] {
-        m_widgets.chosenList->viewport()->update();
-        refresh();
-    };
-    // Queued: the subclass, which is connected later, acts first.
-    connect(menu, &QMenu::triggered, this, showChanges, Qt::QueuedConnection);
-}
-
-void SelectionController::showContextMenu(const QPoint &globalPosition)
-{
-    if (m_contextMenu && !m_contextMenu->isVisible())
-        m_contextMenu->popup(globalPosition);
-}
-
-QList<QTableWidgetItem *> SelectionController::contextMenuItems() const
-{
-    const ChosenTable *chosen = m_widgets.chosenList;
-    QList<QTableWidgetItem *> items;
-    const QVector<int> rows = chosen->selectedVisibleRows();
-    items.reserve(rows.size());
-    for (int row : rows)
-        items.append(chosen->rowItem(row));
-    QTableWidgetItem *current = chosen->rowItem(chosen->currentRow());
-    if (items.isEmpty() && current)
-        items.append(current);
-    return items;
-}
-
 bool SelectionController::eventFilter(QObject *watched, QEvent *event)
 {
-    const bool onList = watched == m_widgets.entityList || watched == m_widgets.groupList;
-    if (onList && event->type() == QEvent::Wheel && !static_cast<QWidget *>(watched)->hasFocus())
-        return true;
-    if (watched == m_widgets.filterText && event->type() == QEvent::KeyPress)
-        return filterKey(static_cast<QKeyEvent *>(event));
-    if (watched == m_dialog && event->type() == QEvent::KeyPress) {
-        // Enter that no widget has taken would press the default button.
+    if (watched != m_dialog) {
+        // A list without the focus ignores the wheel.
+        const auto *list = static_cast<QWidget *>(watched);
+        return event->type() == QEvent::Wheel && !list->hasFocus();
+    }
+    switch (event->type()) {
+    case QEvent::KeyPress: {
+        // QDialog would click the default button after an Enter that no widget has accepted.
         const int key = static_cast<QKeyEvent *>(event)->key();
         return key == Qt::Key_Return || key == Qt::Key_Enter;
     }
-    if (watched == m_dialog && event->type() == QEvent::FontChange) {
-        fitNameColumns();
-        m_widgets.fitToFont();
+    case QEvent::FontChange:
+        fitToFont();
+        break;
+    case QEvent::Resize:
         m_widgets.fitToHeight();
+        break;
+    default:
+        break;
     }
-    if (watched == m_dialog && event->type() == QEvent::Resize)
-        m_widgets.fitToHeight();
     return QObject::eventFilter(watched, event);
 }
 
-/// One focus for typing and walking: the keys that a line of text has no use for act on the top view.
-bool SelectionController::filterKey(QKeyEvent *event)
+void SelectionController::fitToFont()
 {
-    QLineEdit *text = m_widgets.filterText;
-    if (event->matches(QKeySequence::Undo) && !text->isUndoAvailable()) {
-        m_mover->undoRemoval();
-        return true;
-    }
-    switch (event->key()) {
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
-        QApplication::sendEvent(m_widgets.topView, event);
-        return true;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        if (!event->isAutoRepeat()) {
-            m_mover->addSelected();
-            // The next search replaces this one.
-            text->selectAll();
-        }
-        return true;
-    case Qt::Key_Escape:
-        if (text->text().isEmpty())
-            return false;
-        text->clear();
-        return true;
-    default:
-        return false;
-    }
+    fitNameColumns();
+    m_widgets.fitToFont();
+    m_widgets.fitToHeight();
 }
 
 void SelectionController::refresh()

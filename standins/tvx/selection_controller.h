@@ -6,11 +6,7 @@
 #include "tvx/selection_widgets.h"
 
 #include <QObject>
-#include <QPointer>
 
-class QKeyEvent;
-class QMenu;
-class QPoint;
 class QTableWidgetItem;
 class TvxAttributesSelectionDialog;
 
@@ -21,21 +17,21 @@ namespace tvx
 
 class RowMover;
 
-/// All that the base dialog holds and does, behind its declaration. It is the receiver of every connection
-/// and goes before the dialog's widgets do, so that nothing reaches a dialog that is half gone.
+/// Connects the parts of the base dialog, and runs the dialog's virtual functions when the criteria change. Owned by the
+/// dialog, and deleted before its widgets, because it is the receiver of their signals.
 ///
-/// Calls these virtual operations of the dialog: filterAttributeList(), the two hooks, and, where a fill has failed or
-/// left rows out, setDisplayUnits() or buildInitialLists().
+/// Calls filterAttributeList(), and setDisplayUnits() or buildInitialLists() if a fill failed or left attributes out. The
+/// two hooks are called by RowMover.
 class SelectionController : public QObject
 {
     Q_OBJECT
 
 public:
-    /// `did` is the dictionary; -1 leaves it to the selected entity row. The dialog becomes the parent.
+    /// `did` is the dictionary; -1 means that of the selected entity row. The dialog becomes the parent.
     SelectionController(int did, TvxAttributesSelectionDialog *dialog);
     ~SelectionController() override;
 
-    /// Connects the widgets to their reactions; a second call does nothing.
+    /// Connects the widgets. A second call does nothing.
     void connectWidgets();
 
     const SelectionWidgets &widgets() const { return m_widgets; }
@@ -44,14 +40,10 @@ public:
     RowMover &mover() { return *m_mover; }
 
     int displayUnits() const { return m_displayUnits; }
-    /// An open edit is ended and stored first: its number stands in the units of before.
+    /// Stores the code. Commits an open editor first: its value is in the old units.
     void setDisplayUnits(int units);
-
-    void fillTopView(const QList<QTableWidgetItem *> &items);
-    void setContextMenu(QMenu *menu);
-    /// The value items of the selected chosen rows, in row order; that of the current row if none is
-    /// selected.
-    QList<QTableWidgetItem *> contextMenuItems() const;
+    /// Fills the available table with clones of the items.
+    void fillAvailable(const QList<QTableWidgetItem *> &items);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -66,8 +58,7 @@ private:
     void applyCriteria();
     void refill();
     void fitNameColumns();
-    void showContextMenu(const QPoint &globalPosition);
-    bool filterKey(QKeyEvent *event);
+    void fitToFont();
     void refresh();
 
     TvxAttributesSelectionDialog *m_dialog;
@@ -75,7 +66,6 @@ private:
     FilterCriteria m_criteria;
     RowMover *m_mover;
     DialogStatus m_status;
-    QPointer<QMenu> m_contextMenu;
     int m_displayUnits = -1;
     bool m_isConnected = false;
 };

@@ -30,7 +30,7 @@ namespace tvx
 namespace
 {
 
-/// The height, in lines of text, from which the description gets a third line.
+/// The height of the dialog, in lines of text, from which on the description has a third line.
 constexpr int AmpleHeight = 32;
 
 template <class Widget>
@@ -41,8 +41,7 @@ Widget *named(Widget *widget, const char *objectName, const char *spokenName)
     return widget;
 }
 
-/// A click leaves the keyboard where it is: in the table that is worked on, or in an editor whose entry only
-/// the button's own meaning may keep or drop.
+/// A click must not move the focus: it would end an open edit before the slot of the button decides to store or drop it.
 QPushButton *button(QDialog *dialog, const char *objectName, const char *text, const char *hint)
 {
     QPushButton *button = named(new QPushButton(textOf(text), dialog), objectName, text);
@@ -106,7 +105,7 @@ void SelectionWidgets::createButtons(QDialog *dialog)
 
     buttonBox = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, dialog);
     buttonBox->setObjectName(QLatin1String("buttonBox"));
-    // Qt's own texts have no letter to press.
+    // The standard texts of QDialogButtonBox have no mnemonics.
     buttonBox->button(QDialogButtonBox::Ok)->setText(textOf(texts::Ok));
     buttonBox->button(QDialogButtonBox::Cancel)->setText(textOf(texts::Cancel));
     const auto ends = buttonBox->buttons();
@@ -137,7 +136,7 @@ void SelectionWidgets::arrange(QDialog *dialog)
     layout->addWidget(description);
     layout->addLayout(ends);
 
-    // The tables came first, and Tab goes by the order of coming; each is to be reached where it stands.
+    // Tab order defaults to creation order; make it match the layout.
     QWidget::setTabOrder(topView, addButton);
     QWidget::setTabOrder(clearButton, chosenList);
     QWidget::setTabOrder(chosenList, buttonBox->button(QDialogButtonBox::Ok));
@@ -167,7 +166,7 @@ QLayout *SelectionWidgets::criteriaLayout() const
 
 QWidget *SelectionWidgets::tablesWidget(QDialog *dialog) const
 {
-    // Put in while it is empty: the splitter measures at once what it gets.
+    // Added to the splitter before its children: the splitter asks for size hints as soon as a widget is added.
     auto *lower = new QWidget(dialog);
     auto *splitter = new QSplitter(Qt::Vertical, dialog);
     splitter->setChildrenCollapsible(false);

@@ -18,17 +18,16 @@ namespace tvx
 class ChosenTable;
 class AvailableTable;
 
-/// The widgets of the dialog and their places: entity, group and filter; what is on offer; the buttons
-/// between the tables; what is chosen; the description; OK and Cancel. The dialog owns them all. Object names
-/// are those of the members.
+/// Creates the widgets of the dialog and their layout. The dialog owns the widgets. Connects nothing. The members have the
+/// names of the objects.
 class SelectionWidgets
 {
 public:
     explicit SelectionWidgets(QDialog *dialog);
 
-    /// Sets the sizes that hang on the font.
+    /// Sets the sizes that depend on the font.
     void fitToFont();
-    /// Sets those that hang on the height of the dialog: a low one leaves its room to the tables.
+    /// Sets the height of the description: fewer lines in a low dialog, for the tables.
     void fitToHeight();
 
     QComboBox *entityList;

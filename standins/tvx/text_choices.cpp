@@ -1,13 +1,11 @@
 #include "tvx/text_choices.h"
 
-#include "gdm/items/attr_records.h"
-#include "gdm/items/attr_roles.h"
+#include "tvx/attribute_item.h"
 #include "tvx/editor_note.h"
 
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QTableWidgetItem>
 #include <QToolTip>
 
 #include <algorithm>
@@ -35,7 +33,7 @@ void addChoices(QComboBox *box, const DmlAttrDef &definition)
 TextChoices *TextChoices::attach(QWidget *editor, const QTableWidgetItem &item)
 {
     auto *box = qobject_cast<QComboBox *>(editor);
-    const auto *definition = static_cast<const DmlAttrDef *>(item.data(DmlAttrDefRole).value<void *>());
+    const auto *definition = definitionOf(item);
     if (!box || !definition || definition->type != DmlAttrText)
         return nullptr;
     if (box->count() == 0)
@@ -65,14 +63,14 @@ TextChoices::TextChoices(QComboBox *box)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     box->installEventFilter(this);
     connect(box, &QObject::destroyed, this, &QObject::deleteLater);
-    connect(box->lineEdit(), &QLineEdit::textEdited, this, &TextChoices::offer);
+    connect(box->lineEdit(), &QLineEdit::textEdited, this, &TextChoices::showMatches);
     connect(this, &QListWidget::itemClicked, this, [this](const QListWidgetItem *choice) {
         m_box->setEditText(choice->text());
         hide();
     });
 }
 
-void TextChoices::offer(const QString &typed)
+void TextChoices::showMatches(const QString &typed)
 {
     m_typed = typed;
     clear();

@@ -12,7 +12,7 @@ namespace Zudunmaf
 namespace tvx
 {
 
-/// Offers the choices of a text that begin with what is being typed, below the editor. Up and Down put one of them into
+/// Lists the choices of a text that begin with what is being typed, below the editor. Up and Down put one of them into
 /// the editor, and so does a click.
 ///
 /// A completer would either replace what is typed or open a popup, which takes the next click for itself. The list is
@@ -36,7 +36,7 @@ protected:
 
 private:
     explicit TextChoices(QComboBox *box);
-    void offer(const QString &typed);
+    void showMatches(const QString &typed);
     QStringList matches(const QString &typed) const;
     bool pick(int step);
     bool filterKey(int key);

@@ -2,7 +2,8 @@
 
 #include "tvx/available_table.h"
 #include "tvx/button_picture.h"
-#include "tvx/row_mover.h"
+#include "tvx/chosen_table.h"
+#include "tvx/row_menu.h"
 #include "tvx/selection_controller.h"
 
 #include <QCloseEvent>
@@ -26,7 +27,7 @@ TvxAttributesSelectionDialog::TvxAttributesSelectionDialog(int did, QWidget *par
 
 TvxAttributesSelectionDialog::~TvxAttributesSelectionDialog()
 {
-    // Before QWidget takes the children down: with it go all connections.
+    // Before QWidget deletes the children: no signal of theirs must reach a dialog that is half destroyed.
     delete d;
 }
 
@@ -121,12 +122,12 @@ bool TvxAttributesSelectionDialog::setButtonPixmap(Buttons_Enum button, const QS
 
 void TvxAttributesSelectionDialog::setCustomContextMenu(QMenu *menu)
 {
-    d->setContextMenu(menu);
+    d->widgets().chosenList->menu()->setMenu(menu);
 }
 
 QList<QTableWidgetItem *> TvxAttributesSelectionDialog::getItemsForContextMenuCallback()
 {
-    return d->contextMenuItems();
+    return d->widgets().chosenList->menu()->items();
 }
 
 void TvxAttributesSelectionDialog::editCurrentItem()
@@ -146,7 +147,7 @@ void TvxAttributesSelectionDialog::fillGroupsList(const QStringList &groups)
 
 void TvxAttributesSelectionDialog::fillAttributeList(const QList<QTableWidgetItem *> &items)
 {
-    d->fillTopView(items);
+    d->fillAvailable(items);
 }
 
 void TvxAttributesSelectionDialog::closeEvent(QCloseEvent *event)

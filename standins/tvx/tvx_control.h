@@ -8,20 +8,20 @@ class TvxAttributesSelectionDialog;
 
 namespace Zudunmaf
 {
-/// The stand-in of the base dialog.
+/// The stand-in for the base dialog.
 namespace tvx
 {
 
-/// Puts an attribute into the chosen list of a dialog, best before it is shown, so that a filter or an
-/// assignment can be opened again and changed. What the list gets are copies, as by the add button, behind
-/// its other rows; the item stays the caller's. The dialog's add hook is called with the attribute's row of
-/// the top view, if there is one: in "Assign Attributes" that row leaves the top view.
+/// Adds copies of an item to the chosen table of a dialog, so that a host can restore a filter or an assignment. Call it
+/// before the dialog is shown. The item stays the caller's.
 ///
-/// The item is of the dialog's own class and holds a definition, whether made with createNewItem() or cloned
-/// from what findItemByAttrName() gives. False, and nothing added, where it names no attribute or holds no
-/// definition, where it is of the class of the other dialog, or where it holds a value and the attribute has one in
-/// the list already. Conditions on one
-/// attribute may be several.
+/// Calls the dialog's add hook with the item of the same attribute in the available table, if there is one: "Assign
+/// Attributes" hides that row.
+///
+/// The item must be of the dialog's own class and hold a definition, whether made with createNewItem() or cloned from a
+/// result of findItemByAttrName(). Returns false, and adds nothing, if it has no attribute or no definition, if it is of
+/// the class of the other dialog, or if it holds a value and the attribute has a value in the chosen table already. An
+/// attribute may have several conditions.
 GDM_EXPORT bool addChosen(TvxAttributesSelectionDialog &dialog, const QTableWidgetItem &item);
 
 } // namespace tvx

@@ -1,0 +1,132 @@
+#include "tvx/chosen_rows.h"
+
+#include "tvx/attribute_table.h"
+#include "tvx/row_sorter.h"
+
+#include <QItemSelection>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <utility>
+
+namespace Zudunmaf
+{
+namespace tvx
+{
+
+ChosenRows::ChosenRows(AttributeTable *table)
+    : m_table(table)
+{
+}
+
+void ChosenRows::append(std::vector<ChosenRow> rows)
+{
+    insertAtEnd(std::move(rows));
+    m_table->sorter()->sortIfByColumn();
+}
+
+void ChosenRows::restore(std::vector<ChosenRow> rows)
+{
+    QVector<int> arrivalIndexes;
+    arrivalIndexes.reserve(static_cast<int>(rows.size()));
+    for (const ChosenRow &row : rows)
+        arrivalIndexes.append(row.arrivalIndex);
+    insertAtEnd(std::move(rows));
+    m_table->sorter()->order().rowsRestored(m_table->rowCount(), arrivalIndexes);
+    m_table->sorter()->sort();
+}
+
+void ChosenRows::insertAtEnd(std::vector<ChosenRow> rows)
+{
+    const int first = m_table->rowCount();
+    m_table->model()->insertRows(first, static_cast<int>(rows.size()));
+    {
+        const QSignalBlocker blocker(m_table->model());
+        int next = first;
+        for (ChosenRow &row : rows) {
+            m_table->setItem(next, AttributeTable::NameColumn, row.name.release());
+            m_table->setItem(next++, AttributeTable::ValueColumn, row.value.release());
+        }
+    }
+    m_table->viewport()->update();
+    if (first == 0)
+        m_table->updateRowHeight();
+}
+
+std::vector<ChosenRow> ChosenRows::take(const QVector<int> &rows)
+{
+    RowOrder &order = m_table->sorter()->order();
+    const QVector<int> arrivalIndexes = order.arrivalIndexesOf(rows);
+    std::vector<ChosenRow> taken(rows.size());
+    {
+        const QSignalBlocker blocker(m_table->model());
+        for (int i = 0; i < rows.size(); ++i) {
+            ChosenRow &row = taken[static_cast<std::size_t>(i)];
+            row.name.reset(m_table->takeItem(rows[i], AttributeTable::NameColumn));
+            row.value.reset(m_table->takeItem(rows[i], AttributeTable::ValueColumn));
+            row.arrivalIndex = arrivalIndexes[i];
+        }
+    }
+    order.rowsRemoved(rows);
+    removeRows(rows);
+    if (!rows.isEmpty())
+        refreshItemPositions(rows.first());
+    m_table->viewport()->update();
+    if (order.isSorted()) {
+        std::sort(taken.begin(), taken.end(),
+                  [](const ChosenRow &a, const ChosenRow &b) { return a.arrivalIndex < b.arrivalIndex; });
+    }
+    return taken;
+}
+
+/// Removes adjacent rows together, from the last ones: each removal moves all rows below it.
+void ChosenRows::removeRows(const QVector<int> &rows)
+{
+    for (auto last = rows.size() - 1; last >= 0;) {
+        auto first = last;
+        while (first > 0 && rows[first - 1] == rows[first] - 1)
+            --first;
+        m_table->model()->removeRows(rows[first], static_cast<int>(last - first + 1));
+        last = first - 1;
+    }
+}
+
+/// Re-inserts the items from this row on, because QTableWidgetItem caches its index: after rows above it have come or
+/// gone, each call of column() would search the table for the item.
+void ChosenRows::refreshItemPositions(int firstRow)
+{
+    const QSignalBlocker blocker(m_table->model());
+    for (int row = firstRow; row < m_table->rowCount(); ++row) {
+        for (const int column : {AttributeTable::NameColumn, AttributeTable::ValueColumn})
+            m_table->setItem(row, column, m_table->takeItem(row, column));
+    }
+}
+
+void ChosenRows::select(const QVector<QTableWidgetItem *> &values)
+{
+    if (values.isEmpty())
+        return;
+    QVector<int> rows;
+    rows.reserve(values.size());
+    for (const QTableWidgetItem *value : values)
+        rows.append(value->row());
+    std::sort(rows.begin(), rows.end());
+
+    // Adjacent rows form one range: the cost of a selection grows with its ranges.
+    const QAbstractItemModel *model = m_table->model();
+    QItemSelection selection;
+    for (int first = 0; first < rows.size();) {
+        int last = first;
+        while (last + 1 < rows.size() && rows[last + 1] == rows[last] + 1)
+            ++last;
+        selection.select(model->index(rows[first], AttributeTable::NameColumn),
+                         model->index(rows[last], AttributeTable::ValueColumn));
+        first = last + 1;
+    }
+    m_table->setCurrentCell(rows.first(), AttributeTable::NameColumn, QItemSelectionModel::NoUpdate);
+    m_table->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    m_table->scrollToItem(m_table->item(rows.last(), AttributeTable::NameColumn));
+}
+
+} // namespace tvx
+} // namespace Zudunmaf

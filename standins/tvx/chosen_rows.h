@@ -1,0 +1,52 @@
+#ifndef TVX_CHOSEN_ROWS_H
+#define TVX_CHOSEN_ROWS_H
+
+#include <QTableWidgetItem>
+#include <QVector>
+
+#include <memory>
+#include <vector>
+
+namespace Zudunmaf
+{
+namespace tvx
+{
+
+class AttributeTable;
+
+/// A row outside of the table: its two items, and its index in the order of arrival.
+struct ChosenRow {
+    std::unique_ptr<QTableWidgetItem> name;
+    std::unique_ptr<QTableWidgetItem> value;
+    int arrivalIndex;
+};
+
+/// Appends whole rows to the chosen table, takes them out, restores and selects them. Owned by the table. Does not decide
+/// which rows, and calls no hook.
+class ChosenRows
+{
+public:
+    explicit ChosenRows(AttributeTable *table);
+
+    /// Appends rows, then re-sorts. Ignores ChosenRow::arrivalIndex.
+    void append(std::vector<ChosenRow> rows);
+    /// Takes out rows, which are in ascending order. Returns them in the order of arrival.
+    std::vector<ChosenRow> take(const QVector<int> &rows);
+    /// Inserts rows that take() has returned, at their arrival indexes, then re-sorts.
+    void restore(std::vector<ChosenRow> rows);
+    /// Selects the rows of these value items only, makes the first of them current and scrolls to the last. Does nothing
+    /// without an item.
+    void select(const QVector<QTableWidgetItem *> &values);
+
+private:
+    void insertAtEnd(std::vector<ChosenRow> rows);
+    void removeRows(const QVector<int> &rows);
+    void refreshItemPositions(int firstRow);
+
+    AttributeTable *m_table;
+};
+
+} // namespace tvx
+} // namespace Zudunmaf
+
+#endif

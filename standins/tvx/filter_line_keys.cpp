@@ -1,0 +1,63 @@
+#include "tvx/filter_line_keys.h"
+
+#include "tvx/available_table.h"
+#include "tvx/row_mover.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+namespace Zudunmaf
+{
+namespace tvx
+{
+
+FilterLineKeys::FilterLineKeys(QLineEdit *line, AvailableTable *available, RowMover *mover, QObject *parent)
+    : QObject(parent)
+    , m_line(line)
+    , m_available(available)
+    , m_mover(mover)
+{
+    line->installEventFilter(this);
+}
+
+bool FilterLineKeys::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress)
+        return filterKey(static_cast<QKeyEvent *>(event));
+    return QObject::eventFilter(watched, event);
+}
+
+bool FilterLineKeys::filterKey(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Undo) && !m_line->isUndoAvailable()) {
+        m_mover->undoRemoval();
+        return true;
+    }
+    switch (event->key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        QApplication::sendEvent(m_available, event);
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (!event->isAutoRepeat()) {
+            m_mover->addSelected();
+            // So that the next letter starts a new search.
+            m_line->selectAll();
+        }
+        return true;
+    case Qt::Key_Escape:
+        if (m_line->text().isEmpty())
+            return false;
+        m_line->clear();
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace tvx
+} // namespace Zudunmaf

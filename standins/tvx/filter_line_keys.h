@@ -1,0 +1,40 @@
+#ifndef TVX_FILTER_LINE_KEYS_H
+#define TVX_FILTER_LINE_KEYS_H
+
+#include <QObject>
+
+class QKeyEvent;
+class QLineEdit;
+
+namespace Zudunmaf
+{
+namespace tvx
+{
+
+class AvailableTable;
+class RowMover;
+
+/// Handles the keys that a line of text does not need while the user types into the filter: Up, Down and the page keys
+/// move in the available table, Enter adds, Escape clears the text, Undo restores removed rows. Owned by the controller.
+class FilterLineKeys : public QObject
+{
+    Q_OBJECT
+
+public:
+    FilterLineKeys(QLineEdit *line, AvailableTable *available, RowMover *mover, QObject *parent);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    bool filterKey(QKeyEvent *event);
+
+    QLineEdit *m_line;
+    AvailableTable *m_available;
+    RowMover *m_mover;
+};
+
+} // namespace tvx
+} // namespace Zudunmaf
+
+#endif
