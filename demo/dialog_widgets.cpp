@@ -42,7 +42,7 @@ DialogWidgets::DialogWidgets(const QDialog &dialog)
     find("removeButton", &removeButton);
     find("undoButton", &undoButton);
     find("clearButton", &clearButton);
-    find("offeredLabel", &offeredLabel);
+    find("availableLabel", &availableLabel);
     find("chosenLabel", &chosenLabel);
     find("description", &description);
     find("preview", &preview);

@@ -32,7 +32,7 @@ struct DialogWidgets {
     QPushButton *clearButton = nullptr;
     QPushButton *okButton = nullptr;
     QPushButton *cancelButton = nullptr;
-    QLabel *offeredLabel = nullptr;
+    QLabel *availableLabel = nullptr;
     QLabel *chosenLabel = nullptr;
     QLabel *description = nullptr;
     QLabel *preview = nullptr;

@@ -106,7 +106,7 @@ void DialogStatus::updateCounts() const
     const QString shown = textOf(texts::ShownOfTotal)
                               .arg(m_widgets.topView->visibleRowCount())
                               .arg(m_widgets.topView->rowCount());
-    m_widgets.offeredLabel->setText(textOf(texts::Offered) + QLatin1Char(' ') + shown);
+    m_widgets.availableLabel->setText(textOf(texts::Available) + QLatin1Char(' ') + shown);
     m_widgets.chosenLabel->setText(textOf(texts::Chosen) + QLatin1Char(' ') +
                                    QString::number(m_widgets.chosenList->rowCount()));
 }

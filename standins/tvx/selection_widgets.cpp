@@ -89,7 +89,7 @@ void SelectionWidgets::createCriteria(QDialog *dialog)
 
 void SelectionWidgets::createTables(QDialog *dialog)
 {
-    topView = named(new AvailableTable(dialog), "topView", texts::Offered);
+    topView = named(new AvailableTable(dialog), "topView", texts::Available);
     chosenList = named(new ChosenTable(dialog), "chosenList", texts::Chosen);
     chosenList->emptyText().setText(textOf(texts::NothingChosen));
 }
@@ -118,8 +118,8 @@ void SelectionWidgets::createTexts(QDialog *dialog)
     description = named(new TextLines(dialog), "description", texts::Description);
     preview = named(new TextLines(dialog), "preview", texts::Preview);
     preview->setAlignment(Qt::AlignLeading | Qt::AlignVCenter);
-    offeredLabel = label(texts::Offered, topView);
-    offeredLabel->setObjectName(QLatin1String("offeredLabel"));
+    availableLabel = label(texts::Available, topView);
+    availableLabel->setObjectName(QLatin1String("availableLabel"));
     chosenLabel = label(texts::Chosen, chosenList);
     chosenLabel->setObjectName(QLatin1String("chosenLabel"));
 }
@@ -156,7 +156,7 @@ QLayout *SelectionWidgets::criteriaLayout() const
     filter->addWidget(label(texts::Filter, filterText));
     filter->addWidget(filterText, 1);
     filter->addSpacing(gap);
-    filter->addWidget(offeredLabel);
+    filter->addWidget(availableLabel);
 
     auto *layout = new QVBoxLayout;
     layout->addLayout(lists);

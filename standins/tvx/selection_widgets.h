@@ -33,7 +33,7 @@ public:
     QComboBox *entityList;
     QComboBox *groupList;
     QLineEdit *filterText;
-    QLabel *offeredLabel;
+    QLabel *availableLabel;
     AvailableTable *topView;
     QPushButton *addButton;
     QPushButton *removeButton;

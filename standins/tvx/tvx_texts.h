@@ -10,8 +10,8 @@ namespace Zudunmaf
 namespace tvx
 {
 
-/// Every text of the base dialog's own, by the key that a catalogue answers. A letter behind "&" is the key
-/// that reaches the widget; a translation keeps them apart from each other and from those of OK and Cancel.
+/// The keys of the base dialog's own messages. The letter after "&" is the mnemonic of a widget; a translation keeps the
+/// mnemonics distinct.
 namespace texts
 {
 
@@ -19,25 +19,26 @@ constexpr char Entity[] = "@$@#tvx@$@#GENERAL@$@#1@$@#&Entity:";
 constexpr char Group[] = "@$@#tvx@$@#GENERAL@$@#2@$@#&Group:";
 constexpr char Filter[] = "@$@#tvx@$@#GENERAL@$@#3@$@#&Filter:";
 constexpr char FilterHint[] = "@$@#tvx@$@#GENERAL@$@#4@$@#Part of a name, * and ? allowed";
-constexpr char Offered[] = "@$@#tvx@$@#GENERAL@$@#5@$@#A&ttributes:";
+constexpr char Available[] = "@$@#tvx@$@#GENERAL@$@#5@$@#A&ttributes:";
 constexpr char Chosen[] = "@$@#tvx@$@#GENERAL@$@#6@$@#C&hosen:";
 constexpr char ShownOfTotal[] = "@$@#tvx@$@#GENERAL@$@#7@$@#%1 of %2";
 
 constexpr char Add[] = "@$@#tvx@$@#GENERAL@$@#10@$@#&Add";
-constexpr char AddHint[] = "@$@#tvx@$@#GENERAL@$@#11@$@#Take over the selected attributes (Enter)";
+constexpr char AddHint[] = "@$@#tvx@$@#GENERAL@$@#11@$@#Add the selected attributes (Enter)";
 constexpr char Remove[] = "@$@#tvx@$@#GENERAL@$@#12@$@#&Remove";
-constexpr char RemoveHint[] = "@$@#tvx@$@#GENERAL@$@#13@$@#Take the selected rows away (Delete)";
+constexpr char RemoveHint[] = "@$@#tvx@$@#GENERAL@$@#13@$@#Remove the selected attributes (Delete)";
 constexpr char Undo[] = "@$@#tvx@$@#GENERAL@$@#14@$@#&Undo";
-constexpr char UndoHint[] = "@$@#tvx@$@#GENERAL@$@#15@$@#Bring the rows removed last back (Ctrl+Z)";
+constexpr char UndoHint[] = "@$@#tvx@$@#GENERAL@$@#15@$@#Restore the attributes removed last (Ctrl+Z)";
 constexpr char ClearAll[] = "@$@#tvx@$@#GENERAL@$@#16@$@#Clear a&ll";
 constexpr char ClearAllHint[] =
-    "@$@#tvx@$@#GENERAL@$@#17@$@#Take every chosen row away; Undo brings them back";
+    "@$@#tvx@$@#GENERAL@$@#17@$@#Remove all chosen attributes; Undo restores them";
 constexpr char Ok[] = "@$@#tvx@$@#GENERAL@$@#18@$@#&OK";
 constexpr char Cancel[] = "@$@#tvx@$@#GENERAL@$@#19@$@#&Cancel";
 
 constexpr char NoDictionary[] = "@$@#tvx@$@#GENERAL@$@#20@$@#There is no attribute dictionary.";
-constexpr char NothingMatches[] = "@$@#tvx@$@#GENERAL@$@#21@$@#Nothing to choose from here. Clear the "
-                                  "filter, or choose all entities and all groups.";
+constexpr char NothingMatches[] =
+    "@$@#tvx@$@#GENERAL@$@#21@$@#No attributes to choose here. Clear the filter, or "
+    "select all entities and all groups.";
 constexpr char NothingLeft[] = "@$@#tvx@$@#GENERAL@$@#22@$@#No attribute is left to choose.";
 constexpr char NothingChosen[] =
     "@$@#tvx@$@#GENERAL@$@#23@$@#Nothing chosen yet. Select attributes above and press Enter or Add.";
@@ -64,13 +65,13 @@ constexpr char TypeFloat[] = "@$@#tvx@$@#GENERAL@$@#38@$@#float";
 
 } // namespace texts
 
-/// The text of a key in the user's language.
+/// Returns the text of a key in the user's language.
 inline QString textOf(const char *key)
 {
     return QString::fromUtf8(standins::messageOf(key));
 }
 
-/// The same without the mark of its key and without a colon, as a name that is read aloud.
+/// Returns the same text without mnemonic and colon, for a screen reader.
 inline QString spokenTextOf(const char *key)
 {
     QString text = textOf(key).remove(QLatin1Char('&'));

@@ -113,7 +113,7 @@ private Q_SLOTS:
         const int total = inFilter() ? 49 : 48;
         const int left = inFilter() ? 10 : 9;
         const auto says = [&](int shown, int chosen) {
-            return offeredLabel->text().endsWith(QString(" %1 of %2").arg(shown).arg(total)) &&
+            return availableLabel->text().endsWith(QString(" %1 of %2").arg(shown).arg(total)) &&
                    chosenLabel->text().endsWith(QString(" %1").arg(chosen)) &&
                    removeButton->isEnabled() == (chosen > 0) && clearButton->isEnabled() == (chosen > 0);
         };
