@@ -166,7 +166,7 @@ private:
             QTest::mouseDClick(m_dialog->windowHandle(), Qt::LeftButton, Qt::NoModifier, place);
     }
 
-    /// A turn of the wheel, and rows that are dropped: of this dialog, of the one beside it or of none.
+    /// A turn of the wheel, and a drop without a source, as from another program.
     void sendToTable(unsigned a, unsigned b)
     {
         QWidget *target = table(a)->viewport();
@@ -174,10 +174,8 @@ private:
         QWheelEvent wheel(QPointF(3, 3), QPointF(3, 3), QPoint(), QPoint(0, b % 2 ? 120 : -120), Qt::NoButton,
                           Qt::NoModifier, Qt::NoScrollPhase, false);
         QCoreApplication::sendEvent(focus ? focus : target, &wheel);
-        const TvxAttributesSelectionDialog *source = b % 5 ? m_dialog.get() : m_beside.get();
         QMimeData rows;
-        rows.setData(b % 2 ? "application/x-zudunmaf-offered-rows" : "application/x-zudunmaf-chosen-rows",
-                     QByteArray::number(reinterpret_cast<quintptr>(source)));
+        rows.setData("application/x-zudunmaf-rows", QByteArray());
         QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &rows, Qt::LeftButton, Qt::NoModifier);
         QDropEvent drop(QPointF(9, 9), Qt::CopyAction, &rows, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(target, &enter);
