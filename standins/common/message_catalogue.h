@@ -1,60 +1,30 @@
 #ifndef COMMON_MESSAGE_CATALOGUE_H
 #define COMMON_MESSAGE_CATALOGUE_H
 
-#include <cstddef>
-#include <cstring>
-#include <libintl.h>
+#include <QString>
 
-/// How the stand-ins find the text of a message: in the gettext catalogues of one domain, by the whole key.
+/// @file
+/// The texts of messages, from the gettext catalogues of one domain. The base dialog's and the services' stand-in each
+/// contain a copy of this code, so that neither needs the other.
 ///
-/// Only a look-up, so that each stand-in can have its own copy. Which language is spoken and where the
-/// catalogues lie is the process's: the services' stand-in sets both (gen/gen_control.h). Without it the
-/// English text stands.
+/// A catalogue maps a whole message key to its translation. The directory of the catalogues is bound to the domain for the
+/// process: by gen::setCatalogueDirectory(), or at the first message to the directory that was installed or built with the
+/// stand-ins. The language is that of LC_MESSAGES and LANGUAGE, which gen::setLanguage() sets.
 namespace Zudunmaf
 {
 namespace standins
 {
 
-constexpr char CatalogueDomain[] = "zudunmaf";
+/// Returns the text of a message key in UTF-8: the translation, or field 4 of the key if there is none. Returns the key
+/// itself if it has fewer than four fields, an empty text for null, and never null. The key must outlive the answer.
+const char *messageOf(const char *key);
 
-/// Field 4 of a key such as "@$@#gdm_qt@$@#GENERAL@$@#967@$@#Name", inside the key itself; null where the key
-/// does not have four fields. `key` is not null.
-inline const char *englishTextOf(const char *key)
-{
-    constexpr char marker[] = "@$@#";
-    constexpr std::size_t width = sizeof marker - 1;
+/// Returns the translation of `text` in UTF-8, or `text` itself if there is none. `text` must not be null.
+const char *translationOf(const char *text);
 
-    if (std::strncmp(key, marker, width) != 0)
-        return nullptr;
-    const char *text = key + width;
-    for (int field = 2; field <= 4; ++field) {
-        text = std::strstr(text, marker);
-        if (!text)
-            return nullptr;
-        text += width;
-    }
-    return text;
-}
-
-/// The translation of `text`, or `text` itself where there is none. Neither null nor freed by anyone.
-inline const char *translationOf(const char *text)
-{
-    // gettext answers the empty text with the header of its catalogue.
-    return *text ? dgettext(CatalogueDomain, text) : text;
-}
-
-/// The text to show for a message key, in UTF-8: the translation, else field 4, and never null. A key that is
-/// malformed is its own text; a null key has the empty one. The key must outlive the answer.
-inline const char *messageOf(const char *key)
-{
-    if (!key)
-        return "";
-    const char *english = englishTextOf(key);
-    if (!english)
-        return key;
-    const char *text = translationOf(key);
-    return text == key ? english : text;
-}
+/// Reads the catalogues from `directory`. An empty text stands for the directory that was installed or built with the
+/// stand-ins.
+void bindCatalogues(const QString &directory);
 
 } // namespace standins
 } // namespace Zudunmaf

@@ -5,48 +5,13 @@
 
 #include <clocale>
 #include <cstring>
-#include <dlfcn.h>
+#include <libintl.h>
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QSet>
 
 namespace
 {
-
-using Zudunmaf::standins::CatalogueDomain;
-
-/// Where the catalogues lie by default, seen from this library: installed, or still in the build directory.
-QString defaultCatalogueDirectory()
-{
-    Dl_info library;
-    if (dladdr(reinterpret_cast<const void *>(&CatalogueDomain), &library) == 0)
-        return QString();
-    const QFileInfo file(QFile::decodeName(library.dli_fname));
-    const QDir home(QFileInfo(file.canonicalFilePath()).absolutePath());
-    for (const char *way : {ZUDUNMAF_LOCALE_FROM_LIBRARY, ZUDUNMAF_LOCALE_FROM_BUILT_LIBRARY}) {
-        const QString directory = home.filePath(QLatin1String(way));
-        if (QFileInfo(directory).isDir())
-            return QDir::cleanPath(directory);
-    }
-    return QString();
-}
-
-void bindCatalogues(const QString &directory)
-{
-    if (!directory.isEmpty())
-        bindtextdomain(CatalogueDomain, QFile::encodeName(directory).constData());
-    bind_textdomain_codeset(CatalogueDomain, "UTF-8");
-}
-
-// At load, since another stand-in may want a message before anybody has called a service.
-void bindDefaultCatalogues()
-{
-    bindCatalogues(defaultCatalogueDirectory());
-}
-Q_CONSTRUCTOR_FUNCTION(bindDefaultCatalogues)
 
 /// In the locale "C" gettext translates nothing, whatever language is asked for.
 void leaveUntranslatedLocale()
@@ -105,7 +70,7 @@ void Zudunmaf::gen::setLanguage(const QString &language)
 
 void Zudunmaf::gen::setCatalogueDirectory(const QString &directory)
 {
-    bindCatalogues(directory.isEmpty() ? defaultCatalogueDirectory() : QDir(directory).absolutePath());
+    Zudunmaf::standins::bindCatalogues(directory);
     forgetFoundTranslations();
 }
 
