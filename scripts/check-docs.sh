@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Checks the pages of the tree: every relative link leads to a file, and every command of a code block that starts in
-# the tree names a script that can be run.
+# Checks the pages of the tree: every relative link leads to a file, every command of a code block that starts in the tree
+# names a script that can be run, and files and functions that the text names exist.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -13,6 +13,7 @@ complain() {
 }
 
 mapfile -t pages < <(git ls-files -co --exclude-standard -- '*.md')
+mapfile -t headers_of_tree < <(git ls-files -co --exclude-standard -- '*.h')
 for page in "${pages[@]}"; do
     folder=$(dirname "$page")
     while read -r target; do
@@ -26,6 +27,12 @@ for page in "${pages[@]}"; do
     # Files of the tree that the text names must be there too.
     while read -r name; do
         [ -e "$name" ] || complain "$page: no such file: $name"
-    done < <(grep -oE '`(scripts|docs|cmake|examples|tests|bench|po|abi|\.ci)/[A-Za-z0-9_./-]+`' "$page" | tr -d '`')
+    done < <(grep -oE '`(code|standins|demo|scripts|docs|cmake|examples|tests|bench|po|abi|\.ci)/[A-Za-z0-9_./-]+`' "$page" | tr -d '`')
+    # So must functions be in a header with their class. Classes of Qt are not looked up.
+    while read -r name; do
+        headers=$(grep -lE "^class ([A-Z_]+ )?${name%%::*}\\b" "${headers_of_tree[@]}" || true)
+        # shellcheck disable=SC2086
+        grep -qsE "\\b${name##*::}\\(" $headers /dev/null || complain "$page: no such function: $name()"
+    done < <(grep -oE '`[A-Z][A-Za-z]*::[A-Za-z]+\(\)`' "$page" | tr -d '`()' | grep -v '^Q')
 done
 exit $status

@@ -130,6 +130,8 @@ while read -r place line; do
 done <<'PLANTS'
 planted.md See [planted](planted.md).
 scripts/planted.sh `scripts/planted.sh` is named.
+standins/planted.h `standins/planted.h` is named.
+ChosenRows::planted() `ChosenRows::planted()` is named.
 PLANTS
 printf '\n    scripts/planted.sh --now\n' >>CONTRIBUTING.md
 breaks scripts/planted.sh $check pages
