@@ -19,7 +19,8 @@ namespace
 
 constexpr char CatalogueDomain[] = "zudunmaf";
 
-/// Returns the directory of the catalogues relative to this library, which is installed or still in the build directory.
+/// Returns the directory of the catalogues relative to this library, which is installed or still in the build
+/// directory.
 QString defaultDirectory()
 {
     Dl_info library;

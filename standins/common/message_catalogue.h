@@ -7,9 +7,9 @@
 /// The texts of messages, from the gettext catalogues of one domain. The base dialog's and the services' stand-in each
 /// contain a copy of this code, so that neither needs the other.
 ///
-/// A catalogue maps a whole message key to its translation. The directory of the catalogues is bound to the domain for the
-/// process: by gen::setCatalogueDirectory(), or at the first message to the directory that was installed or built with the
-/// stand-ins. The language is that of LC_MESSAGES and LANGUAGE, which gen::setLanguage() sets.
+/// A catalogue maps a whole message key to its translation. The directory of the catalogues is bound to the domain for
+/// the process: by gen::setCatalogueDirectory(), or at the first message to the directory that was installed or built
+/// with the stand-ins. The language is that of LC_MESSAGES and LANGUAGE, which gen::setLanguage() sets.
 namespace Zudunmaf
 {
 namespace standins

@@ -15,8 +15,8 @@ namespace tvx
 class BatchUpdate;
 class MatchHighlightDelegate;
 
-/// The available attributes: the contract's top view. fill() inserts all rows at once; after that, rows are only hidden,
-/// shown and sorted. Does not decide which rows are visible.
+/// The available attributes: the contract's top view. fill() inserts all rows at once; after that, rows are only
+/// hidden, shown and sorted. Does not decide which rows are visible.
 class AvailableTable : public AttributeTable
 {
     Q_OBJECT
@@ -24,8 +24,8 @@ class AvailableTable : public AttributeTable
 public:
     explicit AvailableTable(QWidget *parent);
 
-    /// Replaces the rows by two clones of each item, all visible. The current attribute stays current, without scrolling,
-    /// if it is among them; else the first row becomes current.
+    /// Replaces the rows by two clones of each item, all visible. The current attribute stays current, without
+    /// scrolling, if it is among them; else the first row becomes current.
     void fill(const QList<QTableWidgetItem *> &items);
     /// Returns how often fill() was called. Each call deletes the items of the table.
     int fillCount() const { return m_fillCount; }

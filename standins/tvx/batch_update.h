@@ -8,8 +8,8 @@ namespace Zudunmaf
 namespace tvx
 {
 
-/// Groups changes to the rows of the available table while it exists. The table is painted, and emits the signals of its
-/// current row and selection, once at the end. Batch updates nest; only the end of the outermost one counts.
+/// Groups changes to the rows of the available table while it exists. The table is painted, and emits the signals of
+/// its current row and selection, once at the end. Batch updates nest; only the end of the outermost one counts.
 class BatchUpdate
 {
 public:

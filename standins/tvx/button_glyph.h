@@ -10,8 +10,8 @@ namespace Zudunmaf
 namespace tvx
 {
 
-/// Paints a plus or minus sign at any size in the text colour of a button, so that it is sharp at every scale and visible
-/// in every palette. Owned by the icon.
+/// Paints a plus or minus sign at any size in the text colour of a button, so that it is sharp at every scale and
+/// visible in every palette. Owned by the icon.
 class ButtonGlyph : public QIconEngine
 {
 public:

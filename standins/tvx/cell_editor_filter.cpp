@@ -23,8 +23,8 @@ bool holdsRefusedText(const QWidget *widget)
     return box && NumberEntry(*box).state() != NumberEntry::Accepted;
 }
 
-/// A step from beyond a limit stops at the limit. The box itself would step from its last value. False for a number that
-/// the box can step from.
+/// Sets a number beyond a limit to the limit, in place of a step: the box would step from its last value. Returns
+/// false, and does nothing, if the box accepts its text.
 bool stepToLimit(const QWidget *widget)
 {
     if (!holdsRefusedText(widget))
@@ -44,7 +44,7 @@ CellEditorFilter::CellEditorFilter(QWidget *editor, const QString &name)
     : QObject(editor)
     , m_editor(editor)
 {
-    // An editor that accepts the focus itself stands for all its widgets.
+    // Only the editor itself, if it accepts the focus.
     auto candidates = editor->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
     if (editor->focusPolicy() & Qt::TabFocus)
         candidates = {editor};
@@ -63,7 +63,7 @@ void CellEditorFilter::install()
         widget->installEventFilter(this);
 }
 
-/// A label before a widget is part of its name.
+/// Sets the accessible names: the attribute, and for one of several widgets also the label before it.
 void CellEditorFilter::nameWidgets(QWidget *editor, const QString &name)
 {
     editor->setAccessibleName(name);
@@ -95,7 +95,7 @@ bool CellEditorFilter::eventFilter(QObject *watched, QEvent *event)
         return QObject::eventFilter(watched, event);
     switch (event->type()) {
     case QEvent::Wheel:
-        // Ignored and filtered, it propagates to the table, which scrolls.
+        // An ignored event propagates to the table, which scrolls.
         event->ignore();
         return true;
     case QEvent::FocusOut:
@@ -108,7 +108,7 @@ bool CellEditorFilter::eventFilter(QObject *watched, QEvent *event)
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
     case QEvent::ContextMenu:
-        // The arrows of a spin box, and its menu with steps. The text is a widget of its own.
+        // These events reach a spin box at its arrows; its text is another widget. Its menu has steps too.
         return stepToLimit(widget);
     default:
         return QObject::eventFilter(watched, event);
@@ -122,7 +122,7 @@ bool CellEditorFilter::filterKey(QWidget *widget, const QKeyEvent *event)
     case Qt::Key_Enter:
         if (widget->inherits("QTextEdit") || widget->inherits("QPlainTextEdit"))
             return false;
-        // Held down, the key that opened the editor would store what it shows.
+        // The repeated key that opened the editor would store what it shows.
         if (!event->isAutoRepeat())
             Q_EMIT entered();
         return true;
@@ -148,8 +148,9 @@ bool CellEditorFilter::leaveBy(const QWidget *last, const QWidget *widget)
     return true;
 }
 
-/// Delivers the event to the widget alone. A spin box would replace a text that it refuses by its last value, so only its
-/// line hears of the focus then, and nothing of being shown or hidden, as when the window is minimised.
+/// Delivers the event to the widget, and not to the delegate's filter. On these events, QAbstractSpinBox replaces a
+/// text that it refuses by its last value. With such a text, FocusOut goes to its line edit only, and Show and Hide,
+/// which are also sent when the window is minimised, go to no widget.
 void CellEditorFilter::deliverKeepingText(QWidget *widget, QEvent *event)
 {
     QObject *receiver = widget;

@@ -15,8 +15,8 @@ namespace tvx
 /// Watches the widgets of one open cell editor: reports Enter and Tab past its last widget, ignores the wheel, and
 /// names each widget for a screen reader. A child of the editor.
 ///
-/// It comes before the delegate's own filter, which ends an edit on Enter, Tab and a loss of the focus. All three are
-/// kept from the delegate: it would commit and close single editors without asking, and leave composite ones open.
+/// Comes before the delegate's own event filter, which would commit and close a single editor on Enter, Tab and a loss
+/// of the focus, and leave a composite editor open. Filters all three.
 class CellEditorFilter : public QObject
 {
     Q_OBJECT
@@ -25,7 +25,8 @@ public:
     /// `name` is the attribute that is edited.
     CellEditorFilter(QWidget *editor, const QString &name);
 
-    /// Puts this filter before all others of the editor. The view puts the delegate's first with each commit.
+    /// Installs this filter before all others. Must be called after each commit, when the view installs the delegate's
+    /// again.
     void install();
     /// Gives the focus to the first widget of the editor that accepts it.
     void focusFirst();

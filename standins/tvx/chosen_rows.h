@@ -21,8 +21,8 @@ struct ChosenRow {
     int arrivalIndex;
 };
 
-/// Appends whole rows to the chosen table, takes them out, restores and selects them. Owned by the table. Does not decide
-/// which rows, and calls no hook.
+/// Appends whole rows to the chosen table, takes them out, restores and selects them. Owned by the table. Does not
+/// decide which rows, and calls no hook.
 class ChosenRows
 {
 public:
@@ -34,8 +34,8 @@ public:
     std::vector<ChosenRow> take(const QVector<int> &rows);
     /// Inserts rows that take() has returned, at their arrival indexes, then re-sorts.
     void restore(std::vector<ChosenRow> rows);
-    /// Selects the rows of these value items only, makes the first of them current and scrolls to the last. Does nothing
-    /// without an item.
+    /// Selects the rows of these value items only, makes the first of them current and scrolls to the last. Does
+    /// nothing without an item.
     void select(const QVector<QTableWidgetItem *> &values);
 
 private:

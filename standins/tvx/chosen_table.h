@@ -32,8 +32,8 @@ public:
     /// Returns the open editor; null if there is none.
     QWidget *openEditor() const;
     /// Closes an open editor and stores what the user has changed. A refused entry leaves the item as it was, and
-    /// lastRefusal() says so. If the table was hidden after the edit began, nothing is stored. Does nothing if no editor
-    /// is open.
+    /// lastRefusal() says so. If the table was hidden after the edit began, nothing is stored. Does nothing if no
+    /// editor is open.
     void finishEditing();
     /// Does the same, but also stores if the table was hidden: QDialog::accept() hides the dialog first.
     void finishAcceptedEditing();

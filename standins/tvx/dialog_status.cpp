@@ -44,7 +44,8 @@ QString typeText(int type)
     }
 }
 
-/// The tool tip of a value is a whole description, one fact a line. That of a condition is not: it is empty, or the prompt.
+/// The tool tip of a value is a whole description, one fact a line. That of a condition is not: it is empty, or the
+/// prompt.
 QString descriptionOf(const QTableWidgetItem &item)
 {
     QStringList parts;
@@ -62,8 +63,8 @@ QString descriptionOf(const QTableWidgetItem &item)
     return parts.join(separator());
 }
 
-/// Moves the focus of a button that becomes disabled to its table. Qt would move it to the next button, which may do the
-/// opposite.
+/// Moves the focus of a button that becomes disabled to its table. Qt would move it to the next button, which may do
+/// the opposite.
 void setEnabled(QPushButton *button, bool enabled, QWidget *table)
 {
     if (!enabled && button->window()->focusWidget() == button)

@@ -15,8 +15,8 @@ class RowMover;
 class SelectionWidgets;
 
 /// Updates everything that follows from the state of the dialog: counts, enabled buttons, description, result line and
-/// the texts of empty tables. Moves the focus off a button that becomes disabled, and changes no other state. Owned by the
-/// controller; its arguments must outlive it.
+/// the texts of empty tables. Moves the focus off a button that becomes disabled, and changes no other state. Owned by
+/// the controller; its arguments must outlive it.
 class DialogStatus
 {
 public:

@@ -31,10 +31,11 @@ public:
     /// Editors and the note are children of `viewport`.
     EditSession(QWidget *viewport, QObject *parent);
 
-    /// Begins with an editor that has been loaded from `value`, the value item at `index`. `name` is the attribute. Gives
-    /// the focus to the first widget of the editor.
+    /// Begins with an editor that has been loaded from `value`, the value item at `index`. `name` is the attribute.
+    /// Gives the focus to the first widget of the editor.
     void begin(QWidget *editor, const QModelIndex &index, const QTableWidgetItem &value, const QString &name);
-    /// Ends the edit. The sentence on a refused entry stays if the entry was refused in the event that is being delivered.
+    /// Ends the edit. The sentence on a refused entry stays if the entry was refused in the event that is being
+    /// delivered.
     void end();
 
     /// Returns the open editor; null if there is none.
@@ -48,7 +49,8 @@ public:
     bool isChanged() const;
     /// Returns true if the limits refuse the entry, which must not be stored then.
     bool isRefused() const;
-    /// Prepares the content for being stored. Returns false if it must not be stored, because it is refused or unchanged.
+    /// Prepares the content for being stored. Returns false if it must not be stored, because it is refused or
+    /// unchanged.
     bool prepareCommit();
     /// Must be called after the editor was stored, or loaded again, so that its content counts as unchanged.
     void restart(const QTableWidgetItem &value);

@@ -21,7 +21,7 @@ namespace tvx
 namespace
 {
 
-/// The widgets with a content of their own: a user property in the sense of Qt. Those within such a widget belong to it.
+/// Returns the widgets that have a user property, which is their content. Skips widgets within those.
 QVector<QWidget *> partsOf(QWidget *widget)
 {
     if (widget->metaObject()->userProperty().isValid())
@@ -33,7 +33,7 @@ QVector<QWidget *> partsOf(QWidget *widget)
     return parts;
 }
 
-/// The line of a widget that can be typed into; null if it has none.
+/// Returns the line edit of a widget; null if it has none.
 QLineEdit *lineOf(QWidget *part)
 {
     if (const auto *box = qobject_cast<const QAbstractSpinBox *>(part))
@@ -52,7 +52,7 @@ QString textOf(const QWidget *part)
     return part->metaObject()->userProperty().read(part).toString();
 }
 
-/// The units in which the editor of an item shows its numbers: those in the cell, else those of the definition.
+/// Returns the units of the numbers in the editor of an item: those in the cell, else those of the definition.
 QString unitsOf(const QTableWidgetItem &item)
 {
     const auto *definition = definitionOf(item);
@@ -88,7 +88,7 @@ void EditorContent::connectParts()
 {
     for (QWidget *part : std::as_const(m_parts)) {
         if (const QLineEdit *line = lineOf(part)) {
-            // The first comes too where a text is replaced by the same one.
+            // textEdited() is also emitted when a text is replaced by the same one.
             connect(line, &QLineEdit::textEdited, this, &EditorContent::noteEdit);
             connect(line, &QLineEdit::textChanged, this, &EditorContent::noteEdit);
         }
@@ -118,7 +118,7 @@ QStringList EditorContent::content() const
 {
     QStringList content = texts();
     content.reserve(2 * m_parts.size());
-    // Entries of a list may read alike.
+    // Entries of a list may have equal texts.
     for (const QWidget *part : m_parts) {
         const auto *box = qobject_cast<const QComboBox *>(part);
         if (box && !box->isEditable())
@@ -127,7 +127,7 @@ QStringList EditorContent::content() const
     return content;
 }
 
-/// The cell writes the same numbers with the same decimals, a range as "5 to 9" and a value with its units.
+/// Compares texts: the cell has the same decimals as the editor, a range reads "5 to 9", and a value has its units.
 bool EditorContent::showsValueOf(const QTableWidgetItem &item) const
 {
     const QString cell = item.text();

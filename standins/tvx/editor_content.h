@@ -14,13 +14,13 @@ namespace Zudunmaf
 namespace tvx
 {
 
-/// What an open cell editor holds, compared with what it held when it was loaded. The delegate stores whatever an editor
+/// The content of an open cell editor, compared with that when it was loaded. A delegate stores whatever an editor
 /// shows; this class says whether the user has changed it, and whether it is a number that the limits refuse. A child
 /// of the editor.
 ///
-/// Content that is changed and changed back counts as unchanged. But if the editor did not show the item's value when it
-/// was loaded, such as for a number outside the limits or an option without a value, entering just what it showed is a
-/// change. An editor without any content that can be read always counts as changed.
+/// Content that is changed and changed back counts as unchanged. But if the editor did not show the item's value when
+/// it was loaded, as with a number outside the limits or an option without a value, entering the same content is a
+/// change. An editor whose content cannot be read always counts as changed.
 class EditorContent : public QObject
 {
     Q_OBJECT
@@ -29,34 +29,34 @@ public:
     /// `editor` has been loaded from `item`, the value item of its row.
     EditorContent(QWidget *editor, const QTableWidgetItem &item);
 
-    /// Takes the present content as the unchanged one: the editor has been loaded again, or its content stored.
+    /// Takes the present content as unchanged. Must be called when the editor was loaded again or its content stored.
     void restart(const QTableWidgetItem &item);
 
     bool isChanged() const;
-    /// True for an entry that must not be stored.
+    /// Returns true if the limits refuse the entry, which must not be stored then.
     bool isRefused() const { return refusedBox() != nullptr; }
-    /// True if the refused entry may become a number as the user types on.
+    /// Returns true if more typing can make the refused entry a number.
     bool isUnfinished() const;
-    /// The box with the refused entry, that which has the focus if there are two; null if none is refused.
+    /// Returns the box with the refused entry, of two the one with the focus; null if none is refused.
     const QAbstractSpinBox *refusedBox() const;
-    /// Why the entry is refused, with the limit and its units; empty if it is not.
+    /// Returns why the entry is refused, with the limit and its units; empty if it is not refused.
     QString refusal() const;
-    /// The same as sentences, one for each refused box, with the texts in the boxes.
+    /// Returns a sentence for each refused box, with its text and the reason.
     QString refusalSentences() const;
     /// Gives the focus to the box with the refused entry and selects it.
     void selectRefused() const;
     /// Makes `message` the accessible description of the box with the refused entry, and clears that of the others.
     void describeRefused(const QString &message) const;
-    /// Has a screen reader read that description once more.
+    /// Makes a screen reader read that description again.
     void announceRefused() const;
 
-    /// Makes the spin boxes read their texts. Not for a refused entry, which they would replace.
+    /// Makes the spin boxes interpret their texts. Must not be called for a refused entry, which they would replace.
     void interpret() const;
-    /// Counts what the editor shows as entered if the item is a condition that is not set. An empty text does not count.
+    /// Counts a content that is not empty as changed if the item is a condition that is not set.
     void confirm();
 
 Q_SIGNALS:
-    /// Emitted at each change of the content, by the user or by the program.
+    /// Emitted when the user or the program has changed the content.
     void edited();
 
 private:

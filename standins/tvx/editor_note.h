@@ -8,12 +8,11 @@ namespace Zudunmaf
 namespace tvx
 {
 
-/// Places a child of the table's viewport below an editor, or a widget in it, and shows it; above, if there is more room.
-/// As a child of the viewport it moves with the rows.
+/// Shows `widget`, a child of the table's viewport, below an editor or a widget in it; above if there is more room.
 void showBeside(QWidget *widget, const QWidget &editor);
 
-/// A short message at an open cell editor, above the cells. It takes neither focus nor mouse, so that whatever the
-/// user does next reaches its target at once.
+/// A short message beside an open cell editor. A child of the table's viewport. Accepts neither focus nor mouse, so
+/// that the next click reaches what is below it.
 class EditorNote : public QLabel
 {
     Q_OBJECT
@@ -21,7 +20,8 @@ class EditorNote : public QLabel
 public:
     explicit EditorNote(QWidget *viewport);
 
-    /// Shows the message beside the editor and alerts a screen reader to a new one. Hides the note for an empty message.
+    /// Shows the message beside the editor and alerts a screen reader to a new one. Hides the note for an empty
+    /// message.
     void showMessage(const QString &message, const QWidget &editor);
 };
 

@@ -38,8 +38,8 @@ std::pair<double, double> limitsOf(const QAbstractSpinBox &box)
     return decimal ? std::make_pair(decimal->minimum(), decimal->maximum()) : std::make_pair(0.0, 0.0);
 }
 
-/// Refuses no key. What the box does not accept stays as it was typed or pasted, for NumberEntry to refuse as a whole: with
-/// the point dropped, 12.5 in a box of whole numbers would read 125.
+/// Accepts every text while the user types; NumberEntry then judges it as a whole. If the box dropped the point, 12.5
+/// in a box of whole numbers would become 125.
 class EveryTextValidator : public QValidator
 {
 public:

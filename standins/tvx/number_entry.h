@@ -14,8 +14,8 @@ namespace tvx
 /// The number that is being typed into a QSpinBox or QDoubleSpinBox: whether the box accepts it, and which limit it
 /// breaks. Every text in a spin box of another class is accepted. Refers to the box, which must outlive it.
 ///
-/// A spin box of Qt drops each key that would lead beyond a limit, so that 150 becomes 15. After acceptEveryText() its
-/// text is what was typed or pasted, while its value stays the last one within the limits.
+/// QSpinBox drops each key that would lead beyond a limit, so that 150 becomes 15. After acceptEveryText() its text is
+/// what was typed or pasted, while its value stays the last one within the limits.
 class NumberEntry
 {
 public:
@@ -33,14 +33,14 @@ public:
     /// Lets the user type any text, with a point or a comma as its decimal separator. Does nothing to a spin box of
     /// another class.
     static void acceptEveryText(QAbstractSpinBox *box);
-    /// The line of text inside a spin box.
+    /// Returns the line edit of a spin box.
     static QLineEdit *lineOf(const QAbstractSpinBox &box);
 
     State state() const;
-    /// The limits with the decimals of the box, as cells and lines write numbers.
+    /// Return the limits with the decimals of the box, in the format of cells and result lines.
     QString minimum() const;
     QString maximum() const;
-    /// A sentence on why the entry is refused, with the limits in `units`; empty for an accepted entry.
+    /// Returns why the entry is refused, with the limits in `units`; empty for an accepted entry.
     QString refusal(const QString &units) const;
 
 private:

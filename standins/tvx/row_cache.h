@@ -23,8 +23,8 @@ public:
     /// Replaces the items. Any row may be visible.
     void reset(const QList<QTableWidgetItem *> &items);
     const QList<QTableWidgetItem *> &items() const { return m_items; }
-    /// Returns the item of the attribute with this internal name, the first of several; null if there is none. The first
-    /// call after reset() reads the names of all items.
+    /// Returns the item of the attribute with this internal name, the first of several; null if there is none. The
+    /// first call after reset() reads the names of all items.
     QTableWidgetItem *findByName(const QString &name);
 
     /// Must be called for each row that is shown.

@@ -12,7 +12,8 @@ namespace tvx
 
 class AttributeTable;
 
-/// Dragging the selected rows of a table to the other table of the same window. Owned by the table. Moves no row itself.
+/// Dragging the selected rows of a table to the other table of the same window. Owned by the table. Moves no row
+/// itself.
 ///
 /// Handles the drag events of the viewport before the view does: the view would move the contents of cells.
 class RowDrag : public QObject

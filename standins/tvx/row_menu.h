@@ -30,8 +30,8 @@ public:
     void openAt(const QPoint &globalPosition);
     /// Opens the menu below the current row, so that its value remains visible. Does nothing without a current row.
     void openAtCurrentRow();
-    /// Returns the value items on which the menu acts: those of the selected rows, in row order; that of the current row
-    /// if none is selected.
+    /// Returns the value items on which the menu acts: those of the selected rows, in row order; that of the current
+    /// row if none is selected.
     QList<QTableWidgetItem *> items() const;
 
 Q_SIGNALS:

@@ -35,8 +35,9 @@ public:
     /// Adds a row for each selected available attribute, calls the add hook for each, and selects the rows. For an
     /// attribute that has a value already, selects its row instead.
     void addSelected();
-    /// Appends a row with copies of `item` and calls the add hook. Selects nothing. Returns false, and adds nothing, if the
-    /// item has no attribute or is of another kind than those of the dialog, or if the attribute has a value already.
+    /// Appends a row with copies of `item` and calls the add hook. Selects nothing. Returns false, and adds nothing, if
+    /// the item has no attribute or is of another kind than those of the dialog, or if the attribute has a value
+    /// already.
     bool addCopyOf(const QTableWidgetItem &item);
 
     /// Calls the remove hook for each selected chosen row and removes the rows.
@@ -47,8 +48,8 @@ public:
     bool isRemoving() const { return m_isRemoving; }
 
     bool canUndoRemoval() const { return !m_removals.empty(); }
-    /// Restores the rows of the last removal to their positions, calls the add hook for each, and selects them. Skips rows
-    /// whose attribute has a value again.
+    /// Restores the rows of the last removal to their positions, calls the add hook for each, and selects them. Skips
+    /// rows whose attribute has a value again.
     void undoRemoval();
 
 Q_SIGNALS:

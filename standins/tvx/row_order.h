@@ -11,8 +11,8 @@ namespace Zudunmaf
 namespace tvx
 {
 
-/// Computes the order of a table's rows: the order of arrival, or that of the texts of one column. Remembers the order of
-/// arrival while the rows are sorted. Owned by RowSorter, which moves the rows; this class moves nothing.
+/// Computes the order of a table's rows: the order of arrival, or that of the texts of one column. Remembers the order
+/// of arrival while the rows are sorted. Owned by RowSorter, which moves the rows; this class moves nothing.
 class RowOrder
 {
 public:
@@ -25,8 +25,8 @@ public:
 
     /// Returns for each row of the new order the row where it is now. The caller moves the rows accordingly.
     ///
-    /// Rows of equal text keep their order. In ascending order, numbers come first, by value; then texts, by the rules of
-    /// the user's language and with numbers in them by value; then empty texts.
+    /// Rows of equal text keep their order. In ascending order, numbers come first, by value; then texts, by the rules
+    /// of the user's language and with numbers in them by value; then empty texts.
     QVector<int> arrange(int rowCount, const std::function<QString(int row)> &textOfRow);
 
     /// Returns the arrival index of each row: its index in the order of arrival, from 0.
@@ -37,7 +37,8 @@ public:
     /// Must be called when rows, in ascending order, were removed. Appended rows need no call.
     void rowsRemoved(const QVector<int> &rows);
     /// Must be called when removed rows were appended again, so that the table has `rowCount` rows now. At the next
-    /// arrange() they return to their arrival indexes, which are in ascending order; if fewer rows are left, to the end.
+    /// arrange() they return to their arrival indexes, which are in ascending order; if fewer rows are left, to the
+    /// end.
     void rowsRestored(int rowCount, const QVector<int> &arrivalIndexes);
 
 private:

@@ -69,7 +69,7 @@ void SelectionController::connectButtons()
     connect(m_widgets.clearButton, &QPushButton::clicked, m_mover, &RowMover::removeAll);
     connect(m_widgets.buttonBox, &QDialogButtonBox::accepted, this, &SelectionController::acceptDialog);
     connect(m_widgets.buttonBox, &QDialogButtonBox::rejected, this, &SelectionController::rejectDialog);
-    // For a host that calls accept() or reject() itself. Connected first, so that its own slots find the result.
+    // For a host that calls accept() or reject() itself. Its own slots are connected later, and find the stored value.
     connect(m_dialog, &QDialog::accepted, this, [this] { m_widgets.chosenList->finishAcceptedEditing(); });
     connect(m_dialog, &QDialog::rejected, this, [this] { m_widgets.chosenList->dropEditing(); });
 }
@@ -154,8 +154,8 @@ void SelectionController::applyCriteria()
     refresh();
 }
 
-/// Fills the available table again. Without groups the walk of the dictionary has failed: then all lists are filled, and
-/// the entity that the user has just selected is selected again.
+/// Fills the available table again. Without groups the walk of the dictionary has failed: then all lists are filled,
+/// and the entity that the user has just selected is selected again.
 void SelectionController::refill()
 {
     if (m_widgets.groupList->count() > 0) {

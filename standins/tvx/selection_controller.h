@@ -17,11 +17,11 @@ namespace tvx
 
 class RowMover;
 
-/// Connects the parts of the base dialog, and runs the dialog's virtual functions when the criteria change. Owned by the
-/// dialog, and deleted before its widgets, because it is the receiver of their signals.
+/// Connects the parts of the base dialog, and runs the dialog's virtual functions when the criteria change. Owned by
+/// the dialog, and deleted before its widgets, because it is the receiver of their signals.
 ///
-/// Calls filterAttributeList(), and setDisplayUnits() or buildInitialLists() if a fill failed or left attributes out. The
-/// two hooks are called by RowMover.
+/// Calls filterAttributeList(), and setDisplayUnits() or buildInitialLists() if a fill failed or left attributes out.
+/// The two hooks are called by RowMover.
 class SelectionController : public QObject
 {
     Q_OBJECT

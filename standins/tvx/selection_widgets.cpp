@@ -41,7 +41,8 @@ Widget *named(Widget *widget, const char *objectName, const char *spokenName)
     return widget;
 }
 
-/// A click must not move the focus: it would end an open edit before the slot of the button decides to store or drop it.
+/// A click must not move the focus: it would end an open edit before the slot of the button decides to store or drop
+/// it.
 QPushButton *button(QDialog *dialog, const char *objectName, const char *text, const char *hint)
 {
     QPushButton *button = named(new QPushButton(textOf(text), dialog), objectName, text);

@@ -18,8 +18,8 @@ namespace tvx
 class ChosenTable;
 class AvailableTable;
 
-/// Creates the widgets of the dialog and their layout. The dialog owns the widgets. Connects nothing. The members have the
-/// names of the objects.
+/// Creates the widgets of the dialog and their layout. The dialog owns the widgets. Connects nothing. The members have
+/// the names of the objects.
 class SelectionWidgets
 {
 public:

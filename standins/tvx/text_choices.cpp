@@ -39,7 +39,7 @@ TextChoices *TextChoices::attach(QWidget *editor, const QTableWidgetItem &item)
     if (box->count() == 0)
         addChoices(box, *definition);
     box->setEditable(true);
-    // Both would replace a typed text by a choice that equals it but for case.
+    // Both would replace a typed text by a choice that differs in case only.
     box->setInsertPolicy(QComboBox::NoInsert);
     box->setCompleter(nullptr);
     box->lineEdit()->selectAll();
@@ -81,7 +81,7 @@ void TextChoices::showMatches(const QString &typed)
         hide();
 }
 
-/// Each choice once, and not the text itself.
+/// Returns each matching choice once, without the typed text itself.
 QStringList TextChoices::matches(const QString &typed) const
 {
     QStringList found;
@@ -94,7 +94,7 @@ QStringList TextChoices::matches(const QString &typed) const
     return found;
 }
 
-/// Up from the first choice leads back to what was typed.
+/// Puts the next or previous choice into the editor, or the typed text before the first choice.
 bool TextChoices::pick(int step)
 {
     const int row = std::clamp(currentRow() + step, -1, count() - 1);

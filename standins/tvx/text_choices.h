@@ -15,18 +15,18 @@ namespace tvx
 /// Lists the choices of a text that begin with what is being typed, below the editor. Up and Down put one of them into
 /// the editor, and so does a click.
 ///
-/// A completer would either replace what is typed or open a popup, which takes the next click for itself. The list is
-/// a plain child of the table's viewport and leaves the focus to the editor. It is deleted with the editor.
+/// QCompleter would either replace what is typed or open a popup, which consumes the next click. The list is a child of
+/// the table's viewport, leaves the focus to the editor and is deleted with it.
 class TextChoices : public QListWidget
 {
     Q_OBJECT
 
 public:
-    /// Makes the editor of a text with choices one in which every text can be typed, and attaches such a list to it. Any
-    /// other editor is left as it is. `item` is the value item of the row.
+    /// Makes the editor of a text with choices accept every text, and attaches a list to it. Adds the choices to the
+    /// editor if the delegate has not, as for an item without a value. `item` is the value item of the row.
     ///
-    /// An item without a value leaves its editor empty; the choices are added here. Returns the list, which the caller
-    /// hides when the edit ends; null for any other editor.
+    /// Returns the list, which the caller hides when the edit ends. Returns null, and does nothing, for any other
+    /// editor.
     static TextChoices *attach(QWidget *editor, const QTableWidgetItem &item);
 
     QSize sizeHint() const override;

@@ -10,8 +10,8 @@ namespace Zudunmaf
 namespace tvx
 {
 
-/// The keys of the base dialog's own messages. The letter after "&" is the mnemonic of a widget; a translation keeps the
-/// mnemonics distinct.
+/// The keys of the base dialog's own messages. The letter after "&" is the mnemonic of a widget; a translation keeps
+/// the mnemonics distinct.
 namespace texts
 {
 

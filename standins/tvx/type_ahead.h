@@ -17,8 +17,8 @@ class AttributeTable;
 class TypeAhead
 {
 public:
-    /// Returns the next visible row that matches after `letters` were typed, searching from the current row and going on
-    /// at the first row; -1 if none matches.
+    /// Returns the next visible row that matches after `letters` were typed, searching from the current row and going
+    /// on at the first row; -1 if none matches.
     int rowFor(const QString &letters, const AttributeTable &table);
 
 private:
