@@ -1,58 +1,58 @@
-#include "assign_task.h"
+#include "task.h"
 
+#include "gdm/dialogs/feature_attributes_dialog.h"
 #include "gdm/items/attr_roles.h"
 #include "gdm/items/feature_attr_lwi.h"
-#include "start_file.h"
-#include "walk_of_assign.h"
+#include "tvx/tvx_control.h"
 
 namespace Zudunmaf::demo
 {
 
-AssignTask::AssignTask(int did)
-    : m_dialog(did)
+namespace
 {
-}
 
-AssignTask::~AssignTask() = default;
-
-TvxAttributesSelectionDialog &AssignTask::dialog()
+class AssignTask : public Task
 {
-    return m_dialog;
-}
-
-QStringList AssignTask::resultLines() const
-{
-    QStringList lines;
-    const QList<QTableWidgetItem *> chosen = m_dialog.getChosenList();
-    for (const QTableWidgetItem *item : chosen) {
-        if (const FeatureAttrLWI *attribute = dynamic_cast<const FeatureAttrLWI *>(item))
-            lines.append(attribute->data(DmlAttrNameRole).toString() + QLatin1Char('\t') +
-                         attribute->valueAsString());
+public:
+    explicit AssignTask(int did)
+        : m_dialog(did)
+    {
     }
-    return lines;
-}
 
-QByteArray AssignTask::resultDocument() const
-{
-    return assignmentsToJson(m_dialog.assignments());
-}
+    TvxAttributesSelectionDialog &dialog() override { return m_dialog; }
 
-QString AssignTask::start(const StartFile &file)
-{
-    // The lines of this dialog are for people: the numbers in them are rounded and in display units.
-    if (!file.isJson())
-        return file.problemIn(
-            {QString(), QStringLiteral("values are read from JSON only, as --save writes it")});
-    QList<AttrAssignment> assignments;
-    DocumentProblem problem;
-    if (!assignmentsFromJson(file.content(), &assignments, &problem))
-        return file.problemIn(problem);
-    return file.problemIn(m_dialog.restoreAssignments(assignments, addTo(m_dialog)), "assignments");
-}
+    // Printed values are not read: they are rounded and in display units.
+    QList<RestoreResult> restore(const QByteArray &text, DocumentProblem *problem) override
+    {
+        QList<AttrAssignment> assignments;
+        assignmentsFromJson(text, &assignments, problem);
+        return m_dialog.restoreAssignments(
+            assignments, [this](const QTableWidgetItem &item) { return tvx::addChosen(m_dialog, item); });
+    }
 
-std::unique_ptr<Walk> AssignTask::newWalk(const QString &pictureDirectory)
+    QStringList resultLines() const override
+    {
+        QStringList lines;
+        const QList<QTableWidgetItem *> chosen = m_dialog.getChosenList();
+        for (const QTableWidgetItem *item : chosen) {
+            if (const auto *attribute = dynamic_cast<const FeatureAttrLWI *>(item))
+                lines.append(attribute->data(DmlAttrNameRole).toString() + QLatin1Char('\t') +
+                             attribute->valueAsString());
+        }
+        return lines;
+    }
+
+    QByteArray resultDocument() const override { return assignmentsToJson(m_dialog.assignments()); }
+
+private:
+    FeatureAttributesDialog m_dialog;
+};
+
+} // namespace
+
+std::unique_ptr<Task> createAssignTask(int did)
 {
-    return std::make_unique<WalkOfAssign>(m_dialog, pictureDirectory);
+    return std::make_unique<AssignTask>(did);
 }
 
 } // namespace Zudunmaf::demo

@@ -1,56 +1,43 @@
-#include "command_line.h"
-#include "demo_host.h"
-#include "report.h"
+// An example of a host. Data goes from the command line (options.h) over services and dictionary (host.h)
+// into one of the two dialogs (task.h), and comes back as printed lines and a saved document.
+#include "host.h"
+#include "options.h"
+
+#include "gdm/dialogs/tvx_attributes_selection_dialog.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
+#include <QTimer>
 
 using namespace Zudunmaf::demo;
 
-namespace
-{
-
-bool hasDisplay()
-{
-    for (const char *variable : {"QT_QPA_PLATFORM", "WAYLAND_DISPLAY", "DISPLAY"}) {
-        if (!qEnvironmentVariableIsEmpty(variable))
-            return true;
-    }
-    return false;
-}
-
-/// The platform without a display tells what it lacks, line by line; what the program has to say is one line.
-void dropRemarksOfPlatform(QtMsgType type, const QMessageLogContext &, const QString &message)
-{
-    if (type != QtWarningMsg && type != QtDebugMsg)
-        report(message);
-}
-
-} // namespace
-
 int main(int argc, char *argv[])
 {
-    // Help, a wrong option and whatever needs no user work without a display too.
-    const bool displayed = hasDisplay();
-    if (!displayed) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        qInstallMessageHandler(dropRemarksOfPlatform);
-    }
-
+    const bool canShowDialogs = hasDisplay();
+    if (!canShowDialogs)
+        useOffscreenPlatform();
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("zudunmaf-demo"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ZUDUNMAF_VERSION));
 
-    CommandLine commandLine;
-    switch (commandLine.read(QCoreApplication::arguments())) {
-    case CommandLine::Outcome::Inform:
-        print({commandLine.message()});
-        return ExitAccepted;
-    case CommandLine::Outcome::Refuse:
-        return refuse(commandLine.message());
-    case CommandLine::Outcome::Run:
-        break;
-    }
-    if (!displayed && commandLine.options().needsUser())
-        return refuse(QStringLiteral("there is no display; without one, use --walk or --accept"));
-    return DemoHost(commandLine.options()).run();
+    const QString acceptOption = QStringLiteral("accept");
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Opens one of the attribute dialogs and prints the result.\n"
+                       "Exit status: 0 after OK, 1 after Cancel, 2 for a wrong option or file."));
+    parser.addOption({acceptOption, QStringLiteral("Press OK as soon as the dialog is shown; for scripts.")});
+
+    Options options;
+    QString error;
+    if (!readOptions(parser, QCoreApplication::arguments(), &options, &error))
+        return refuse(error);
+    const bool accept = parser.isSet(acceptOption);
+    if (!canShowDialogs && !accept)
+        return refuse(QStringLiteral("there is no display; without one, use --accept"));
+
+    return runTask(options, [accept](TvxAttributesSelectionDialog &dialog) {
+        if (accept)
+            QTimer::singleShot(0, &dialog, &QDialog::accept);
+        return dialog.exec() == QDialog::Accepted ? ExitAccepted : ExitCancelled;
+    });
 }

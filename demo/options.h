@@ -2,29 +2,33 @@
 #define DEMO_OPTIONS_H
 
 #include <QString>
+#include <QStringList>
+
+class QCommandLineParser;
 
 namespace Zudunmaf::demo
 {
 
-/// What the command line asks for. A text that was not given is empty.
+/// The options of the command line. A text that is not given is empty.
 struct Options {
     enum class Dialog { Filter, Assign };
 
     Dialog dialog = Dialog::Filter;
-    QString dictionaryFile; ///< Empty: the dictionary that the program carries.
+    QString dictionaryFile; ///< Empty for the built-in dictionary.
     QString configFile;
+    QString units; ///< Such as "mm"; not checked.
     QString language;
     QString filterText;
     QString startFile;
     QString saveFile;
-    QString walkDirectory; ///< Not empty: the program itself works the dialog.
-    int units = -1;        ///< Code of the display units, -1 for none.
-    bool dark = false;     ///< Light text on a dark ground, whatever the desktop says.
-    bool accept = false;   ///< OK is pressed as soon as the dialog is shown.
-
-    /// Whether somebody has to sit before the screen.
-    bool needsUser() const { return walkDirectory.isEmpty() && !accept; }
+    bool dark = false;
 };
+
+/// Reads the arguments, which begin with the name of the program. The parser may have further options.
+///
+/// Prints the help or the version and exits if the user asks for it. Returns false and sets `*error` if the
+/// arguments are wrong. Opens no file.
+bool readOptions(QCommandLineParser &parser, const QStringList &arguments, Options *options, QString *error);
 
 } // namespace Zudunmaf::demo
 

@@ -1,7 +1,8 @@
 #ifndef DEMO_TASK_H
 #define DEMO_TASK_H
 
-#include "options.h"
+#include "gdm/conditions/attr_documents.h"
+#include "gdm/conditions/attr_restoring.h"
 
 #include <QByteArray>
 #include <QStringList>
@@ -13,29 +14,28 @@ class TvxAttributesSelectionDialog;
 namespace Zudunmaf::demo
 {
 
-class StartFile;
-class Walk;
-
-/// One of the two dialogs with everything in which a host treats them differently.
+/// One of the two dialogs and its result. Everything in which a host treats the two differently is here.
 class Task
 {
 public:
-    virtual ~Task();
-
-    /// `did` is the dictionary to walk.
-    static std::unique_ptr<Task> create(Options::Dialog dialog, int did);
+    virtual ~Task() = default;
 
     virtual TvxAttributesSelectionDialog &dialog() = 0;
-    /// What the dialog has been left with, to be printed.
+
+    /// Adds the entries of a start file to the chosen attributes and returns one result for each entry. Sets
+    /// `*problem` and adds nothing if the text cannot be read.
+    virtual QList<RestoreResult> restore(const QByteArray &text, DocumentProblem *problem) = 0;
+
+    /// Returns the result to print.
     virtual QStringList resultLines() const = 0;
-    /// The same as a JSON document, exact to the last bit.
+    /// Returns the result as JSON, with exact numbers. restore() reads it.
     virtual QByteArray resultDocument() const = 0;
-    /// Restores what the file holds; nothing is restored if any part of it cannot be read. Returns a null string, or
-    /// what is wrong.
-    virtual QString start(const StartFile &file) = 0;
-    /// The walk that saves its pictures in the directory. Not to outlive the task.
-    virtual std::unique_ptr<Walk> newWalk(const QString &pictureDirectory) = 0;
 };
+
+/// Creates the filter dialog over a dictionary. Its result is a line for each condition, such as "5 <= width <= 9".
+std::unique_ptr<Task> createFilterTask(int did);
+/// Creates "Assign Attributes" over a dictionary. Its result is a line "name<TAB>value" for each attribute.
+std::unique_ptr<Task> createAssignTask(int did);
 
 } // namespace Zudunmaf::demo
 

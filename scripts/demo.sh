@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Builds the demo host and runs its main job: the attribute filter dialog, then "Assign Attributes", over the
-# dictionary that it carries. With a display both dialogs open; without one, a scripted walk works them by key and
-# mouse, prints their lines and saves a picture of each step in build/walk. Installs what is missing.
+# Builds the demo and opens the attribute filter dialog, then "Assign Attributes", over the demo's built-in dictionary.
+# Without a display, a scripted walk works both dialogs by key and mouse, prints their results and saves a picture of
+# each step in build/walk. Installs what is missing.
 #   scripts/demo.sh              both dialogs
-#   scripts/demo.sh filter ...   one of them, with further options of the demo (see --help)
+#   scripts/demo.sh filter ...   one dialog, with options of zudunmaf-demo (see --help)
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -13,20 +13,20 @@ major=${ZUDUNMAF_QT_MAJOR:-6}
 install_packages $(build_packages "$major")
 echo "Building in build/qt$major-dev" >&2
 cmake --preset "qt$major-dev" >/dev/null
-cmake --build --preset "qt$major-dev" --target zudunmaf_demo zudunmaf_catalogues >&2
+cmake --build --preset "qt$major-dev" --target zudunmaf_demo zudunmaf_walk zudunmaf_catalogues >&2
 demo="build/qt$major-dev/demo/zudunmaf-demo"
+walk="build/qt$major-dev/walk/zudunmaf-walk"
 if [ $# -gt 0 ]; then
     exec "$demo" "$@"
 fi
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
-    # Cancel ends a dialog with 1, which is no failure of the demo.
+    # The exit status is 1 after Cancel.
     "$demo" filter || [ $? -eq 1 ]
     "$demo" assign || [ $? -eq 1 ]
 else
-    for job in filter assign; do
-        mkdir -p "build/walk/$job"
-        echo "== zudunmaf-demo $job"
-        "$demo" "$job" --walk "build/walk/$job"
+    for dialog in filter assign; do
+        echo "== zudunmaf-walk $dialog"
+        "$walk" "$dialog" --pictures "build/walk/$dialog"
     done
     echo "Pictures: build/walk"
 fi

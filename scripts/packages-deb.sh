@@ -41,9 +41,10 @@ if [ "$(id -u)" -ne 0 ]; then
     as_root=(sudo)
 fi
 mapfile -t names < <(for package in "${packages[@]}"; do dpkg-deb --field "$package" Package; done)
-pictures=$(mktemp -d)
-trap '"${as_root[@]}" dpkg --purge "${names[@]}" >/dev/null; rm -rf "$pictures"' EXIT
+conditions=$(mktemp)
+trap '"${as_root[@]}" dpkg --purge "${names[@]}" >/dev/null; rm -f "$conditions"' EXIT
 echo "Installing${as_root:+ with sudo}, and removing again: ${names[*]}"
 "${as_root[@]}" dpkg --install "${packages[@]}" >/dev/null
-QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 zudunmaf-demo filter --walk "$pictures"
+echo '5 <= width <= 9' >"$conditions"
+QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 zudunmaf-demo filter --accept --start "$conditions" | diff "$conditions" -
 pkg-config --print-errors --exists "zudunmaf-standins"

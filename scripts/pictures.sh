@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Makes the pictures of docs/pictures anew: both dialogs in light, dark, right to left, twice the size, German, and
-# empty. Each is a step of the demo's walk.
+# Replaces the pictures in docs/pictures: both dialogs in light and dark colours, right to left, at twice the size, in
+# German, and empty. Each is a step of the scripted walk.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
@@ -8,18 +8,18 @@ cd "$(dirname "$0")/.."
 # shellcheck disable=SC2046
 install_packages $(build_packages 6)
 cmake --preset qt6-dev >/dev/null
-cmake --build --preset qt6-dev --target zudunmaf_demo
-demo=build/qt6-dev/demo/zudunmaf-demo
-walk=build/pictures
+cmake --build --preset qt6-dev --target zudunmaf_walk
+walk=build/qt6-dev/walk/zudunmaf-walk
+steps=build/pictures
 mkdir -p docs/pictures
 
 picture() { # picture NAME DIALOG STEP [OPTION...]: keeps the picture of one step
     local name=$1 dialog=$2 step=$3
     shift 3
-    rm -rf "$walk"
-    # A walk that starts from another filter text ends early, behind the picture that is wanted.
-    env -u DISPLAY -u WAYLAND_DISPLAY "$demo" "$dialog" --walk "$walk" "$@" >/dev/null 2>&1 || true
-    cp "$walk"/*-"$step".png "docs/pictures/$name.png"
+    rm -rf "$steps"
+    # With an initial filter text, the walk fails, but only after the step that is wanted.
+    env -u DISPLAY -u WAYLAND_DISPLAY "$walk" "$dialog" --pictures "$steps" "$@" >/dev/null 2>&1 || true
+    cp "$steps"/*-"$step".png "docs/pictures/$name.png"
 }
 
 for dialog in filter assign; do

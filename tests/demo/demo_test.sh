@@ -1,8 +1,10 @@
 #!/bin/sh
-# demo_test.sh CASE PROGRAM SCHEMA: one case of the demo host's tests, in a directory of its own that goes afterwards.
+# demo_test.sh CASE DEMO WALK SCHEMA: runs one of the cases below in a temporary directory. DEMO and WALK are the programs
+# zudunmaf-demo and zudunmaf-walk, SCHEMA is the JSON Schema of saved results.
 set -eu
-program=$2
-schema=$3
+demo=$2
+walk=$3
+schema=$4
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cd "$work"
@@ -12,49 +14,55 @@ fail() {
     exit 1
 }
 
-# same WHAT: the files wanted and got are equal.
+# same WHAT: fails unless the files "wanted" and "got" are equal.
 same() {
     diff -u wanted got || fail "$1"
 }
 
-# refused WORD ARGUMENT...: exit 2, nothing on standard output, one line on standard error with the word in it.
+# refused TEXT ARGUMENT...: fails unless the demo exits with 2, prints nothing, and reports one line with the text.
 refused() {
-    word=$1
-    shift
+    program_refused "$demo" "$@"
+}
+
+program_refused() {
+    program=$1
+    text=$2
+    shift 2
     status=0
     "$program" "$@" >got 2>errors || status=$?
     [ "$status" -eq 2 ] || fail "exit $status and not 2: $*"
     [ ! -s got ] || fail "lines were printed: $*"
     [ "$(wc -l <errors)" -eq 1 ] || fail "not one line: $* -> $(cat errors)"
-    grep -qF -- "$word" errors || fail "no '$word' in: $(cat errors)"
+    grep -qF -- "$text" errors || fail "no '$text' in: $(cat errors)"
 }
 
-walk_of_filter() {
-    "$program" filter --walk pictures --save walked.json >got
+filter_walk() {
+    "$walk" filter --pictures pictures --save walked.json >got
     printf '%s\n' '5 <= width <= 9' 'film_polarity = negative' 'layer_name' >wanted
     same "the lines of the walk"
     [ -s pictures/01-open.png ] && [ -s pictures/02-layer.png ] || fail "no pictures"
     opened_again filter
 }
 
-walk_of_assign() {
-    "$program" assign --walk pictures --units mm --save walked.json >got
+assign_walk() {
+    "$walk" assign --pictures pictures --units mm --save walked.json >got
     printf '%s\t%s\n' vertex_count 4 rotation '2.500 deg' shape octagon copper_note thin \
         corner_radius '0.010 inch' >wanted
     same "the lines of the walk"
     [ -s pictures/01-open.png ] || fail "no pictures"
     opened_again assign --units inch
     # Values are kept in the units of their definitions; only the lines follow the display units.
-    "$program" assign --accept --start walked.json --save again.json >got
+    "$demo" assign --accept --start walked.json --save again.json >got
     cmp walked.json again.json || fail "other values under other units"
 }
 
-# opened_again DIALOG ARGUMENT...: what was saved comes back byte for byte, with the lines of the file "wanted".
+# opened_again DIALOG ARGUMENT...: fails unless walked.json, restored and saved again, gives the same bytes, and the lines
+# in the file "wanted".
 opened_again() {
-    "$program" "$@" --accept --start walked.json --save again.json >got
+    "$demo" "$@" --accept --start walked.json --save again.json >got
     same "the lines of what was saved"
     cmp walked.json again.json || fail "another document"
-    # As in tests/contract, the schema is only checked where Python has the package for it.
+    # As in tests/contract, only checked against the schema if Python has the package for it.
     if python3 -c 'import jsonschema' 2>errors; then
         python3 -c 'import json, jsonschema, sys
 schema, document = (json.load(open(path, encoding="utf-8")) for path in sys.argv[1:])
@@ -62,18 +70,18 @@ jsonschema.Draft7Validator(schema).validate(document)' "$schema" again.json || f
     fi
 }
 
-# What is printed can be given back, and comes out again as it was; so does the document that is made of it.
-start_of_filter() {
+# Printed lines and saved documents restore the same conditions.
+start_filter() {
     printf '%s\n' '5 <= width <= 9' '0.100 <= spacing_min <= 0.250' 'base_copper = 18 µm' 'remark = a = b <= c' \
         'locked' 'remark' 'width' >wanted
-    "$program" filter --accept --start wanted --save walked.json >got
+    "$demo" filter --accept --start wanted --save walked.json >got
     same "the conditions of a start file"
     opened_again filter
     sed '1s/^/\xef\xbb\xbf/; s/$/\r/' wanted >from_windows
-    "$program" filter --accept --start from_windows >got
+    "$demo" filter --accept --start from_windows >got
     same "a byte order mark and CR LF"
-    refused 'wanted:2: no attribute' filter --accept --start wanted --dictionary "$(small_dictionary)"
-    refused 'walked.json: conditions[1]: there is no attribute' \
+    refused 'wanted: line 2: no attribute' filter --accept --start wanted --dictionary "$(small_dictionary)"
+    refused 'walked.json: entry 2: there is no attribute' \
         filter --accept --start walked.json --dictionary small.json
     start_line '5 <= wodth <= 9' "no attribute of the dictionary gives the line '5 <= wodth <= 9'"
     start_line '5 <= width <= 9.5' 'no attribute'
@@ -95,14 +103,14 @@ JSON
     echo small.json
 }
 
-# start_line LINE WORD: refused with its place, behind a line that is right.
+# start_line LINE TEXT: fails unless the demo names the number of the wrong line and gives the text as the reason.
 start_line() {
     printf 'locked\n\n%s\n' "$1" >bad
-    refused "bad:3: " filter --accept --start bad
+    refused "bad: line 3: " filter --accept --start bad
     grep -qF -- "$2" errors || fail "no '$2' in: $(cat errors)"
 }
 
-start_of_assign() {
+start_assign() {
     printf '%s\t%s\n' width 12 line_width '0.012 inch' shape octagon fill_pattern '' remark 'two  words' mirrored '' >wanted
     cat >walked.json <<'JSON'
 {"version": 1, "assignments": [
@@ -113,12 +121,12 @@ start_of_assign() {
     {"name": "remark", "type": "text", "value": "two  words"},
     {"name": "mirrored", "type": "boolean", "value": true}]}
 JSON
-    "$program" assign --accept --units inch --start walked.json --save saved.json >got
+    "$demo" assign --accept --units inch --start walked.json --save saved.json >got
     same "the values of a start file"
     mv saved.json walked.json
     opened_again assign --units inch
-    refused 'wanted: values are read from JSON only' assign --accept --start wanted
-    start_value 's/: 12$/: 101/' 'assignments[0]: 101 is beyond the limits 1 to 100'
+    refused 'JSON' assign --accept --start wanted
+    start_value 's/: 12$/: 101/' 'entry 1: 101 is beyond the limits 1 to 100'
     start_value 's/: 12$/: "many"/' 'assignments[0].value: is no whole number'
     start_value 's/octagon/flat/' "no option 'flat'"
     start_value 's/"mm"/"ohm"/' "the units 'ohm'"
@@ -127,20 +135,21 @@ JSON
     start_value 's/"remark"/"width"/; s/"type": "text"/"type": "integer"/; s/"two  words"/5/' "'width' has a value already"
 }
 
-# start_value SED_SCRIPT WORD: refused, for the word.
+# start_value SED_SCRIPT TEXT: fails unless the demo refuses the changed document with the text.
 start_value() {
     sed "$1" walked.json >bad
     refused "$2" assign --accept --units inch --start bad
 }
 
-refusals() {
+wrong_options() {
     refused 'which dialog'
     refused 'which dialog' both
     refused 'which dialog' filter assign
     refused 'shiny' filter --shiny
     refused 'filter' filter --accept --filter
     refused 'known are inch, mm' filter --accept --units furlong
-    refused 'exclude' filter --accept --walk pictures
+    refused 'display' filter
+    program_refused "$walk" '--pictures' filter
     refused 'missing.json' filter --accept --dictionary missing.json
     refused 'missing.ini' filter --accept --config missing.ini
     refused 'missing.txt' filter --accept --start missing.txt
@@ -149,12 +158,19 @@ refusals() {
     printf '[General]\nedt_disp_attr_by_prompt=perhaps\n' >bad.ini
     refused 'edt_disp_attr_by_prompt' filter --accept --config bad.ini
     refused 'nowhere/saved.json' filter --accept --save nowhere/saved.json
-    "$program" --help | grep -q -- '--save' || fail "no help"
-    "$program" --version | grep -q '^zudunmaf-demo [0-9]' || fail "no version"
-    # A walk over attributes that it does not know ends with the step.
+    "$demo" --help | grep -q -- '--save' || fail "no help"
+    "$demo" --version | grep -q '^zudunmaf-demo [0-9]' || fail "no version"
+    # The walk fails, because it needs the attributes of the built-in dictionary.
     status=0
-    "$program" filter --walk pictures --dictionary "$(small_dictionary)" >got 2>errors || status=$?
+    "$walk" filter --pictures pictures --dictionary "$(small_dictionary)" >got 2>errors || status=$?
     [ "$status" -eq 3 ] && grep -q 'step ' errors && [ ! -s got ] || fail "exit $status: $(cat errors)"
+}
+
+# The demo is installed, and must not bring Qt Test with it.
+linking() {
+    readelf -d "$demo" >got
+    grep -q 'NEEDED.*libzudunmaf\.so' got || fail "does not link the library"
+    ! grep -q 'NEEDED.*Qt[56]Test' got || fail "links Qt Test"
 }
 
 $1

@@ -20,7 +20,7 @@
 /// A test over each of the two dialogs in turn, worked as a user does. Each function starts with the dialog on the
 /// screen and nothing chosen, and ends with no Qt warning given. On offer is what dictionary.json has: plated,
 /// note, colour, finish, grade, width, depth, LongName, stackup (in the filter dialog alone) and pad_00 to pad_39.
-class DialogTest : public QObject, public Zudunmaf::demo::DialogUser
+class DialogTest : public QObject, public Zudunmaf::walk::DialogUser
 {
     Q_OBJECT
 

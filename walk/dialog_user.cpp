@@ -16,14 +16,14 @@
 #include <QTimer>
 #include <QWindow>
 
-namespace Zudunmaf::demo
+namespace Zudunmaf::walk
 {
 
 namespace
 {
 
-constexpr int PatienceInMs = 5000;
-constexpr int MostTabs = 50;
+constexpr int TimeoutInMs = 5000;
+constexpr int MaximumTabs = 50;
 
 QString labelTextOf(const QWidget &window, const QWidget &widget)
 {
@@ -47,7 +47,7 @@ bool DialogUser::open() const
 {
     m_dialog->show();
     m_dialog->activateWindow();
-    return QTest::qWaitForWindowActive(m_dialog, PatienceInMs) && QApplication::focusWidget();
+    return QTest::qWaitForWindowActive(m_dialog, TimeoutInMs) && QApplication::focusWidget();
 }
 
 void DialogUser::press(int key, Qt::KeyboardModifiers modifiers) const
@@ -91,7 +91,7 @@ bool DialogUser::goTo(QWidget &widget) const
 {
     if (!widget.hasFocus())
         pressMnemonic(labelTextOf(*m_dialog, widget));
-    for (int tabs = 0; !widget.hasFocus() && tabs < MostTabs; ++tabs)
+    for (int tabs = 0; !widget.hasFocus() && tabs < MaximumTabs; ++tabs)
         press(Qt::Key_Tab);
     return widget.hasFocus();
 }
@@ -100,14 +100,14 @@ bool DialogUser::pushButton(QAbstractButton &button) const
 {
     if (!pressMnemonic(button.text()) && goTo(button))
         press(Qt::Key_Space);
-    // By its mnemonic, a button is seen to go down and clicks as it comes up.
-    return QTest::qWaitFor([&button] { return !button.isDown(); }, PatienceInMs);
+    // A mnemonic calls animateClick(), which emits clicked() only when it releases the button.
+    return QTest::qWaitFor([&button] { return !button.isDown(); }, TimeoutInMs);
 }
 
-void DialogUser::clickAt(const QWidget *widget, const QPoint &place, Qt::KeyboardModifiers modifiers,
+void DialogUser::clickAt(const QWidget *widget, const QPoint &position, Qt::KeyboardModifiers modifiers,
                          Qt::MouseButton button) const
 {
-    QTest::mouseClick(m_dialog->windowHandle(), button, modifiers, widget->mapTo(m_dialog, place));
+    QTest::mouseClick(m_dialog->windowHandle(), button, modifiers, widget->mapTo(m_dialog, position));
     QCoreApplication::processEvents();
 }
 
@@ -126,9 +126,9 @@ void DialogUser::click(QTableWidget *table, const QString &attribute, int column
 void DialogUser::doubleClick(QTableWidget *table, const QString &attribute, int column) const
 {
     click(table, attribute, column);
-    const QPoint place = cellRect(table, attribute, column).center();
+    const QPoint position = cellRect(table, attribute, column).center();
     QTest::mouseDClick(m_dialog->windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                       table->viewport()->mapTo(m_dialog, place));
+                       table->viewport()->mapTo(m_dialog, position));
     QCoreApplication::processEvents();
 }
 
@@ -143,7 +143,7 @@ bool DialogUser::useContextMenu(const std::function<void(QMenu &)> &use) const
     QWidget *focus = QApplication::focusWidget();
     if (!focus)
         return false;
-    // The menu may run an event loop of its own: it is met from within, by a timer.
+    // The menu may run a nested event loop, so a timer looks for it.
     bool used = false;
     QTimer watch;
     QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
@@ -154,11 +154,11 @@ bool DialogUser::useContextMenu(const std::function<void(QMenu &)> &use) const
         }
     });
     watch.start(1);
-    // Not every platform makes this event of the menu key, so it comes as a platform would send it.
+    // Not every platform turns the menu key into this event, so send the event itself.
     const QPoint position = focus->inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
     QContextMenuEvent request(QContextMenuEvent::Keyboard, position, focus->mapToGlobal(position));
     QCoreApplication::sendEvent(focus, &request);
-    return QTest::qWaitFor([&used] { return used; }, PatienceInMs);
+    return QTest::qWaitFor([&used] { return used; }, TimeoutInMs);
 }
 
 void DialogUser::setFilter(const QString &text) const
@@ -249,4 +249,4 @@ QPixmap DialogUser::picture() const
     return picture;
 }
 
-} // namespace Zudunmaf::demo
+} // namespace Zudunmaf::walk

@@ -10,7 +10,7 @@
 
 #include <type_traits>
 
-namespace Zudunmaf::demo
+namespace Zudunmaf::walk
 {
 
 namespace
@@ -50,4 +50,4 @@ DialogWidgets::DialogWidgets(const QDialog &dialog)
         m_missing = QLatin1String(okButton ? "Cancel" : "OK");
 }
 
-} // namespace Zudunmaf::demo
+} // namespace Zudunmaf::walk

@@ -10,7 +10,7 @@
 #include <QPushButton>
 #include <QTableWidget>
 
-namespace Zudunmaf::demo
+namespace Zudunmaf::walk
 {
 
 Walk::Walk(TvxAttributesSelectionDialog &dialog, const QString &pictureDirectory)
@@ -24,29 +24,29 @@ Walk::~Walk() = default;
 
 QString Walk::play()
 {
-    playStep(QStringLiteral("open"), [this] { open(); });
+    runStep(QStringLiteral("open"), [this] { open(); });
     const std::vector<Step> all = steps();
     for (const Step &step : all)
-        playStep(QString::fromLatin1(step.name), step.act);
+        runStep(QString::fromLatin1(step.name), step.run);
     m_step = QStringLiteral("ok");
-    if (m_problem.isEmpty())
+    if (m_failure.isEmpty())
         pressOk();
-    return m_problem;
+    return m_failure;
 }
 
-void Walk::playStep(const QString &name, const std::function<void()> &act)
+void Walk::runStep(const QString &name, const std::function<void()> &run)
 {
-    if (!m_problem.isEmpty())
+    if (!m_failure.isEmpty())
         return;
     m_step = name;
-    act();
+    run();
     savePicture(name);
 }
 
 bool Walk::expect(bool holds, const QString &what)
 {
-    if (!holds && m_problem.isEmpty())
-        m_problem = QStringLiteral("step %1: expected %2").arg(m_step, what);
+    if (!holds && m_failure.isEmpty())
+        m_failure = QStringLiteral("step %1: expected %2").arg(m_step, what);
     return holds;
 }
 
@@ -54,15 +54,16 @@ void Walk::savePicture(const QString &name)
 {
     const QString file = QStringLiteral("%1-%2.png").arg(++m_pictureCount, 2, 10, QLatin1Char('0')).arg(name);
     const QString path = QDir(m_pictureDirectory).filePath(file);
-    expect(m_user.picture().save(path), QStringLiteral("to save %1").arg(path));
+    expect(m_user.picture().save(path), QStringLiteral("to save the picture %1").arg(path));
 }
 
 void Walk::open()
 {
-    if (!expect(m_user.open(), QStringLiteral("an active window")))
+    if (!expect(m_user.missing().isEmpty(), QStringLiteral("a widget '%1'").arg(m_user.missing())) ||
+        !expect(m_user.open(), QStringLiteral("an active window")))
         return;
-    expect(m_user.filterText->hasFocus(), QStringLiteral("the focus in the filter text"));
-    expect(m_user.topView->rowCount() > 0, QStringLiteral("attributes on offer"));
+    expect(m_user.filterText->hasFocus(), QStringLiteral("the focus in the filter field"));
+    expect(m_user.topView->rowCount() > 0, QStringLiteral("available attributes"));
 }
 
 void Walk::pressOk()
@@ -88,19 +89,19 @@ void Walk::typeFilter(const QString &text)
     expect(m_user.filterText->text() == text, QStringLiteral("the filter text '%1'").arg(text));
 }
 
-void Walk::add(const QString &name, Way way)
+void Walk::add(const QString &name, AddMethod method)
 {
     typeFilter(name);
     if (!goToRow(*m_user.topView, name))
         return;
-    switch (way) {
-    case Way::Mnemonic:
-        expect(m_user.pushButton(*m_user.addButton), QStringLiteral("the add button to come up again"));
+    switch (method) {
+    case AddMethod::Mnemonic:
+        expect(m_user.pushButton(*m_user.addButton), QStringLiteral("the add button to be released"));
         break;
-    case Way::Enter:
+    case AddMethod::Enter:
         m_user.press(Qt::Key_Return);
         break;
-    case Way::DoubleClick:
+    case AddMethod::DoubleClick:
         m_user.doubleClick(m_user.topView, name);
         break;
     }
@@ -114,7 +115,7 @@ void Walk::openEditor(const QString &name)
     if (!goToRow(*m_user.chosenList, name))
         return;
     m_user.press(Qt::Key_F2);
-    expect(isEditing(), QStringLiteral("an editor with the focus for '%1'").arg(name));
+    expect(isEditing(), QStringLiteral("an editor of '%1' with the focus").arg(name));
 }
 
 void Walk::finishEditor(const QString &name, const QString &keys, const QString &expected)
@@ -140,7 +141,8 @@ void Walk::resetByMenu(const QString &name, const QString &expected)
         const QAction *reset = menu.actions().value(1);
         for (int step = 0; menu.activeAction() != reset && step < menu.actions().size(); ++step)
             m_user.press(Qt::Key_Down);
-        expect(reset && menu.activeAction() == reset, QStringLiteral("a second action in the context menu"));
+        expect(reset && menu.activeAction() == reset,
+               QStringLiteral("the arrow keys to reach the second action of the menu"));
         savePicture(m_step + QLatin1String("-menu"));
         m_user.press(Qt::Key_Return);
         menu.close();
@@ -158,8 +160,7 @@ bool Walk::goToRow(QTableWidget &table, const QString &name)
         return false;
     for (int step = 0; table.currentRow() != row && step < table.rowCount(); ++step)
         m_user.press(table.currentRow() < row ? Qt::Key_Down : Qt::Key_Up);
-    return expect(table.currentRow() == row,
-                  QStringLiteral("'%1' to be reached by the arrow keys").arg(name));
+    return expect(table.currentRow() == row, QStringLiteral("the arrow keys to reach '%1'").arg(name));
 }
 
 bool Walk::isEditing() const
@@ -174,4 +175,4 @@ QString Walk::cellText(const QString &name) const
     return item ? item->text() : QString();
 }
 
-} // namespace Zudunmaf::demo
+} // namespace Zudunmaf::walk

@@ -1,5 +1,5 @@
-#ifndef DEMO_DIALOG_WIDGETS_H
-#define DEMO_DIALOG_WIDGETS_H
+#ifndef WALK_DIALOG_WIDGETS_H
+#define WALK_DIALOG_WIDGETS_H
 
 #include <QString>
 
@@ -10,15 +10,15 @@ class QLineEdit;
 class QPushButton;
 class QTableWidget;
 
-namespace Zudunmaf::demo
+namespace Zudunmaf::walk
 {
 
-/// The widgets of the base dialog, found by their object names. They are the dialog's; without one, all are null.
+/// The widgets of the base dialog, found by their object names. The dialog owns them. All are null without a dialog.
 struct DialogWidgets {
     DialogWidgets() = default;
     explicit DialogWidgets(const QDialog &dialog);
 
-    /// The object name of a widget that the dialog lacks; empty where it lacks none.
+    /// Returns the object name of the first widget that the dialog lacks; empty if it has all.
     QString missing() const { return m_missing; }
 
     QComboBox *entityList = nullptr;
@@ -41,6 +41,6 @@ private:
     QString m_missing;
 };
 
-} // namespace Zudunmaf::demo
+} // namespace Zudunmaf::walk
 
 #endif

@@ -1,5 +1,5 @@
-#ifndef DEMO_DIALOG_USER_H
-#define DEMO_DIALOG_USER_H
+#ifndef WALK_DIALOG_USER_H
+#define WALK_DIALOG_USER_H
 
 #include "dialog_widgets.h"
 
@@ -13,35 +13,39 @@
 class QAbstractButton;
 class QMenu;
 
-namespace Zudunmaf::demo
+namespace Zudunmaf::walk
 {
 
-/// Hands and eyes at one dialog: keys and clicks go to the window as the window system would send them, so that focus,
-/// mnemonics, editors and popups take part in where they end. Attributes are known by their internal names.
+/// Drives one dialog by key and mouse, and reads what it shows. Events go to the window, as from the window
+/// system, so that focus, mnemonics, editors and popups decide which widget handles them. Attributes are given
+/// by their internal names.
 class DialogUser : public DialogWidgets
 {
 public:
-    /// At no dialog yet: another one is to be assigned.
+    /// Without a dialog: assign another DialogUser before use.
     DialogUser() = default;
     /// The dialog must outlive this object.
     explicit DialogUser(QDialog &dialog);
 
-    /// Shows the dialog and waits until keys reach it; false where they never do.
+    /// Shows the dialog and waits until its window is active. Returns false after a timeout, or if no widget
+    /// has the focus.
     bool open() const;
 
-    /// A popup that is open takes the key.
+    /// Sends the key to the open popup, otherwise to the window of the dialog.
     void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
     void press(std::initializer_list<int> keys) const;
-    /// Types ASCII text; "\n" is Return and "\t" is Tab.
+    /// Types ASCII text. "\n" is Return and "\t" is Tab.
     void type(const QString &text) const;
-    /// Alt and the letter behind "&" in the text; false where the text has no such letter.
+    /// Presses Alt and the mnemonic of the text. Returns false if it has no ASCII mnemonic.
     bool pressMnemonic(const QString &text) const;
-    /// Brings the keyboard focus to a widget: by the mnemonic of its label, else with Tab.
+    /// Moves the keyboard focus to the widget by the mnemonic of its label, otherwise by Tab. Returns false if
+    /// both fail.
     bool goTo(QWidget &widget) const;
-    /// Presses a button by its mnemonic, else with Tab and Space; false where it does not come up again.
+    /// Presses the button by its mnemonic, otherwise by Tab and Space. Returns false if it is not released again.
     bool pushButton(QAbstractButton &button) const;
 
-    void clickAt(const QWidget *widget, const QPoint &place, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
+    void clickAt(const QWidget *widget, const QPoint &position,
+                 Qt::KeyboardModifiers modifiers = Qt::NoModifier,
                  Qt::MouseButton button = Qt::LeftButton) const;
     void click(QWidget *widget) const;
     void click(QTableWidget *table, const QString &attribute, int column = 0,
@@ -49,32 +53,33 @@ public:
                Qt::MouseButton button = Qt::LeftButton) const;
     void doubleClick(QTableWidget *table, const QString &attribute, int column = 0) const;
     void clickHeader(const QTableWidget *table, int column) const;
-    /// Asks for the context menu by keyboard and calls `use` while it is open; false where none opens.
+    /// Opens the context menu by keyboard and calls `use` while it is open. Returns false if no menu opens.
     bool useContextMenu(const std::function<void(QMenu &)> &use) const;
 
     /// Replaces the filter text.
     void setFilter(const QString &text) const;
-    /// Takes the attributes over by clicks and Return; the first chosen row is current then.
+    /// Adds each attribute by a click and Return, then makes the first chosen row current.
     void choose(const QStringList &attributes) const;
-    /// Opens the editor of a chosen attribute by F2, types and presses Return.
+    /// Opens the editor of the chosen attribute with F2, types the keys and presses Return.
     void enter(const QString &attribute, const QString &keys) const;
 
-    /// The row of an attribute, and the other way round; -1 and an empty name where there is none.
+    /// Returns the row of the attribute; -1 if the table has none.
     static int rowOf(const QTableWidget *table, const QString &attribute);
+    /// Returns the name of the attribute in the row; empty if there is none.
     static QString nameAt(const QTableWidget *table, int row);
     static QString currentName(const QTableWidget *table);
     static QStringList visibleNames(const QTableWidget *table);
     static QStringList selectedNames(const QTableWidget *table);
     static QRect cellRect(const QTableWidget *table, const QString &attribute, int column);
-    /// The editor that is open in a cell of the chosen list; null where none is.
+    /// Returns the open editor of the chosen table; null if there is none.
     QWidget *editor() const;
-    /// The dialog as it looks now, with a popup that is open over it.
+    /// Returns an image of the dialog with its open popup.
     QPixmap picture() const;
 
 private:
     QDialog *m_dialog = nullptr;
 };
 
-} // namespace Zudunmaf::demo
+} // namespace Zudunmaf::walk
 
 #endif

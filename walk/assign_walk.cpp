@@ -1,11 +1,11 @@
-#include "walk_of_assign.h"
+#include "assign_walk.h"
 
 #include "gdm/dialogs/tvx_attributes_selection_dialog.h"
 #include "gdm/host/gen_services.h"
 
 #include <QTableWidget>
 
-namespace Zudunmaf::demo
+namespace Zudunmaf::walk
 {
 
 namespace
@@ -20,20 +20,20 @@ constexpr char Length[] = "corner_radius";
 
 } // namespace
 
-std::vector<Walk::Step> WalkOfAssign::steps()
+std::vector<Walk::Step> AssignWalk::steps()
 {
     return {
-        {"add-integer", [this] { add(Integer, Way::Mnemonic); }},
-        {"add-float", [this] { add(Float, Way::Enter); }},
-        {"add-option", [this] { add(Option, Way::DoubleClick); }},
-        {"add-text", [this] { add(Text, Way::Mnemonic); }},
-        {"add-boolean", [this] { add(Boolean, Way::Enter); }},
+        {"add-integer", [this] { add(Integer, AddMethod::Mnemonic); }},
+        {"add-float", [this] { add(Float, AddMethod::Enter); }},
+        {"add-option", [this] { add(Option, AddMethod::DoubleClick); }},
+        {"add-text", [this] { add(Text, AddMethod::Mnemonic); }},
+        {"add-boolean", [this] { add(Boolean, AddMethod::Enter); }},
         {"integer", [this] { edit(Integer, "12\n", "12"); }},
         {"float-editor", [this] { openEditor(Float); }},
         {"float", [this] { finishEditor(Float, "2.5\n", "2.500"); }},
         {"option", [this] { edit(Option, "oct\n", "octagon"); }},
         {"text", [this] { edit(Text, "thin\n", "thin"); }},
-        {"boolean", [this] { tryBoolean(); }},
+        {"boolean", [this] { tryToEditBoolean(); }},
         {"default", [this] { resetByMenu(Integer, "4"); }},
         {"remove", [this] { removeBoolean(); }},
         {"units", [this] { changeUnits(); }},
@@ -41,7 +41,7 @@ std::vector<Walk::Step> WalkOfAssign::steps()
     };
 }
 
-void WalkOfAssign::tryBoolean()
+void AssignWalk::tryToEditBoolean()
 {
     if (!goToRow(*user().chosenList, Boolean))
         return;
@@ -49,34 +49,34 @@ void WalkOfAssign::tryBoolean()
     expect(!isEditing(), QStringLiteral("no editor for a boolean"));
 }
 
-void WalkOfAssign::removeBoolean()
+void AssignWalk::removeBoolean()
 {
     if (!goToRow(*user().chosenList, Boolean))
         return;
     user().press(Qt::Key_Delete);
-    const QTableWidget *offer = user().topView;
+    const QTableWidget *available = user().topView;
     expect(DialogUser::rowOf(user().chosenList, Boolean) == -1,
            QStringLiteral("'%1' to be removed").arg(Boolean));
-    expect(!offer->isRowHidden(DialogUser::rowOf(offer, Boolean)),
-           QStringLiteral("'%1' on offer again").arg(Boolean));
+    expect(!available->isRowHidden(DialogUser::rowOf(available, Boolean)),
+           QStringLiteral("'%1' to be available again").arg(Boolean));
 }
 
-void WalkOfAssign::changeUnits()
+void AssignWalk::changeUnits()
 {
     typeFilter(QString());
     const int inch = gen__torvex_get_str_units("inch");
     const int mm = gen__torvex_get_str_units("mm");
     const QString before = cellText(Float);
     dialog().setDisplayUnits(dialog().displayUnits() == inch ? mm : inch);
-    expect(cellText(Float) == before, QStringLiteral("the chosen values to stay"));
+    expect(cellText(Float) == before, QStringLiteral("the chosen values to keep their units"));
 }
 
-void WalkOfAssign::addInNewUnits()
+void AssignWalk::addInNewUnits()
 {
-    add(Length, Way::Mnemonic);
+    add(Length, AddMethod::Mnemonic);
     const bool inInches = dialog().displayUnits() == gen__torvex_get_str_units("inch");
     const QString expected = inInches ? QStringLiteral("0.010 inch") : QStringLiteral("0.250 mm");
     expect(cellText(Length) == expected, QStringLiteral("'%1' to read '%2'").arg(Length, expected));
 }
 
-} // namespace Zudunmaf::demo
+} // namespace Zudunmaf::walk
