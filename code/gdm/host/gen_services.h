@@ -4,6 +4,9 @@
 #include "gdm/host/gdm_export.h"
 
 #include <stddef.h>
+#ifndef __cplusplus
+#    include <stdbool.h>
+#endif
 
 /// @file
 /// The low-level services of the host: messages, configuration, memory, logging, string comparison, units.
@@ -13,7 +16,9 @@
 ///
 /// Strings are NUL-terminated. The service owns the strings that it returns, and the next call can overwrite them. A
 /// status of 0 is success, any other status is failure.
+#ifdef __cplusplus
 extern "C" {
+#endif
 
 /// Returns the text for a message key such as "@$@#gdm_qt@$@#GENERAL@$@#967@$@#Name", in the local 8-bit encoding.
 /// Field 4 of the key is the English text, which is returned if there is no translation. If null is returned, the label
@@ -66,6 +71,9 @@ GDM_EXPORT const char *gen__torvex_cur_units_str(int unitsClass, int displayUnit
 /// Returns the code of a unit text in the local 8-bit encoding; -1 if the text is no unit. Each text that
 /// gen__torvex_cur_units_str() returns has a code; a host can accept other spellings too.
 GDM_EXPORT int gen__torvex_get_str_units(const char *text);
+
+#ifdef __cplusplus
 }
+#endif
 
 #endif

@@ -4,8 +4,11 @@
 /// @file
 /// The records that the library shares with the host. Their layout is part of the interface.
 
-#include <cstddef>
-#include <cstdint>
+#include <stddef.h>
+#include <stdint.h>
+#ifndef __cplusplus
+#    include <assert.h>
+#endif
 
 // Anonymous structs, a compiler extension, make fields that share their bytes plain members of the record.
 #ifdef __clang__
@@ -26,41 +29,41 @@ enum DmlAttrType {
 /// Definition of one attribute. The dictionary owns it and all its strings, and keeps it valid as long as any item
 /// points to it. The library only reads it.
 struct DmlAttrDef {
-    std::int32_t type;             ///< A DmlAttrType.
+    int32_t type;                  ///< A DmlAttrType.
     char name[65];                 ///< Internal name, NUL-terminated.
     char prompt[65];               ///< Name to display, NUL-terminated.
     char group[66];                ///< Group name, NUL-terminated.
-    std::uint32_t entityMask;      ///< Entities that can carry the attribute; bits of EntityMask.
+    uint32_t entityMask;           ///< Entities that can carry the attribute; bits of EntityMask.
     unsigned char reserved204[12]; ///< Neither read nor written.
 
     /// The default value, by type.
-    union {
-        std::int32_t defaultBool;   ///< Nonzero means true.
-        const char *defaultText;    ///< Null if there is no default.
-        std::int32_t defaultOption; ///< Index into optionList; negative if there is no default.
+    __extension__ union {
+        int32_t defaultBool;     ///< Nonzero means true.
+        const char *defaultText; ///< Null if there is no default.
+        int32_t defaultOption;   ///< Index into optionList; negative if there is no default.
         __extension__ struct {
-            std::int32_t defaultInt; ///< An integer always has a default.
-            std::int32_t intMin; ///< Lower limit of an integer, in the upper half of the default's 8 bytes.
+            int32_t defaultInt; ///< An integer always has a default.
+            int32_t intMin;     ///< Lower limit of an integer, in the upper half of the default's 8 bytes.
         };
         float defaultFloat; ///< In the units of the definition. Single precision, unlike the limits.
     };
 
     /// The limits or the choices, by type.
-    union {
-        std::int32_t intMax; ///< Upper limit of an integer.
+    __extension__ union {
+        int32_t intMax; ///< Upper limit of an integer.
         __extension__ struct {
             double floatMin; ///< Lower limit of a float, in the units of the definition.
             double floatMax; ///< Upper limit; the library does not compare it with the lower one.
         };
         __extension__ struct {
             const char *const *optionList; ///< Entries of an option, or choices of a text.
-            std::int32_t optionCount; ///< Number of entries; 0 or less, like a null list, if there are none.
+            int32_t optionCount; ///< Number of entries; 0 or less, like a null list, if there are none.
         };
     };
 
-    std::int32_t unitsClass;      ///< Float only: units of limits, default and stored values; -1 for none.
+    int32_t unitsClass;           ///< Float only: units of limits, default and stored values; -1 for none.
     unsigned char reserved244[4]; ///< Neither read nor written.
-    std::int32_t textChoiceCount; ///< Text only: at least 1 if the editor lists optionList as choices.
+    int32_t textChoiceCount;      ///< Text only: at least 1 if the editor lists optionList as choices.
     unsigned char reserved252[4]; ///< Neither read nor written.
 };
 
@@ -68,17 +71,17 @@ struct DmlAttrDef {
 /// condition is stored.
 struct DmlAttrValue {
     unsigned char reserved0[4]; ///< Zero.
-    std::int32_t type;          ///< Copy of DmlAttrDef::type.
+    int32_t type;               ///< Copy of DmlAttrDef::type.
     unsigned char reserved8[4]; ///< Zero.
-    std::int32_t isSet;         ///< Nonzero if the user has set a condition.
+    int32_t isSet;              ///< Nonzero if the user has set a condition.
 
     /// The condition, by type; a boolean has only isSet.
-    union {
-        char text[200];      ///< NUL-terminated, in the local 8-bit encoding.
-        std::int32_t option; ///< Index into DmlAttrDef::optionList; -1 if nothing is chosen.
+    __extension__ union {
+        char text[200]; ///< NUL-terminated, in the local 8-bit encoding.
+        int32_t option; ///< Index into DmlAttrDef::optionList; -1 if nothing is chosen.
         __extension__ struct {
-            std::int32_t intLow;  ///< Least value that satisfies the condition.
-            std::int32_t intHigh; ///< Greatest value; editors never store less than intLow.
+            int32_t intLow;  ///< Least value that satisfies the condition.
+            int32_t intHigh; ///< Greatest value; editors never store less than intLow.
         };
         __extension__ struct {
             double floatLow;  ///< Least value, in the units of the definition under all display units.
@@ -93,6 +96,14 @@ struct DmlAttrValue {
 #    pragma clang diagnostic pop
 #endif
 
+#ifndef __cplusplus
+typedef enum DmlAttrType DmlAttrType;
+typedef struct DmlAttrDef DmlAttrDef;
+typedef struct DmlAttrValue DmlAttrValue;
+#endif
+
+// C has it from C11 on, as a macro.
+#if defined(__cplusplus) || defined(static_assert)
 static_assert(sizeof(void *) == 8, "the records are laid out for 64-bit pointers");
 
 static_assert(offsetof(DmlAttrDef, type) == 0, "DmlAttrDef::type");
@@ -124,5 +135,6 @@ static_assert(offsetof(DmlAttrValue, intHigh) == 20, "DmlAttrValue::intHigh");
 static_assert(offsetof(DmlAttrValue, floatLow) == 16, "DmlAttrValue::floatLow");
 static_assert(offsetof(DmlAttrValue, floatHigh) == 24, "DmlAttrValue::floatHigh");
 static_assert(sizeof(DmlAttrValue) == 224, "DmlAttrValue");
+#endif
 
 #endif
