@@ -30,7 +30,7 @@ install(DIRECTORY "${PROJECT_SOURCE_DIR}/code/gdm"
     REGEX "/(attr_condition|attr_assignment|chosen_items|condition_matcher)\\.h$"
     REGEX "/(attr_documents|attr_restoring|filter_lines)\\.h$"
     REGEX "/(attributes_filter_dialog|feature_attributes_dialog|tvx_attributes_selection_dialog)\\.h$"
-    REGEX "/(gdm_export|gen_services|dml_dictionary|message_keys|config_keys)\\.h$"
+    REGEX "/(gdm_export|gen_services|dml_dictionary|message_keys|config_keys|missing_host_functions)\\.h$"
     PATTERN "editing" EXCLUDE)
 
 if(NOT ZUDUNMAF_QT_MAJOR EQUAL 4)

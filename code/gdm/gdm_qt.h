@@ -21,4 +21,6 @@
 #include "gdm/dialogs/attributes_filter_dialog.h"
 #include "gdm/dialogs/feature_attributes_dialog.h"
 
+#include "gdm/host/missing_host_functions.h"
+
 #endif
