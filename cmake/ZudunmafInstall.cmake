@@ -17,10 +17,10 @@ endfunction()
 
 install_libraries(ZudunmafHostTargets Development zudunmaf_host_headers)
 install_libraries(ZudunmafTargets Library zudunmaf)
-configure_file("${CMAKE_CURRENT_LIST_DIR}/zudunmaf_version.h.in"
-    "${PROJECT_BINARY_DIR}/include/gdm/zudunmaf_version.h" @ONLY)
-install_development_files("${CMAKE_INSTALL_INCLUDEDIR}/zudunmaf/gdm"
-    "${PROJECT_BINARY_DIR}/include/gdm/zudunmaf_version.h")
+foreach(header zudunmaf_qt.h zudunmaf_version.h)
+    configure_file("${CMAKE_CURRENT_LIST_DIR}/${header}.in" "${PROJECT_BINARY_DIR}/include/gdm/${header}" @ONLY)
+    install_development_files("${CMAKE_INSTALL_INCLUDEDIR}/zudunmaf/gdm" "${PROJECT_BINARY_DIR}/include/gdm/${header}")
+endforeach()
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/code/gdm"
     DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/zudunmaf"
     COMPONENT Development

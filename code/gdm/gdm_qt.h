@@ -2,6 +2,18 @@
 #define GDM_GDM_QT_H
 
 /// Main header of the library: records and roles, items, conditions and values, dialogs.
+#include <QtGlobal>
+
+// Installed with the library only: built as part of a host's sources, the library has the host's Qt.
+#ifdef __has_include
+#    if __has_include("gdm/zudunmaf_qt.h")
+#        include "gdm/zudunmaf_qt.h"
+#    endif
+#endif
+#if defined(ZUDUNMAF_BUILT_WITH_QT) && ZUDUNMAF_BUILT_WITH_QT != (QT_VERSION >> 16)
+#    error "The installed Zudunmaf was built with another major version of Qt."
+#endif
+
 #include "gdm/items/attr_records.h"
 #include "gdm/items/attr_roles.h"
 
