@@ -4,19 +4,35 @@ include(CMakePackageConfigHelpers)
 
 set(zudunmaf_cmake_dir "${CMAKE_INSTALL_LIBDIR}/cmake/Zudunmaf")
 
-# install_libraries(EXPORT COMPONENT TARGET...): the file to link against belongs to the development files.
-function(install_libraries export component)
+# install_libraries(EXPORT COMPONENT FOLDER TARGET...): the file to link against belongs to the development files.
+function(install_libraries export component folder)
     install(TARGETS ${ARGN} EXPORT ${export}
-        LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT ${component} NAMELINK_COMPONENT Development)
+        LIBRARY DESTINATION "${folder}" COMPONENT ${component} NAMELINK_COMPONENT Development)
     install(EXPORT ${export} NAMESPACE Zudunmaf:: DESTINATION "${zudunmaf_cmake_dir}" COMPONENT Development)
+endfunction()
+
+# install_standins(EXPORT (TARGET SYMBOL)...): a program that links a stand-in has its folder in the run path, installed
+# too, and asks for a symbol of it, which carries the version of Qt.
+function(install_standins export)
+    set(targets)
+    set(symbols ${zudunmaf_versioned_symbols})
+    while(ARGN)
+        list(POP_FRONT ARGN target symbol)
+        target_link_options(${target} INTERFACE
+            "$<INSTALL_INTERFACE:LINKER:-rpath,$<INSTALL_PREFIX>/${zudunmaf_standins_dir},-u,${symbol}>")
+        list(APPEND targets ${target})
+        list(APPEND symbols ${symbol})
+    endwhile()
+    set(zudunmaf_versioned_symbols "${symbols}" PARENT_SCOPE)
+    install_libraries(${export} Standins "${zudunmaf_standins_dir}" ${targets})
 endfunction()
 
 function(install_development_files destination)
     install(FILES ${ARGN} DESTINATION "${destination}" COMPONENT Development)
 endfunction()
 
-install_libraries(ZudunmafHostTargets Development zudunmaf_host_headers)
-install_libraries(ZudunmafTargets Library zudunmaf)
+install_libraries(ZudunmafHostTargets Development "${CMAKE_INSTALL_LIBDIR}" zudunmaf_host_headers)
+install_libraries(ZudunmafTargets Library "${CMAKE_INSTALL_LIBDIR}" zudunmaf)
 foreach(header zudunmaf_qt.h zudunmaf_version.h)
     configure_file("${CMAKE_CURRENT_LIST_DIR}/${header}.in" "${PROJECT_BINARY_DIR}/include/gdm/${header}" @ONLY)
     install_development_files("${CMAKE_INSTALL_INCLUDEDIR}/zudunmaf/gdm" "${PROJECT_BINARY_DIR}/include/gdm/${header}")
@@ -34,8 +50,10 @@ install(DIRECTORY "${PROJECT_SOURCE_DIR}/code/gdm"
     PATTERN "editing" EXCLUDE)
 
 if(NOT ZUDUNMAF_QT_MAJOR EQUAL 4)
-    install_libraries(ZudunmafTvxTargets Standins zudunmaf_tvx)
-    install_libraries(ZudunmafServicesTargets Standins zudunmaf_gen zudunmaf_dml)
+    install_standins(ZudunmafTvxTargets zudunmaf_tvx
+        _ZN8Zudunmaf3tvx9addChosenER28TvxAttributesSelectionDialogRK16QTableWidgetItem)
+    install_standins(ZudunmafServicesTargets zudunmaf_gen gen__nls_nlst zudunmaf_dml dml__atr_next)
+    set_target_properties(zudunmaf_dml PROPERTIES INSTALL_RPATH "$ORIGIN") # calls the services' stand-in
     install(DIRECTORY "${PROJECT_SOURCE_DIR}/standins/"
         DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/zudunmaf"
         COMPONENT Development
@@ -60,6 +78,7 @@ if(ZUDUNMAF_QT_MAJOR EQUAL 4)
     set(zudunmaf_pc_requires "QtGui")
     set(zudunmaf_pc_files zudunmaf.pc)
 endif()
+list(JOIN zudunmaf_versioned_symbols ",-u," zudunmaf_versioned_symbols)
 foreach(file ${zudunmaf_pc_files})
     configure_file("${CMAKE_CURRENT_LIST_DIR}/${file}.in" "${PROJECT_BINARY_DIR}/${file}" @ONLY)
     install_development_files("${CMAKE_INSTALL_LIBDIR}/pkgconfig" "${PROJECT_BINARY_DIR}/${file}")

@@ -31,13 +31,27 @@ function(zudunmaf_target target)
     endif()
 endfunction()
 
-# zudunmaf_library(TARGET ALIAS): a shared library that is installed, and seen as Zudunmaf::ALIAS.
+# The stand-ins have a folder of their own, which no default search path includes: a host whose base dialog library was
+# not linked gets the loader's message instead of the stand-in.
+set(zudunmaf_standins_dir "${CMAKE_INSTALL_LIBDIR}/zudunmaf-standins")
+
+# zudunmaf_library(TARGET ALIAS [SYMBOLS]): a shared library that is installed, and seen as Zudunmaf::ALIAS. The installed
+# library has no run path: libzudunmaf.so finds the base dialog library that the program has loaded.
+#
+# The exported symbols that match SYMBOLS, by default all, carry the major version of Qt. A program that was linked
+# against a library for one version does not start with the library for another, which has the same file name.
 function(zudunmaf_library target alias)
     zudunmaf_target(${target})
     add_library(Zudunmaf::${alias} ALIAS ${target})
     set_target_properties(${target} PROPERTIES
         EXPORT_NAME ${alias}
         VERSION ${PROJECT_VERSION}
-        SOVERSION ${PROJECT_VERSION_MAJOR}
-        INSTALL_RPATH "$ORIGIN")
+        SOVERSION ${PROJECT_VERSION_MAJOR})
+    set(symbols "*;")
+    if(ARGC GREATER 2)
+        set(symbols "extern \"C++\" { ${ARGV2}; };")
+    endif()
+    set(script "${CMAKE_CURRENT_BINARY_DIR}/${target}.map")
+    file(WRITE "${script}" "ZUDUNMAF_QT${ZUDUNMAF_QT_MAJOR} { ${symbols} };\n")
+    target_link_options(${target} PRIVATE "LINKER:--version-script,${script}")
 endfunction()

@@ -15,6 +15,8 @@ import gdb
 
 # The base dialog's private class is not part of the interface.
 OWN = re.compile(r"\b(Zudunmaf::|Tvx[A-Z])(?!.*::Private\b)")
+# The version that exported symbols carry is printed once.
+OWN_VERSION = re.compile(r"@+(ZUDUNMAF_QT\d)\b")
 TYPES = [
     "DmlAttrDef", "DmlAttrValue", "DmlAttrType", "Zudunmaf::DmlAttrRole", "Zudunmaf::EntityMask",
     "Zudunmaf::DmlAttrLWI", "Zudunmaf::DmlAttrLWI::ItemType_Enum",
@@ -34,7 +36,7 @@ def run(*command):
 def symbols(library, *options):
     """Yields the lines of nm as (value, size, kind, name)."""
     for line in run(os.environ.get("NM", "nm"), "-DCS", *options, library):
-        match = re.match(r"([0-9a-f]+)? ?([0-9a-f]+)? *([A-Za-z]) (.+)", line.strip())
+        match = re.match(r"([0-9a-f]+)? ?([0-9a-f]+)? *([A-Za-z]) (.+)", OWN_VERSION.sub("", line.strip()))
         if match:
             yield match.groups()
 
@@ -61,7 +63,7 @@ def print_vtables(library):
     for line in run("readelf", "-rCW", library):
         words = line.split(None, 4)
         if len(words) == 5 and words[2] in ("R_X86_64_64", "R_AARCH64_ABS64"):
-            entries[int(words[0], 16)] = re.sub(r" \+ 0$", "", words[4])
+            entries[int(words[0], 16)] = re.sub(r" \+ 0$", "", OWN_VERSION.sub("", words[4]))
         elif len(words) == 4 and re.match(r"R_[A-Z0-9_]+_RELATIV", words[2]):
             # With -fno-semantic-interposition, the library refers to its functions by address.
             entries[int(words[0], 16)] = " = ".join(sorted(named.get(int(words[3], 16), "-")))
@@ -109,6 +111,7 @@ def main():
     library = gdb.current_progspace().filename
     dynamic = run("readelf", "-dW", library)
     print(*(re.sub(r".*\[(.*)\].*", r"soname \1", line) for line in dynamic if "(SONAME)" in line))
+    print(*(f"symbol version {name}" for _, _, kind, name in symbols(library, "--defined-only") if kind == "A"))
     print_symbols(library)
     print_vtables(library)
     print_types()
