@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QStandardItemModel>
 
 #include <cstddef>
@@ -227,6 +228,55 @@ private Q_SLOTS:
                         .endsWith(": " + QString(66, 'n')));
             value->valueAsString();
         }
+    }
+
+    void rangeInPlainView_data()
+    {
+        QTest::addColumn<QList<int>>("keys");    // after F2 on the cell; 0 is a click on a button
+        QTest::addColumn<QPoint>("stored");      // low and high bound; null if no condition is set
+        QTest::addColumn<QString>("focusOwner"); // afterwards
+
+        const int tab = Qt::Key_Tab, back = Qt::Key_Backtab, five = Qt::Key_5, nine = Qt::Key_9;
+        QTest::newRow("button") << QList<int>{five, tab, nine, 0} << QPoint(5, 9) << "button";
+        QTest::newRow("Enter in To") << QList<int>{five, tab, nine, Qt::Key_Return} << QPoint(5, 9)
+                                     << "table";
+        QTest::newRow("Escape in To") << QList<int>{five, tab, nine, Qt::Key_Escape} << QPoint() << "table";
+        QTest::newRow("back to From") << QList<int>{tab, nine, back, five, 0} << QPoint(5, 9) << "button";
+        QTest::newRow("Tab from To") << QList<int>{five, tab, nine, tab} << QPoint(5, 9) << "an editor";
+        QTest::newRow("Backtab from From") << QList<int>{five, back} << QPoint(5, 99) << "an editor";
+    }
+
+    /// The simplest base that a host can have: a QTableWidget with the delegate in it.
+    void rangeInPlainView()
+    {
+        QFETCH(QList<int>, keys);
+        const AttrFilterLWI *width = add<AttrFilterLWI>(integer("width", 1, 99, 7));
+        QTableWidget *table = host().chosen;
+        table->setItemDelegate(host().delegate);
+        QPushButton button(m_dialog.get());
+        button.move(300, 300);
+        m_dialog->resize(400, 400);
+        m_dialog->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
+        table->setFocus();
+        table->setCurrentCell(0, 1);
+
+        QTest::keyClick(table, Qt::Key_F2);
+        for (int key : std::as_const(keys)) {
+            if (key)
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key(key));
+            else
+                QTest::mouseClick(&button, Qt::LeftButton);
+            QCoreApplication::processEvents(); // the delegate ends an edit by a queued call on Enter
+        }
+        QTEST(width->data(DmlAttrValueRole).toPoint(), "stored");
+        const QWidget *focus = QApplication::focusWidget();
+        QString owner = "an editor"; // Tab and Backtab open the next one
+        if (focus == &button)
+            owner = "button";
+        else if (focus == table)
+            owner = "table";
+        QTEST(owner, "focusOwner");
     }
 
 private:

@@ -3,9 +3,11 @@
 #include "gdm/editing/combo_editing.h"
 #include "gdm/editing/min_max_double_editor.h"
 #include "gdm/editing/min_max_int_editor.h"
+#include "gdm/editing/range_editor_filter.h"
 #include "gdm/host/host_text.h"
 #include "gdm/items/attr_filter_lwi.h"
 
+#include <QAbstractSpinBox>
 #include <QLineEdit>
 
 #include <algorithm>
@@ -33,6 +35,8 @@ void loadRange(Editor *editor, Limit minimum, Limit maximum, Limit low, Limit hi
     editor->setMaximum(static_cast<Number>(maximum));
     editor->setFromValue(static_cast<Number>(low));
     editor->setToValue(static_cast<Number>(high));
+    const QList<QAbstractSpinBox *> boxes = editor->template findChildren<QAbstractSpinBox *>();
+    RangeEditorFilter::install(editor, boxes.first(), boxes.last());
 }
 
 void markSet(DmlAttrValue &condition, const DmlAttrDef &definition)
