@@ -1,6 +1,6 @@
 #include "gdm/host/gen_services.h"
 
-#include "gen/wildcard_pattern.h"
+#include "common/wildcards.h"
 
 #include <QString>
 
@@ -11,13 +11,14 @@ int gen__str_cmp_nc(const char *a, const char *b)
 
 bool gen__str_cmp_reg(const char *text, const char *pattern)
 {
-    using Zudunmaf::gen::WildcardPattern;
-
-    // A walk over the dictionary asks with the same pattern for each attribute. It is compared decoded,
-    // because the same bytes are another pattern under another codec.
-    static WildcardPattern last(QStringLiteral("*"));
+    // A fill passes the same pattern for each attribute. It is compared decoded, because the same bytes are a
+    // different pattern in a different encoding.
+    static QString last;
+    static QRegularExpression expression;
     const QString wanted = QString::fromLocal8Bit(pattern);
-    if (last.source() != wanted)
-        last = WildcardPattern(wanted);
-    return last.matches(QString::fromUtf8(text));
+    if (last != wanted) {
+        last = wanted;
+        expression = Zudunmaf::standins::wildcardExpression(wanted);
+    }
+    return expression.pattern().isEmpty() || expression.match(QString::fromUtf8(text)).hasMatch();
 }

@@ -1,10 +1,12 @@
 #include "tvx/match_highlight_delegate.h"
 
+#include "common/wildcards.h"
 #include "tvx/attribute_table.h"
 
 #include <QApplication>
 #include <QPainter>
-#include <QTextLayout>
+
+#include <algorithm>
 
 namespace Zudunmaf
 {
@@ -28,37 +30,38 @@ QPalette::ColorGroup colorGroup(const QStyleOptionViewItem &option)
     return option.state & QStyle::State_Active ? QPalette::Active : QPalette::Inactive;
 }
 
-QVector<QTextLayout::FormatRange> formats(const QStyleOptionViewItem &option, const QString &shown,
-                                          const QVector<MatchFinder::Match> &matches)
+QTextCharFormat markFormat(const QStyleOptionViewItem &cell)
 {
-    QVector<QTextLayout::FormatRange> ranges;
-    if (matches.isEmpty())
-        return ranges;
-    const QPalette::ColorGroup group = colorGroup(option);
-    const bool selected = option.state & QStyle::State_Selected;
-    const QColor back = option.palette.color(group, selected ? QPalette::Highlight : QPalette::Base);
-    const QColor front = option.palette.color(group, selected ? QPalette::HighlightedText : QPalette::Text);
-    const QColor mark =
-        option.palette.color(group, selected ? QPalette::HighlightedText : QPalette::Highlight);
+    const QPalette::ColorGroup group = colorGroup(cell);
+    const bool selected = cell.state & QStyle::State_Selected;
+    const QColor back = cell.palette.color(group, selected ? QPalette::Highlight : QPalette::Base);
+    const QColor front = cell.palette.color(group, selected ? QPalette::HighlightedText : QPalette::Text);
+    const QColor mark = cell.palette.color(group, selected ? QPalette::HighlightedText : QPalette::Highlight);
 
     QTextCharFormat format;
     format.setBackground(mixed(mark, back, 0.3));
     format.setForeground(front);
     format.setFontUnderline(true);
-    for (const MatchFinder::Match &match : matches) {
-        if (match.start + match.length <= shown.size())
-            ranges.append({match.start, match.length, format});
-    }
-    return ranges;
+    return format;
 }
 
-/// Where the text of a cell belongs. The style finds it by measuring the text, which only a picture beside it makes
-/// needful.
+/// Returns the rectangle of the text. The style measures the text for that, so it is asked only about a cell with a
+/// picture.
 QRect textArea(const QStyleOptionViewItem &cell, const QStyle &style)
 {
     const bool hasPicture =
         cell.features & (QStyleOptionViewItem::HasCheckIndicator | QStyleOptionViewItem::HasDecoration);
     return hasPicture ? style.subElementRect(QStyle::SE_ItemViewItemText, &cell, cell.widget) : cell.rect;
+}
+
+QVector<QTextLayout::FormatRange> marksWithin(QVector<QTextLayout::FormatRange> marks, qsizetype length)
+{
+    marks.erase(std::remove_if(marks.begin(), marks.end(),
+                               [length](const QTextLayout::FormatRange &mark) {
+                                   return mark.start + mark.length > length;
+                               }),
+                marks.end());
+    return marks;
 }
 
 QTextLine layOut(QTextLayout *layout, int width)
@@ -77,56 +80,74 @@ MatchHighlightDelegate::MatchHighlightDelegate(QObject *parent)
 {
 }
 
+void MatchHighlightDelegate::setSearchedText(const QString &text)
+{
+    m_searched = standins::wildcardExpression(text);
+}
+
+MatchHighlightDelegate::Marks MatchHighlightDelegate::marksOf(const QStyleOptionViewItem &cell) const
+{
+    Marks marks;
+    if (m_searched.pattern().isEmpty() || cell.index.column() != AttributeTable::NameColumn)
+        return marks;
+    const QTextCharFormat format = markFormat(cell);
+    auto matches = m_searched.globalMatch(cell.text);
+    while (matches.hasNext()) {
+        const QRegularExpressionMatch match = matches.next();
+        marks.append(
+            {static_cast<int>(match.capturedStart()), static_cast<int>(match.capturedLength()), format});
+    }
+    return marks;
+}
+
 void MatchHighlightDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                                    const QModelIndex &index) const
 {
     QStyleOptionViewItem cell = option;
     initStyleOption(&cell, index);
     cell.text.replace(QChar::LineSeparator, QLatin1Char(' '));
-    QVector<MatchFinder::Match> matches;
-    if (index.column() == AttributeTable::NameColumn)
-        matches = m_finder.matchesIn(cell.text);
+    const Marks marks = marksOf(cell);
     const QStyle *style = cell.widget ? cell.widget->style() : QApplication::style();
-    // What a style sheet says of the text only the style knows.
-    if (matches.isEmpty() && style->inherits("QStyleSheetStyle")) {
+    // Only the style knows what a style sheet says about the text.
+    if (marks.isEmpty() && style->inherits("QStyleSheetStyle")) {
         QStyledItemDelegate::paint(painter, option, index);
         return;
     }
-    // The style would set the text three times over: to place it, to shorten it and to draw it.
+    // The style would lay out the text three times: to place it, to elide it and to draw it.
     const QRect area = textArea(cell, *style);
     QStyleOptionViewItem bare = cell;
     bare.text.clear();
     style->drawControl(QStyle::CE_ItemViewItem, &bare, painter, cell.widget);
     if (!cell.text.isEmpty())
-        paintText(painter, cell, area, matches);
+        paintText(painter, cell, area, marks);
 }
 
-void MatchHighlightDelegate::paintText(QPainter *painter, const QStyleOptionViewItem &option,
-                                       const QRect &area, const QVector<MatchFinder::Match> &matches) const
+void MatchHighlightDelegate::paintText(QPainter *painter, const QStyleOptionViewItem &cell, const QRect &area,
+                                       const Marks &marks) const
 {
-    const QStyle *style = option.widget ? option.widget->style() : QApplication::style();
-    const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, option.widget) + 1;
+    const QStyle *style = cell.widget ? cell.widget->style() : QApplication::style();
+    const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, cell.widget) + 1;
     const QRect inner = area.adjusted(margin, 0, -margin, 0);
 
-    QTextLayout layout(option.text, option.font);
-    QTextOption direction(QStyle::visualAlignment(option.direction, option.displayAlignment));
-    direction.setTextDirection(option.direction);
+    QTextLayout layout(cell.text, cell.font);
+    QTextOption direction(QStyle::visualAlignment(cell.direction, cell.displayAlignment));
+    direction.setTextDirection(cell.direction);
     direction.setWrapMode(QTextOption::NoWrap);
     layout.setTextOption(direction);
-    layout.setFormats(formats(option, option.text, matches));
+    layout.setFormats(marks);
     QTextLine line = layOut(&layout, inner.width());
     if (line.naturalTextWidth() > inner.width()) {
-        layout.setText(option.fontMetrics.elidedText(option.text, option.textElideMode, inner.width()));
-        layout.setFormats(formats(option, layout.text(), matches));
+        layout.setText(cell.fontMetrics.elidedText(cell.text, cell.textElideMode, inner.width()));
+        layout.setFormats(marksWithin(marks, layout.text().size()));
         line = layOut(&layout, inner.width());
     }
 
-    const bool selected = option.state & QStyle::State_Selected;
+    const bool selected = cell.state & QStyle::State_Selected;
     painter->save();
     if (line.height() > area.height() || line.naturalTextWidth() > inner.width())
         painter->setClipRect(area);
     painter->setPen(
-        option.palette.color(colorGroup(option), selected ? QPalette::HighlightedText : QPalette::Text));
+        cell.palette.color(colorGroup(cell), selected ? QPalette::HighlightedText : QPalette::Text));
     layout.draw(painter, QPointF(inner.left(), inner.top() + (inner.height() - line.height()) / 2));
     painter->restore();
 }

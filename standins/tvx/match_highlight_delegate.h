@@ -1,17 +1,17 @@
 #ifndef TVX_MATCH_HIGHLIGHT_DELEGATE_H
 #define TVX_MATCH_HIGHLIGHT_DELEGATE_H
 
-#include "tvx/match_finder.h"
-
+#include <QRegularExpression>
 #include <QStyledItemDelegate>
+#include <QTextLayout>
 
 namespace Zudunmaf
 {
 namespace tvx
 {
 
-/// Paints the rows on offer, each text in one line: in the name, what the filter text matches stands out, in colours of
-/// the palette. Rows are as high as those of the delegate with which the chosen ones are edited.
+/// Paints the cells of the available table, each text in one line, and marks in the names what the filter text matches, in
+/// colours of the palette. Rows are as high as those of the chosen table.
 class MatchHighlightDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -19,18 +19,21 @@ class MatchHighlightDelegate : public QStyledItemDelegate
 public:
     explicit MatchHighlightDelegate(QObject *parent);
 
-    /// Empty for no mark.
-    void setSearchedText(const QString &text) { m_finder.setPattern(text); }
+    /// Sets the filter text; an empty one removes the marks. The view must be updated by the caller.
+    void setSearchedText(const QString &text);
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 
 private:
-    void paintText(QPainter *painter, const QStyleOptionViewItem &option, const QRect &area,
-                   const QVector<MatchFinder::Match> &matches) const;
+    using Marks = QVector<QTextLayout::FormatRange>;
 
-    MatchFinder m_finder;
+    Marks marksOf(const QStyleOptionViewItem &cell) const;
+    void paintText(QPainter *painter, const QStyleOptionViewItem &cell, const QRect &area,
+                   const Marks &marks) const;
+
+    QRegularExpression m_searched;
 };
 
 } // namespace tvx

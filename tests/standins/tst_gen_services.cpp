@@ -17,7 +17,7 @@ using namespace Zudunmaf;
 using gen::UnitInfo;
 using gen::units;
 
-/// Comparing, configuration and units, the last also through the text of a value.
+/// Comparing, configuration and units, the last also through the text of a value. tst_wildcards.cpp has gen__str_cmp_reg().
 class TestGenServices : public QObject
 {
     Q_OBJECT
@@ -92,27 +92,6 @@ private Q_SLOTS:
         QVERIFY(gen__str_cmp_nc("Obsolete parts", "Obsolete") != 0);
         QVERIFY(gen__str_cmp_nc("Obs", "Obsolete") != 0);
         QVERIFY(gen__str_cmp_nc(nullptr, "a") != 0);
-    }
-
-    void wildcards()
-    {
-        for (const QByteArray &encoding : localEncodings()) {
-            setLocalEncoding(encoding);
-            for (const QString &row : textsOf(m_tables["matches"]))
-                QVERIFY2(!canBeTyped(row) || matches(row), qPrintable(row));
-            for (const QString &row : textsOf(m_tables["matches not"]))
-                QVERIFY2(!canBeTyped(row) || !matches(row), qPrintable(row));
-        }
-        QVERIFY(gen__str_cmp_reg(nullptr, "*") && gen__str_cmp_reg("a", nullptr));
-        QVERIFY(!gen__str_cmp_reg(nullptr, "a"));
-    }
-
-    void manyStars()
-    {
-        // A matcher that tried every way to share the text out among the stars would not come back.
-        const QByteArray text(5000, 'a');
-        QVERIFY(!gen__str_cmp_reg(text.constData(), (QByteArray("a*").repeated(2000) + 'b').constData()));
-        QVERIFY(gen__str_cmp_reg(text.constData(), (QByteArray(20000, '*') + 'a').constData()));
     }
 
     /// The page has a row for each unit: text, dimension, names in any case, names as written.
@@ -201,18 +180,6 @@ private Q_SLOTS:
     }
 
 private:
-    /// Of a text of the dictionary and a pattern that a user types, with a blank in between.
-    static bool matches(const QString &row)
-    {
-        const QByteArray name = row.section(' ', 0, 0).toUtf8();
-        return gen__str_cmp_reg(gen__nls_nlsa_get_att_prompt("", name.constData()),
-                                qPrintable(row.section(' ', 1)));
-    }
-    static bool canBeTyped(const QString &row)
-    {
-        const QString typed = row.section(' ', 1);
-        return QString::fromLocal8Bit(typed.toLocal8Bit()) == typed;
-    }
     /// The names between backquotes.
     static QStringList namesIn(const QString &cell)
     {

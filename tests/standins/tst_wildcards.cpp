@@ -1,0 +1,174 @@
+#include "common/wildcards.h"
+#include "gdm/dialogs/filter_pattern.h"
+#include "gdm/host/gen_services.h"
+#include "local_encoding.h"
+
+#include <QTest>
+
+#include <random>
+
+using namespace Zudunmaf;
+using standins::wildcardExpression;
+
+/// A filter text decides which rows are visible (FilterPattern), which attributes are filled (gen__str_cmp_reg), and
+/// what is marked in a name (wildcardExpression). The three must agree.
+class TestWildcards : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { setLocalEncoding("UTF-8"); }
+
+    void textsAndLabels_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("label");
+        QTest::addColumn<QString>("marked");
+        struct Row {
+            const char *name;
+            const char *text;
+            const char *label;
+            const char *marked; ///< the label with each match in braces; null if nothing matches
+        };
+        const Row rows[] = {
+            {"plain text anywhere", "wid", "line_width", "line_{wid}th"},
+            {"case is ignored", "LINE", "line_width", "{line}_width"},
+            {"each match", "i", "line_width", "l{i}ne_w{i}dth"},
+            {"no match", "widht", "line_width", nullptr},
+            {"empty text", "", "line_width", "line_width"},
+            {"empty label", "?", "", nullptr},
+            {"stars only", "***", "", ""},
+            {"star", "l*w*h", "line_width", "{line_width}"},
+            {"star takes little", "i*e", "line_edge", "l{ine}_edge"},
+            {"next match after a star", "e*d", "edge_end", "{ed}g{e_end}"},
+            {"stars at the ends", "**wid*", "line_width", "line_{wid}th"},
+            {"wrong order", "h*w", "line_width", nullptr},
+            {"retry after a part", "ab?abc", "abab_abc", "ab{ab_abc}"},
+            {"question mark", "n?_", "line_width", "li{ne_}width"},
+            {"too many question marks", "?????", "line", nullptr},
+            {"star crosses a line", "a*b", "a\nb", "{a\nb}"},
+            {"question mark takes a line break", "a?b", "a\nb", "{a\nb}"},
+            {"range", "l[0-9]", "drill3", "dril{l3}"},
+            {"descending range", "l[9-0]", "drill3", "dril{l3}"},
+            {"negated set", "l[^0-9]", "drill3", "dri{ll}3"},
+            {"negated set ignores case", "[^A]", "a", nullptr},
+            {"set in any case", "[XR]I", "drill", "d{ri}ll"},
+            {"] first in a set", "a[]]b", "a]b", "{a]b}"},
+            {"] first in a negated set", "a[^]]b", "a]b", nullptr},
+            {"- last in a set", "[x-]b", "a-b", "a{-b}"},
+            {"^ not first in a set", "[a^]", "b^", "b{^}"},
+            {"[ in a set", "[[]", "b[", "b{[}"},
+            {"backslash in a set", "[\\d]", "1\\", "1{\\}"},
+            {"unclosed set", "a[", "a[b", nullptr},
+            {"set without members", "a[]", "a[]b", nullptr},
+            {"negated set without members", "a[^]", "a[^]b", nullptr},
+            {"lone ]", "a]", "a]", nullptr},
+            // QRegExp doubles a backslash, except before a wildcard, which it takes literally.
+            {"backslash and star", "\\*a", "\\*a", "{\\*a}"},
+            {"backslash and star, not any text", "\\*a", "\\ba", nullptr},
+            {"backslash and letter", "\\a", "\\\\a", "{\\\\a}"},
+            {"backslash and letter, one backslash", "\\a", "\\a", nullptr},
+            {"backslash and [", "\\[a", "\\[a", "{\\[a}"},
+            {"backslash at the end", "a\\", "a\\*", "{a\\*}"},
+            {"backslash at the end, alone", "a\\", "a\\", nullptr},
+            {"dot is itself", "a.b", "axb", nullptr},
+            {"anchors are themselves", "^a$", "^a$", "{^a$}"},
+            {"brackets are themselves", "(a){2}|+", "(a){2}|+", "{(a){2}|+}"},
+            {"slash", "a*c", "a/b/c", "{a/b/c}"},
+            {"umlaut", "üBER", "Überzug", "{Über}zug"},
+            {"sharp s", "u\u1E9E", "Fußnote", "F{uß}note"},
+            {"range beyond ASCII", "[ö-ü]ß?", "Größe", "Gr{öße}"},
+            {"Cyrillic", "*РОЖ", "Дорожка", "До{рож}ка"},
+            {"above U+FFFF", "\U0001F527", "a\U0001F527b", "a{\U0001F527}b"},
+        };
+        for (const Row &row : rows)
+            QTest::newRow(row.name) << QString(row.text) << QString(row.label) << QString(row.marked);
+    }
+    void textsAndLabels()
+    {
+        QFETCH(const QString, text);
+        QFETCH(const QString, label);
+        QFETCH(const QString, marked);
+        QCOMPARE(FilterPattern(text).matches(qPrintable(label)), !marked.isNull());
+        QCOMPARE(gen__str_cmp_reg(qPrintable(label), qPrintable(text)), !marked.isNull());
+        QCOMPARE(withMarks(label, text), marked);
+    }
+
+    /// A label is in UTF-8, and a text as it is typed.
+    void textsInLocalEncodings()
+    {
+        for (const QByteArray &encoding : localEncodings()) {
+            setLocalEncoding(encoding);
+            const QString text = QString::fromUtf8("üBER");
+            if (QString::fromLocal8Bit(text.toLocal8Bit()) == text)
+                QVERIFY2(gen__str_cmp_reg("Überzug", qPrintable(text)), encoding.constData());
+            QVERIFY2(!gen__str_cmp_reg("Überzug", "\xC3"), encoding.constData());
+        }
+    }
+
+    void randomTexts()
+    {
+        const QStringList lettersOfTexts{"ab[]^-*?", "ab\\*?[]", "a.+$(){}|^*?", "aäÄß*?"};
+        for (const QString &letters : lettersOfTexts) {
+            for (int round = 0; round < 2000; ++round) {
+                const QString text = any(letters, 7);
+                const QString label = any(QString(letters).remove('*').remove('?'), 9);
+                const bool shown = FilterPattern(text).matches(qPrintable(label));
+                const QString context = text + " on " + label;
+                QVERIFY2(gen__str_cmp_reg(qPrintable(label), qPrintable(text)) == shown, qPrintable(context));
+                QVERIFY2(withMarks(label, text).isNull() != shown, qPrintable(context));
+            }
+        }
+    }
+
+    /// A matcher that tried every way to share the label out among the stars would not come back.
+    void timeIsBounded()
+    {
+        const QByteArray label(5000, 'a');
+        const QByteArray parts = QByteArray("a*").repeated(2000) + 'b';
+        QVERIFY(!gen__str_cmp_reg(label.constData(), parts.constData()));
+        QVERIFY(withMarks(label, parts).isNull());
+        QVERIFY(gen__str_cmp_reg(label.constData(), QByteArray(20000, '*') + 'a'));
+    }
+
+    void oddArguments()
+    {
+        QVERIFY(gen__str_cmp_reg(nullptr, "*"));
+        QVERIFY(gen__str_cmp_reg("a", nullptr));
+        QVERIFY(!gen__str_cmp_reg(nullptr, "a"));
+        const QString halfOfPair(QChar(0xD83D));
+        QVERIFY(withMarks("a", halfOfPair).isNull());
+    }
+
+private:
+    /// The label with each match in braces; null if the text does not match.
+    static QString withMarks(const QString &label, const QString &text)
+    {
+        const QRegularExpression expression = wildcardExpression(text);
+        if (!expression.match(label).hasMatch())
+            return QString();
+        QString marked = "";
+        int end = 0;
+        auto matches = expression.globalMatch(label);
+        while (matches.hasNext()) {
+            const QRegularExpressionMatch match = matches.next();
+            marked += label.mid(end, int(match.capturedStart()) - end);
+            if (match.capturedLength() > 0)
+                marked += '{' + match.captured() + '}';
+            end = int(match.capturedEnd());
+        }
+        return marked + label.mid(end);
+    }
+    QString any(const QString &letters, unsigned longest)
+    {
+        QString text;
+        for (unsigned length = unsigned(m_random()) % (longest + 1); length > 0; --length)
+            text += letters.at(int(m_random() % unsigned(letters.size())));
+        return text;
+    }
+
+    std::minstd_rand m_random{4711};
+};
+
+QTEST_APPLESS_MAIN(TestWildcards)
+#include "tst_wildcards.moc"
