@@ -19,7 +19,7 @@ QString attributeName(int index)
     static const char *const traits[] = {"width", "height", "finish", "offset", "class", "grade", "length"};
     return QStringLiteral("%1_%2_%3")
         .arg(QLatin1String(things[index % 10]), QLatin1String(traits[index / 10 % 7]))
-        .arg(index * 7919LL % 1000003, 6, 10, QLatin1Char('0')); // no order: neighbours differ in every digit
+        .arg(index * 7919LL % 1000003, 6, 10, QLatin1Char('0')); // neighbours differ in every digit
 }
 
 QJsonObject attribute(int index)

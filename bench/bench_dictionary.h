@@ -4,15 +4,14 @@
 #include <QString>
 #include <QStringList>
 
-/// The dictionary that everything is measured over: attributes of mixed types in 40 groups, carried by
-/// features and layers alike.
+/// The dictionary of the benchmarks: attributes of mixed types in 40 groups, for features and layers.
 namespace Zudunmaf::bench
 {
 
-/// Loads a dictionary of `count` attributes; its identifier is `count` too. Loading it twice is harmless.
+/// Loads a dictionary of `count` attributes with the identifier `count`. Does nothing if it is already loaded.
 void loadDictionary(int count);
 
-/// The names of its attributes, in their order.
+/// Returns the names of its attributes, in order.
 QStringList attributeNames(int count);
 
 } // namespace Zudunmaf::bench

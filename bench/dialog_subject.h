@@ -11,7 +11,7 @@
 namespace Zudunmaf::bench
 {
 
-/// One of the real dialogs, worked through its widgets.
+/// One of the library's dialogs, controlled through its widgets.
 template <class Dialog>
 class DialogSubject
 {

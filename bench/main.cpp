@@ -1,5 +1,4 @@
-// Times the dialogs at three sizes beside two peers and prints the ratios. Run offscreen, from a Release
-// build.
+// Times the dialogs and their peers at three sizes and prints the ratios. Needs a Release build; runs offscreen.
 #include "matching.h"
 #include "ratio_table.h"
 #include "trials.h"
@@ -41,7 +40,7 @@ constexpr Wait waits[] = {
     {"units assign", units<AssignSubject>},
 };
 
-/// The work `above` is to take at most `goal` times as long as the work `below`.
+/// The goal is that the work `above` takes at most `goal` times as long as the work `below`.
 struct Contest {
     const char *title;
     double goal;
@@ -87,7 +86,7 @@ constexpr Contest contests[] = {
     growth("remove all assign, growth", 12, remove<AssignSubject, AllRows>),
 };
 
-/// Enough for a steady median, in a time that a developer waits for.
+/// Enough for a stable median, few enough for a run of some minutes.
 int repetitions(int size)
 {
     return size <= 1000 ? 101 : size <= 10000 ? 31 : 9;
@@ -117,7 +116,7 @@ void enrollWait(const Wait &wait, int size)
     });
 }
 
-/// The two are timed in turn: a machine that is slow for a while is so for both.
+/// Times the two alternately, so that a temporarily slow machine slows both.
 void enrollContest(const Contest &contest)
 {
     enroll(contest.title, contest.sizeAbove, [&contest](benchmark::State &state) {
@@ -127,7 +126,7 @@ void enrollContest(const Contest &contest)
         for (auto _ : state) {
             const double seconds = above();
             if (contest.sizeAbove != contest.sizeBelow)
-                below(); // the large one has left the small one nothing of the caches
+                below(); // warms up the caches after the large one
             ratios.push_back(seconds / below());
             state.SetIterationTime(seconds);
         }
@@ -136,7 +135,7 @@ void enrollContest(const Contest &contest)
     });
 }
 
-/// The small ones first: what the large ones leave of the heap is no ground to stand on.
+/// Small sizes first: large ones leave a fragmented heap.
 void enrollAll()
 {
     for (const int size : {1000, 10000, 100000}) {
@@ -149,7 +148,7 @@ void enrollAll()
     }
 }
 
-/// What the program holds, blocks that have a mapping of their own included.
+/// Returns the allocated bytes, including blocks with their own mapping.
 double bytesInUse()
 {
     const struct mallinfo2 info = mallinfo2();
@@ -164,7 +163,7 @@ double heldBytes(int size)
     return bytesInUse() - before;
 }
 
-/// Bytes for each attribute, above a dialog over an empty dictionary.
+/// Returns the bytes per attribute, relative to a dialog with an empty dictionary.
 template <class Subject>
 double bytesPerAttribute(int size)
 {
@@ -175,12 +174,12 @@ double bytesPerAttribute(int size)
     return (heldBytes<Subject>(size) - empty) / size;
 }
 
-/// Measures in a process of its own: that finds a heap that nobody has used, and leaves none behind.
+/// Measures in a child process, which starts with an unused heap.
 double measuredApart(double (*measure)(int), int size)
 {
     int ends[2];
     if (pipe(ends) != 0)
-        qFatal("no pipe to another process");
+        qFatal("cannot create a pipe");
     double figure = std::nan("");
     const pid_t child = fork();
     if (child == 0) {
@@ -193,7 +192,7 @@ double measuredApart(double (*measure)(int), int size)
     }
     close(ends[1]);
     if (child < 0 || read(ends[0], &figure, sizeof figure) != sizeof figure)
-        qFatal("the other process has measured nothing");
+        qFatal("the child process has not measured anything");
     close(ends[0]);
     waitpid(child, nullptr, 0);
     return figure;
@@ -205,7 +204,7 @@ int main(int argc, char *argv[])
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    // The offscreen platform says each time that it has no size hints.
+    // The offscreen platform warns about size hints for each window.
     qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
         if (type == QtFatalMsg)
             std::fprintf(stderr, "%s\n", qPrintable(text));

@@ -13,7 +13,7 @@ class QTableWidget;
 namespace Zudunmaf::bench
 {
 
-/// The way most Qt programs would do it: a table view on a sort and filter proxy over a standard model.
+/// The usual Qt solution: a QTableView on a QSortFilterProxyModel on a QStandardItemModel.
 class ProxyDialog : public QDialog
 {
 public:
@@ -27,8 +27,8 @@ private:
     QTableView *m_view;
 };
 
-/// The least that a QTableWidget costs: two items a row whose data() answers from memory, rows hidden with
-/// updates off, a plain search in the name.
+/// The minimum cost of a QTableWidget: two items in each row with stored texts, rows hidden while updates are disabled, and
+/// a plain search in the name.
 class FloorDialog : public QDialog
 {
 public:

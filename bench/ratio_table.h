@@ -9,24 +9,23 @@
 namespace Zudunmaf::bench
 {
 
-/// Reports runs as the console does, and gathers those that have a goal, so that they can be printed as a table
-/// behind all others.
+/// A console reporter that also collects the runs with a goal and prints them as a table at the end.
 class RatioTable : public benchmark::ConsoleReporter
 {
 public:
-    /// The counters of a run that has a goal: what it came to, and what that is to be at most.
+    /// The counters of a run with a goal: the measured ratio and its maximum.
     static constexpr char RatioCounter[] = "ratio";
     static constexpr char GoalCounter[] = "goal";
 
     void ReportRuns(const std::vector<Run> &runs) override;
 
-    /// Adds a figure that is no time, such as bytes.
+    /// Adds a figure that is not a time, such as bytes.
     void add(const std::string &title, double figure, double goal)
     {
         m_rows.push_back({title, figure, goal});
     }
 
-    /// Prints each figure beside its goal; false where one is over it.
+    /// Prints each figure and its goal. Returns false if a figure is above its goal.
     bool print() const;
 
 private:

@@ -13,22 +13,22 @@
 #include <memory>
 #include <type_traits>
 
-/// The works that the bench times. Each function prepares one, over a dictionary of `size` attributes and on a subject
-/// of its own: one of the dialogs or a peer.
+/// The works that are timed. Each function prepares one with a dictionary of `size` attributes and a new subject: a dialog
+/// or a peer.
 namespace Zudunmaf::bench
 {
 
 using FilterSubject = DialogSubject<AttributesFilterDialog>;
 using AssignSubject = DialogSubject<FeatureAttributesDialog>;
 
-/// Does the work once and tells the seconds that it took. May be called again and again.
+/// Does the work once and returns its time in seconds. Can be called repeatedly.
 using Trial = std::function<double()>;
 using MakeTrial = Trial (*)(int size);
 
-/// Stands for as many rows as there are.
+/// As many rows as the table has.
 constexpr int AllRows = 0;
 
-/// Brings the screen up to date. Once is not enough: a view paints, then puts right by a timer what it has painted.
+/// Processes events until none is left. One pass is not enough: a view delays part of its layout with a timer.
 inline void settle()
 {
     QEventLoop loop;
@@ -36,7 +36,7 @@ inline void settle()
     }
 }
 
-/// Seconds until the work is done and the screen is up to date.
+/// Returns the seconds until the work is done and painted.
 template <class Work>
 double timed(Work work)
 {
@@ -79,7 +79,7 @@ Trial open(int size)
     };
 }
 
-/// One key that narrows, one that widens, and clearing: the mean of the three.
+/// One key that narrows, one that widens, and clearing the text: their mean.
 template <class Subject>
 Trial key(int size)
 {
@@ -93,7 +93,7 @@ Trial key(int size)
     };
 }
 
-/// Times `work` on the subject, which `back` then undoes.
+/// Times `work` on the subject. `back` undoes it.
 template <class Subject, class Work, class Back>
 Trial undone(std::shared_ptr<Subject> subject, Work work, Back back)
 {
@@ -129,7 +129,7 @@ Trial group(int size)
         [](Subject &subject) { subject.setGroup(0); });
 }
 
-/// Rows are added and removed again; the one or the other is timed.
+/// Adds rows and removes them. Returns the time of one of the two.
 template <class Subject, int Rows, bool Adding>
 Trial transfer(int size)
 {
@@ -156,7 +156,7 @@ Trial remove(int size)
     return transfer<Subject, Rows, false>(size);
 }
 
-/// "Assign Attributes" leaves the chosen ones out, so there it matters that there are some.
+/// "Assign Attributes" hides chosen attributes, so its key depends on how many there are.
 inline Trial keyAmongChosen(int size)
 {
     const auto subject = shown<AssignSubject>(size);
@@ -178,7 +178,7 @@ inline Trial lines(int size)
     };
 }
 
-/// There and back: the mean of the two.
+/// To other units and back: the mean of the two.
 template <class Subject>
 Trial units(int size)
 {

@@ -1,4 +1,4 @@
-// The least that a base dialog can be: two tables, two buttons, an entity and a group box, a filter line.
+// A minimal base dialog: two tables, two buttons, combo boxes for entity and group, a line edit for the filter text.
 #include "gdm/dialogs/tvx_attributes_selection_dialog.h"
 
 #include <QComboBox>
@@ -92,7 +92,7 @@ void TvxAttributesSelectionDialog::fillEntityList(const QList<TvxDataItem *> &it
     d->entities->clear();
     for (const TvxDataItem *item : items)
         d->entities->addItem(item->text(), item->data());
-    qDeleteAll(items); // the rows hold all that is needed of them
+    qDeleteAll(items); // their texts and data have been copied
     d->entities->setCurrentIndex(d->entities->count() - 1);
 }
 

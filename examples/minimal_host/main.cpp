@@ -1,5 +1,5 @@
-// Opens the attribute filter dialog and prints the conditions. With the argument "--once" it works the dialog
-// itself, which is how the example is tested.
+// Opens the attribute filter dialog and prints the conditions. With the argument "--once" it adds a condition without user
+// input, for the test.
 #include "gdm/gdm_qt.h"
 
 #include <QApplication>

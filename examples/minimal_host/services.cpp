@@ -1,4 +1,4 @@
-// The services and the dictionary of a host that has two attributes, one language and no configuration.
+// Services and dictionary of a host with two attributes, one language and no configuration.
 #include "gdm/host/dml_dictionary.h"
 #include "gdm/host/gen_services.h"
 #include "gdm/items/attr_records.h"
@@ -33,7 +33,7 @@ void gen__mem_free(void *memory, int, const char *, int) { std::free(memory); }
 int gen__str_cmp_nc(const char *a, const char *b) { return strcasecmp(a, b); }
 bool gen__str_cmp_reg(const char *text, const char *pattern) { return !std::strcmp(pattern, "*") || strcasestr(text, pattern); }
 
-// No units: numbers stand as they are stored.
+// No units: numbers are shown as stored.
 void gen__torvex_units_convert_2(float *, int, int) {}
 void gen__torvex_units_convert(void *, int *, int) {}
 void gen__torvex_units_convert_f(float *, int, int) {}

@@ -48,7 +48,7 @@ const std::vector<FieldRule> &attributeRules()
     return rules;
 }
 
-/// A word of the format and the code that it stands for.
+/// A keyword of the format and its code.
 struct Word {
     const char *text;
     unsigned code;
@@ -64,7 +64,7 @@ constexpr Word EntityWords[] = {
     {"wheel", EntityWheel}, {"net", EntityNet},   {"component", EntityComponent}, {"feature", EntityFeature},
 };
 
-/// Null where the value is none of the words.
+/// Returns null if the value is not one of the words.
 template <size_t Length>
 const Word *findWord(const Word (&words)[Length], const QJsonValue &value)
 {
@@ -94,7 +94,7 @@ QString joinKnownUnits()
     return texts.join(QStringLiteral(", "));
 }
 
-/// `text` fits, which the rules have seen to; the field is zero before.
+/// The field rules have checked that `text` fits. The field is zero before the call.
 template <size_t Length>
 void copyInto(char (&field)[Length], const QString &text)
 {
@@ -111,7 +111,7 @@ AttributeReader::AttributeReader(const QJsonObject &object, const Place &place, 
     , m_texts(texts)
     , m_refusal(refusal)
 {
-    // The unions share their bytes: an initialiser would reach the first member of each only.
+    // An initialiser would set only the first member of each union.
     std::memset(&m_definition, 0, sizeof m_definition);
     m_definition.unitsClass = -1;
 }
@@ -182,14 +182,14 @@ void AttributeReader::readText()
 {
     if (value("default").isString())
         m_definition.defaultText = m_texts.keep(value("default").toString());
-    offer(textList("choices"));
+    setOptions(textList("choices"));
     m_definition.textChoiceCount = m_definition.optionCount;
 }
 
 void AttributeReader::readOption()
 {
     const QStringList options = textList("options");
-    offer(options);
+    setOptions(options);
     m_definition.defaultOption = -1;
     if (!value("default").isString())
         return;
@@ -222,12 +222,12 @@ void AttributeReader::readUnits()
     const QByteArray units = value("units").toString().toUtf8();
     const int code = gen__torvex_get_str_units(units.constData());
     m_definition.unitsClass = code;
-    // Other spellings are for users: what a file means must not depend on the local encoding.
+    // Rejects the other spellings that users may type: a file must not depend on the local encoding.
     if (code == -1 || units != gen__torvex_cur_units_str(code, code))
         refuse("units", QStringLiteral("null or one of ") + joinKnownUnits(), value("units"));
 }
 
-void AttributeReader::offer(const QStringList &texts)
+void AttributeReader::setOptions(const QStringList &texts)
 {
     if (texts.isEmpty())
         return;
@@ -254,8 +254,7 @@ QStringList AttributeReader::textList(const char *key)
 
 void AttributeReader::checkRange()
 {
-    // Compared as the file has them: a default at a limit may be off by a rounding once it is single
-    // precision.
+    // Compares in double precision: rounding to float could move a default beyond its limit.
     const double low = value("min").toDouble();
     const double high = value("max").toDouble();
     const double preset = value("default").toDouble();

@@ -12,14 +12,14 @@ namespace Zudunmaf::dml
 
 class TextPool;
 
-/// Turns one attribute of a dictionary file into its definition. Good for one read().
+/// Converts one attribute of a dictionary file to its definition. Call read() once.
 class AttributeReader
 {
 public:
-    /// The texts of the definition go into `texts`, which has to outlive it.
+    /// Stores the texts of the definition in `texts`, which must outlive it.
     AttributeReader(const QJsonObject &object, const Place &place, TextPool &texts, Refusal &refusal);
 
-    /// The definition; it means nothing where the attribute was refused.
+    /// Returns the definition; undefined if the attribute was refused.
     DmlAttrDef read();
 
 private:
@@ -32,11 +32,11 @@ private:
     void readInteger();
     void readFloat();
     void readUnits();
-    void offer(const QStringList &texts);
+    void setOptions(const QStringList &texts);
 
     QJsonValue value(const char *key) const { return m_object.value(QLatin1String(key)); }
     QStringList textList(const char *key);
-    /// Refuses limits out of order and a default outside them.
+    /// Refuses limits in descending order and a default outside of them.
     void checkRange();
     void refuse(const char *key, const QString &expected, const QJsonValue &found);
 

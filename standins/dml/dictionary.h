@@ -11,8 +11,8 @@
 namespace Zudunmaf::dml
 {
 
-/// The attributes of one dictionary in the order of its file, with every text that they point to. Once it is
-/// loaded nothing is added, so a definition stays where it is for as long as the dictionary lives.
+/// Owns the definitions of one dictionary, in the order of its file, and their texts. Nothing is added after loading,
+/// so pointers to definitions stay valid until the dictionary is destroyed.
 class Dictionary
 {
 public:
@@ -23,11 +23,11 @@ public:
     int count() const { return int(m_definitions.size()); }
 
     TextPool &texts() { return m_texts; }
-    /// Only while the dictionary is being read: moves the definitions.
+    /// Invalidates pointers to definitions; call only while the dictionary is being read.
     void append(const DmlAttrDef &definition) { m_definitions.push_back(definition); }
 
-    /// The first definition at or behind `cursor` that shares a bit with `entityMask` (all bits take any),
-    /// null where there is none. `cursor` is an index from 0 to count() and is left behind the answer.
+    /// Returns the first definition from index `cursor` on that shares a bit with `entityMask`; with all bits set, any
+    /// definition. Returns null after the last one. Sets `cursor`, which ranges from 0 to count(), to the next index.
     DmlAttrDef *next(unsigned int entityMask, int &cursor);
 
 private:

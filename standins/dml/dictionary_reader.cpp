@@ -15,7 +15,7 @@ namespace Zudunmaf::dml
 namespace
 {
 
-/// Files and dictionaries come in one type.
+/// Only attributes have several types.
 constexpr int OnlyType = 0;
 
 const std::vector<FieldRule> &fileRules()
@@ -37,8 +37,8 @@ const std::vector<FieldRule> &dictionaryRules()
     return rules;
 }
 
-/// Line and column at which the parser gave up. It has read the character at fault, except behind the end of
-/// the document, where it only looked at it.
+/// Returns the line and column of the error. The parser's offset is one past the invalid character, except for characters
+/// after the end of the document.
 QString describePosition(const QByteArray &json, const QJsonParseError &error)
 {
     const int back = error.error == QJsonParseError::GarbageAtEnd ? 0 : 1;

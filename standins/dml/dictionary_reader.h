@@ -14,21 +14,21 @@ class QByteArray;
 namespace Zudunmaf::dml
 {
 
-/// Reads a dictionary file whole: the file, its dictionaries, and through AttributeReader their attributes.
+/// Reads a whole dictionary file. AttributeReader reads each attribute.
 class DictionaryReader
 {
 public:
-    /// `refusal` takes what is wrong with the file, and has to outlive the reader.
+    /// `refusal` receives the first error of the file. It must outlive the reader.
     explicit DictionaryReader(Refusal &refusal);
 
-    /// The dictionaries in the order of the file. They mean nothing where the file was refused.
+    /// Returns the dictionaries in the order of the file; undefined if the file was refused.
     std::vector<std::unique_ptr<Dictionary>> read(const QByteArray &json);
 
 private:
     QJsonObject parse(const QByteArray &json);
     std::unique_ptr<Dictionary> readDictionary(const QJsonValue &value, Place place);
     void readAttributes(const QJsonArray &attributes, Place place, Dictionary &dictionary);
-    /// The value as an object; refuses anything else.
+    /// Returns the value as an object. Refuses any other type.
     QJsonObject objectAt(const QJsonValue &value, const Place &place);
 
     Refusal &m_refusal;

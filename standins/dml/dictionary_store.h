@@ -20,12 +20,12 @@ class DictionaryStore
 public:
     static DictionaryStore &instance();
 
-    /// Takes all of `dictionaries`, or none and refuses where an identifier is taken already.
+    /// Adds all of `dictionaries`. Adds none and refuses if an identifier is already loaded.
     void add(std::vector<std::unique_ptr<Dictionary>> dictionaries, Refusal &refusal);
     bool remove(int did) { return m_dictionaries.erase(did) > 0; }
     void clear() { m_dictionaries.clear(); }
 
-    /// Null where `did` is not loaded.
+    /// Returns null if `did` is not loaded.
     Dictionary *find(int did) const;
     QVector<int> ids() const;
 

@@ -28,7 +28,7 @@ bool loadFile(const QString &fileName, QString *error)
     QByteArray json;
     if (file.open(QIODevice::ReadOnly))
         json = file.readAll();
-    // A read that breaks off shows in the error alone.
+    // QFile reports an incomplete read only through error().
     if (file.error() == QFileDevice::NoError)
         return loadJson(json, displayName, error);
 

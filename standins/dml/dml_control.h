@@ -7,38 +7,35 @@
 #include <QString>
 #include <QVector>
 
-/// Control of the stand-in dictionary: which dictionaries dml__atr_next() walks. The file format is told in
-/// docs/dictionary-format.md.
-///
-/// Everything here belongs to the GUI thread, like the walk itself.
+/// Loads and unloads the dictionaries that dml__atr_next() walks. docs/dictionary-format.md describes the file format.
+/// All functions must be called from the GUI thread, like the walk itself.
 namespace Zudunmaf::dml
 {
 
-/// Loads every dictionary of a file. A file that is not right in every point is refused whole: the answer is
-/// false, nothing of it is loaded, what was loaded before stays as it was, and `*error` tells in one line the
-/// file, the entry, the field, what was expected and what was found. On success `*error` is left alone.
+/// Loads all dictionaries of a file.
 ///
-/// An identifier that is loaded already is refused too, since items may still point to its definitions:
-/// unload() it first.
+/// Returns false and loads nothing if the file has an error. `*error` is then set to one line with the file, the entry,
+/// the field, the expected and the found value; on success it is not changed. An identifier that is already loaded is an
+/// error too, because items may point to its definitions: unload() it first.
 GDM_EXPORT bool loadFile(const QString &fileName, QString *error = nullptr);
 
-/// The same for the text of such a file. `displayName` stands in the message where the file name would.
+/// Loads all dictionaries of a JSON text. `displayName` replaces the file name in `*error`.
 GDM_EXPORT bool loadJson(const QByteArray &json, const QString &displayName, QString *error = nullptr);
 
-/// Drops dictionary `did` with all its definitions; false where there is none. No item and no walk may still
-/// hold one of them.
+/// Unloads dictionary `did` and deletes its definitions. Returns false if it is not loaded. No item or walk may still use
+/// a definition.
 GDM_EXPORT bool unload(int did);
 
-/// Drops every dictionary, on the same terms.
+/// Unloads all dictionaries, under the same condition.
 GDM_EXPORT void unloadAll();
 
-/// The identifiers of what is loaded, ascending.
+/// Returns the identifiers of the loaded dictionaries, in ascending order.
 GDM_EXPORT QVector<int> loadedIds();
 
-/// Number of attributes of dictionary `did`; -1 where it is not loaded.
+/// Returns the number of attributes of dictionary `did`; -1 if it is not loaded.
 GDM_EXPORT int attributeCount(int did);
 
-/// Title of dictionary `did`; null where it is not loaded.
+/// Returns the title of dictionary `did`; null if it is not loaded.
 GDM_EXPORT QString title(int did);
 
 } // namespace Zudunmaf::dml

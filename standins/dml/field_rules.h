@@ -12,14 +12,14 @@ namespace Zudunmaf::dml
 struct Place;
 class Refusal;
 
-/// What the value of a field has to be.
+/// The type that the value of a field must have.
 enum class FieldKind {
     Flag,
     Text,
     TextOrNull,
-    Identifier, ///< A whole number, not negative.
+    Identifier, ///< A whole number, at least 0.
     WholeNumber,
-    Number, ///< Within single precision, since units are converted in it.
+    Number, ///< Within the range of float, in which units are converted.
     List,
     ListOrAll ///< A list, or the word "all".
 };
@@ -32,8 +32,8 @@ struct FieldRule {
     const char *key;
     FieldKind kind;
     Presence presence;
-    unsigned types = AllTypes; ///< Attributes: the types that have the field, see typeBit().
-    int minSize = 0;           ///< Bytes of a text in UTF-8, entries of a list.
+    unsigned types = AllTypes; ///< Attribute types that have the field, see typeBit().
+    int minSize = 0;           ///< In bytes of UTF-8 for a text, in entries for a list.
     int maxSize = std::numeric_limits<int>::max();
 };
 
@@ -42,12 +42,12 @@ constexpr unsigned typeBit(int type)
     return 1u << type;
 }
 
-/// Checks that `object` holds what the rules ask for and nothing else; only rules with the bit of `type`
-/// count. Refuses the first field that is not as it should be and answers false then.
+/// Returns true if `object` has all required fields, no unknown ones, and only valid values. Applies only rules with the
+/// bit of `type`. Otherwise refuses the first invalid field and returns false.
 bool checkFields(const QJsonObject &object, const std::vector<FieldRule> &rules, int type, const Place &place,
                  Refusal &refusal);
 
-/// Whether a value is a text that a definition can hold.
+/// Returns true if the value is a text without NUL.
 bool isPlainText(const QJsonValue &value);
 
 } // namespace Zudunmaf::dml

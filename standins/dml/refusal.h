@@ -7,28 +7,27 @@
 namespace Zudunmaf::dml
 {
 
-/// A place in a dictionary file. Entries are counted from 1; 0 means that the place lies above that level.
+/// A position in a dictionary file. Entries count from 1; 0 if the position is not inside an entry of that level.
 struct Place {
     int dictionary = 0;
     int attribute = 0;
-    QString name; ///< Name of the attribute, as far as it has one.
+    QString name; ///< Name of the attribute; empty if it has none.
 
-    /// The place as a message names it, with the field there.
+    /// Returns the position for a message, with the field's name.
     QString at(const char *field = nullptr) const;
 };
 
-/// A value as the file spells it, cut where it is long; "nothing" for an undefined one.
+/// Returns the value as JSON, shortened if it is long; "nothing" for an undefined value.
 QString describe(const QJsonValue &value);
 
-/// Why a dictionary file is not taken. The first refusal counts: whatever is read behind it only follows from
-/// it.
+/// Keeps the first error of a dictionary file. Later errors are usually consequences of it.
 class Refusal
 {
 public:
-    /// `source` names the file in the message.
+    /// `source` is the file's name in the message.
     explicit Refusal(const QString &source);
 
-    /// `place` is empty for the file as a whole.
+    /// `place` is empty for the whole file.
     void refuse(const QString &place, const QString &expected, const QString &found);
 
     bool isSet() const { return !m_message.isEmpty(); }

@@ -11,8 +11,8 @@
 namespace Zudunmaf::dml
 {
 
-/// Owns the texts to which the definitions of one dictionary point. What it hands out is NUL-terminated UTF-8
-/// and stays where it is until the pool goes.
+/// Owns the texts that the definitions of one dictionary point to. The texts are NUL-terminated UTF-8; pointers stay
+/// valid until the pool is destroyed.
 class TextPool
 {
 public:
@@ -20,7 +20,7 @@ public:
     const char *const *keep(const QStringList &texts);
 
 private:
-    // A deque leaves its elements in place while it grows.
+    // A deque does not move its elements when it grows.
     std::deque<QByteArray> m_texts;
     std::deque<std::vector<const char *>> m_lists;
 };

@@ -13,19 +13,17 @@ namespace Zudunmaf
 namespace gen
 {
 
-/// A user's INI file, read again whenever it has changed, and only then.
-///
-/// Keep one object for a path as long as the process runs: QSettings tells of a broken file only the first
-/// time that it reads it, so a second object would find the same file sound and empty.
+/// A user's INI file, reloaded only if it has changed. Keep one object per path until the process ends: QSettings reports
+/// an invalid file only at the first read, so a second object would see a valid empty file.
 class ConfigurationFile
 {
 public:
     explicit ConfigurationFile(const QString &path);
 
-    /// Takes in what the file holds now. Empty on success, else what is wrong with the file.
+    /// Reloads the file if it has changed. Returns an error message, empty on success.
     QString refresh();
 
-    /// The value of `key` as of the last refresh(); invalid where the file does not name it.
+    /// Returns the value of `key` at the last refresh(); invalid if the file does not contain it.
     QVariant value(const QString &key) const;
 
 private:

@@ -34,7 +34,7 @@ const DefaultValue *defaultValueOf(const char *key)
     return nullptr;
 }
 
-/// The file that setConfigurationFile() named last; null for none.
+/// The file of the last setConfigurationFile(); null if none.
 ConfigurationFile *&userFile()
 {
     static ConfigurationFile *file = nullptr;

@@ -27,6 +27,6 @@ void gen__log_status_check(const char *file, int line)
     std::fprintf(stderr, "zudunmaf: %s (%s:%d)\n",
                  failure.empty() ? "a service failed without saying why" : failure.c_str(), file ? file : "?",
                  line);
-    // A failure is reported once: the next report must not blame it again.
+    // The next report is about another failed call.
     failure.clear();
 }

@@ -18,7 +18,7 @@ namespace
 
 constexpr double DegreesInRadian = 57.295779513082320877;
 
-// The place of a row is its code, and dictionaries hold codes: a new unit goes behind the last.
+// A unit's index is its code, and dictionaries store codes: append new units at the end.
 constexpr Unit units[] = {
     /*  0 */ {"inch", "in inches \" ″ ”", Dimension::Length, 25.4},
     /*  1 */ {"mm", "millimeter millimeters millimetre millimetres", Dimension::Length, 1.0},
@@ -65,17 +65,17 @@ constexpr Unit units[] = {
     /* 42 */ {"GHz", "", Dimension::Frequency, 1e9},
 };
 
-/// Usual meanings of no unit in the table, which differ from a name of one only by case: "MV" is not read as
+/// Symbols of units that are not in the table and differ from a known one only in case: "MV" must not be read as
 /// "mV".
 constexpr const char *otherMeanings[] = {"M", "S", "k", "MF", "MH", "MV", "MA", "Ms", "Mrad", "mHz"};
 
-/// Characters that look the same become the same: both of micro and both of ohm.
+/// Unicode has two characters each for micro and ohm. Maps them to one.
 QString unified(const QString &text)
 {
     return text.normalized(QString::NormalizationForm_KC);
 }
 
-/// Finds units by text. The case counts only if several meanings differ by nothing else.
+/// Finds units by text. Case matters only if several spellings differ in nothing else.
 class UnitNames
 {
 public:
@@ -91,7 +91,7 @@ public:
                 addInAnyCase(name, code);
             }
         }
-        // Last: a unit's own text wins over every spelling.
+        // Last, because a unit's own text has priority over all spellings.
         for (int code = 0; code < unitCount(); ++code)
             m_asWritten.insert(QString::fromLatin1(units[code].text), code);
     }
@@ -110,10 +110,10 @@ private:
     }
 
     QHash<QString, int> m_asWritten;
-    QHash<QString, int> m_inAnyCase; ///< -1 where several meanings fit
+    QHash<QString, int> m_inAnyCase; ///< -1 if ambiguous
 };
 
-/// The nearest float, saturated: beyond its range a plain conversion is undefined.
+/// Returns the nearest float. A plain conversion is undefined outside of the range of float.
 float narrowed(double number)
 {
     constexpr double largest = std::numeric_limits<float>::max();
@@ -177,7 +177,7 @@ int shownUnits(int unitsClass, int displayUnits)
 
 void convertUnits(float *value, int source, int target)
 {
-    // Between the same units the number must not change by a bit.
+    // The same units must not change the number at all.
     if (source == target || shownUnits(source, target) != target)
         return;
     const Unit &from = *unitOf(source);
@@ -185,7 +185,7 @@ void convertUnits(float *value, int source, int target)
 
     const double ratio = from.factor / to.factor;
     double number = (*value - from.zero) * ratio + to.zero;
-    // Next to a shifted zero only the rounding of the float that came in is left, and it would read "-0.000".
+    // Near a shifted zero, the result is only the rounding error of the input and would be shown as "-0.000".
     const double resolution = std::numeric_limits<float>::epsilon() * std::fabs(*value) * ratio;
     if (from.zero != to.zero && std::fabs(number) < resolution)
         number = 0.0;

@@ -3,7 +3,7 @@
 
 #include <QString>
 
-/// The one code space of units that definitions, display units and unit texts share.
+/// The units. Definitions, display units and unit texts share one set of codes.
 namespace Zudunmaf
 {
 namespace gen
@@ -23,35 +23,35 @@ enum class Dimension {
     Inductance
 };
 
-/// A number n of a unit is (n - zero) * factor in the base unit of its dimension.
+/// A number n in this unit is (n - zero) * factor in the base unit of its dimension.
 struct Unit {
-    const char *text;      ///< ASCII without blanks, so that it reads back in every encoding; case counts
-    const char *spellings; ///< UTF-8, separated by blanks: what else is read as this unit
+    const char *text;      ///< ASCII without blanks, valid in every encoding; case-sensitive
+    const char *spellings; ///< other accepted spellings: UTF-8, separated by blanks
     Dimension dimension;
     double factor;
-    double zero = 0.0; ///< what the unit reads where the base unit reads 0
+    double zero = 0.0; ///< the number in this unit at 0 in the base unit
 };
 
-/// The code of the first unit is 0, and there is no gap up to the last.
+/// Codes range from 0 to unitCount() - 1.
 int unitCount();
 
-/// Null for a code that no unit has; any int may be asked for.
+/// Returns null if `code` is out of range.
 const Unit *unitOf(int code);
 
-/// The code of the unit whose text is `text`; failing that, of the one unit that has it as a spelling, first
-/// as written, then in any case. -1 if there is none, or if the case decides between several meanings: "MOHM"
-/// is neither "mohm" nor "Mohm". docs/dictionary-format.md lists the spellings.
+/// Returns the code of the unit with this text, otherwise with this spelling, otherwise with this spelling in any case.
+/// Returns -1 if there is none, or several: "MOHM" could be "mohm" or "Mohm". docs/dictionary-format.md lists the
+/// spellings.
 int codeOfUnit(const QString &text);
 
-/// English word for a dimension.
+/// Returns the English name of a dimension.
 const char *nameOf(Dimension dimension);
 
-/// The code of the units in which a number of `unitsClass` stands under `displayUnits`: these where they can
-/// hold it, else `unitsClass` itself.
+/// Returns the units in which a number of `unitsClass` is shown: `displayUnits` if both have the same dimension,
+/// otherwise `unitsClass`.
 int shownUnits(int unitsClass, int displayUnits);
 
-/// Converts `*value` in place where both codes are units of one dimension, and leaves it alone otherwise. A
-/// finite number stays finite: beyond the range of a float it becomes the largest one.
+/// Converts `*value` in place. Does nothing if the codes are not units of the same dimension. A finite number stays
+/// finite: a result out of range becomes the largest float.
 void convertUnits(float *value, int source, int target);
 
 } // namespace gen
