@@ -1,4 +1,4 @@
-// A document of conditions or values as a host hands it in: what is taken is written and read again without a change.
+// A JSON document of conditions or values. What is read is written and read again unchanged.
 #include "gdm/gdm_qt.h"
 
 using namespace Zudunmaf;

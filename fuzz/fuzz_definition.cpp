@@ -1,5 +1,5 @@
-// 256 bytes as a definition, and 224 behind them as a condition: both kinds of item over them, and their editors.
-// Pointers are set right, as a host must; numbers, types and texts are what they are.
+// 256 bytes as a definition and 224 bytes as a condition, in both kinds of item and their editors. Pointers are valid, as
+// the contract requires; numbers, types and texts are arbitrary.
 #include "gdm/editing/attr_item_delegate.h"
 #include "gdm/gdm_qt.h"
 
@@ -13,7 +13,7 @@ using namespace Zudunmaf;
 
 static const char *const entries[] = {"red", nullptr, "", "\xff\xfe deep"};
 
-static void setPointersRight(DmlAttrDef *definition)
+static void setPointers(DmlAttrDef *definition)
 {
     if (definition->type == DmlAttrText)
         definition->defaultText = entries[definition->defaultOption & 3];
@@ -54,7 +54,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, size_t size)
     std::memcpy(&definition, data, sizeof definition);
     std::memcpy(&condition, data + sizeof definition, qMin(size - sizeof definition, sizeof condition));
     definition.type = definition.type & 0x40000000 ? definition.type : definition.type & 7;
-    setPointersRight(&definition);
+    setPointers(&definition);
 
     static QTableWidget table(1, 2);
     DmlAttrLWI *items[] = {new AttrFilterLWI, new FeatureAttrLWI};

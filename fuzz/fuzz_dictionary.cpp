@@ -1,4 +1,5 @@
-// The text of a dictionary file. What is taken must walk to its end, and what is refused must say why.
+// The text of a dictionary file. A dictionary that is loaded can be walked to its end, and one that is refused gives the
+// reason.
 #include "dml/dml_control.h"
 #include "gdm/host/dml_dictionary.h"
 

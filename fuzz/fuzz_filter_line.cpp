@@ -1,5 +1,5 @@
-// A dictionary and a line: four labels, parted by newlines, the types of their attributes from the first byte, and the
-// rest is the line. A line that is read comes out of the restored condition again.
+// A dictionary of four attributes and a line: a byte with the types, four labels, each ended by a newline, and the line.
+// The condition of a line that is read gives the same line again.
 #include "gdm/conditions/restore_target.h"
 #include "gdm/gdm_qt.h"
 #include "gdm/host/dml_dictionary.h"
@@ -13,7 +13,7 @@ using namespace Zudunmaf;
 
 static DmlAttrDef definitions[4];
 
-/// Takes the place of the stand-in's.
+/// Replaces that of the stand-in.
 extern "C" int dml__atr_next(int, int, unsigned int, int *cursor, DmlAttrDef **definition)
 {
     *definition = *cursor < 4 ? &definitions[(*cursor)++] : nullptr;

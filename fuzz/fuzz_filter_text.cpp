@@ -1,4 +1,4 @@
-// A filter text and a label, parted by the first NUL, against QRegExp and through the rule of the fill.
+// A filter text and a label, separated by the first NUL. The visibility agrees with QRegExp, and the fill rule survives.
 #include "gdm/dialogs/fill_rule.h"
 #include "gdm/dialogs/filter_pattern.h"
 #include "gdm/items/attr_records.h"
@@ -17,7 +17,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, size_t size)
     (void)Zudunmaf::FillRule(1, QString(), true, text, false, true).accepts(definition);
 
     const Zudunmaf::FilterPattern pattern(text);
-    // QRegExp takes the cube of a run of stars, so that it is asked about short texts only.
+    // QRegExp takes cubic time for a run of stars, so only short texts are compared.
     const bool isShort = text.size() <= 12;
     const QRegExp expected(isShort ? "*" + text + "*" : QString(), Qt::CaseInsensitive, QRegExp::Wildcard);
     for (const QByteArray &shown : {QByteArray(label.constData()), text.toUpper().toUtf8()}) {

@@ -1,0 +1,93 @@
+#include "contract_test.h"
+#include "json_table.h"
+
+#include "gdm/dialogs/attribute_offer.h"
+#include "gdm/dialogs/group_names.h"
+#include "gdm/dialogs/row_filter.h"
+
+#include <QRegExp>
+
+using namespace Zudunmaf;
+
+/// Which labels a filter text matches, which attributes a fill lists, which rows are visible, and which groups are listed.
+class RulesTest : public ContractTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    /// Backslashes, runs of stars, sets and characters that are no plain ASCII.
+    void oddFilterTextMatchesLikeQRegExp()
+    {
+        for (const QString text :
+             {"\\*a",  "\\**a",  "\\***a", "\\\\**a", "*\\*", "[\\**a]", "[#-**-a]", "[%a",  "[%]b", "\\%a",
+              "[a]%b", "%[^b]%", "a%[]b]", "a[%",     "]%b",  "[^%]%",   "\t",       "\x7f", "µ",    "ẞ"}) {
+            const QString filterText = QString(text).replace('%', QString(20, '*'));
+            const FilterPattern pattern(filterText);
+            const QRegExp expected("*" + filterText + "*", Qt::CaseInsensitive, QRegExp::Wildcard);
+            for (const char *label : {"\\*ba", "\\a", "\\*a", "\\\\*a", "ba", "a*]b", "[a", "ab", "*", "5",
+                                      "", "a\tb", "\x7f", "Μ", "μ", "ß"})
+                QVERIFY2(pattern.matches(label) == (expected.indexIn(label) != -1),
+                         qPrintable(filterText + " on " + label));
+        }
+    }
+
+    void manyStarsTakeNoTime()
+    {
+        const FilterPattern pattern(QString(2000, '*') + "a*a*a*a*a*a*a*a*a*b");
+        QVERIFY(!pattern.matches(QByteArray(64, 'a')));
+        QVERIFY(!pattern.matches("äb"));
+    }
+
+    /// "filled" are the attributes that get a row, "visible" those whose row is shown. A fill ignores the group's case,
+    /// leaves out obsolete attributes, and the host matches the text: here the whole text, case-sensitively.
+    void fillAndVisibility_data()
+    {
+        QTest::addColumn<QJsonObject>("criteria");
+        const QJsonArray rows = jsonTable("rules.json")["criteria"].toArray();
+        for (const QJsonValue row : rows)
+            QTest::newRow(qPrintable(row["case"].toString())) << row.toObject();
+    }
+    void fillAndVisibility()
+    {
+        QFETCH(QJsonObject, criteria);
+        const int entities = criteria["entities"].toInt(-1);
+        const QString group = criteria["group"].toString("All");
+        const QString text = criteria["text"].toString();
+        const bool byPrompt = criteria["byPrompt"].toBool();
+        const bool showObsolete = criteria["showObsolete"].toBool();
+        const AttributeOffer fill(entities, group, group == "All", text, byPrompt, showObsolete);
+        const RowFilter visibility(entities, group, "All", text, byPrompt);
+        QStringList filled, visible;
+        const QJsonArray attributes = jsonTable("rules.json")["attributes"].toArray();
+        for (const QJsonValue row : attributes) {
+            const DmlAttrDef &attribute =
+                definition(9, row["name"].toString().toUtf8(), row["prompt"].toString().toUtf8(),
+                           row["group"].toString().toUtf8(), unsigned(row["entities"].toInt()));
+            if (fill.takes(attribute))
+                filled << attribute.name;
+            if (visibility.shows(attribute))
+                visible << attribute.name;
+        }
+        QCOMPARE(filled.join(' '), criteria["filled"].toString());
+        QCOMPARE(visible.join(' '), criteria["visible"].toString());
+    }
+
+    void fillPassesSixtyFourBytesOfTheText()
+    {
+        const AttributeOffer fill(-1, "All", true, QString("ü").repeated(50), false, false);
+        QVERIFY(!fill.takes(definition(9, "width")));
+        QCOMPARE(host().called("match"), QStringList("match width " + QString("ü").repeated(32)));
+    }
+
+    void groupNames()
+    {
+        GroupNames names("all");
+        // The last two are invalid UTF-8 and decode to the same text.
+        for (const char *group : {"Board", "board", "", "Board", "all", "\xff", "\xfe"})
+            names.add(definition(9, "a", "A", group));
+        QCOMPARE(names.list(), QStringList({"all", "Board", "board", "", QString(QChar(0xFFFD))}));
+    }
+};
+
+QTEST_MAIN(RulesTest)
+#include "tst_rules.moc"
