@@ -11,7 +11,7 @@ class MatchingTest : public ContractTest
     Q_OBJECT
 
 private Q_SLOTS:
-    /// Random conditions and values, against a plain reading of the condition's line.
+    /// Random conditions and values, compared with a second interpretation of the line.
     void asTheLineReads()
     {
         const QList<DmlAttrDef *> definitions = eachType().mid(0, 5);
@@ -27,57 +27,77 @@ private Q_SLOTS:
                      qPrintable(item.toString() + '|' + value.toString()));
             satisfied += wanted;
         }
-        QVERIFY(satisfied > 5000 && satisfied < 15000);
+        QVERIFY(satisfied > 5000);
+        QVERIFY(satisfied < 15000);
     }
 
     void boundsAreIncluded()
     {
-        AttrCondition width = bounds(DmlAttrInteger, 5, 9), depth = bounds(DmlAttrFloat, 0.5, 1e300);
-        QVERIFY(matches(width, 5) && matches(width, 9) && matches(width, 9.0f) && matches(width, 9u));
-        QVERIFY(!matches(width, 4) && !matches(width, 10) && !matches(width, 9.001));
-        QVERIFY(matches(depth, 0.5) && matches(depth, 1e300) && !matches(depth, std::nextafter(0.5, 0)));
-        QVERIFY(!matches(depth, std::nextafter(1e300, INFINITY)) && !matches(depth, std::nan("")));
-        QVERIFY(!matches(depth, QString("0.6")) && !matches(depth, QVariant()));
-        // What the editor makes of 0.1 is a little more.
-        depth = bounds(DmlAttrFloat, double(0.1f), double(0.3f));
-        QVERIFY(matches(depth, 0.1) && matches(depth, 0.1f) && matches(depth, 0.3) && matches(depth, 0.3f));
-        QVERIFY(matches(bounds(DmlAttrFloat, 0.3, 0.7), 0.3) && matches(bounds(DmlAttrFloat, 0.3, 0.7), 0.7));
-        QVERIFY(matches(bounds(DmlAttrFloat, 0.7, 0.8), 0.7f) && matches(bounds(DmlAttrFloat, 0, 0.1), 0.1f));
-        for (const QVariant &six :
-             {QVariant::fromValue(6L), QVariant::fromValue(6UL), QVariant::fromValue(short(6)),
-              QVariant::fromValue(ushort(6)), QVariant::fromValue(char(6)),
-              QVariant::fromValue(static_cast<signed char>(6)), QVariant::fromValue(uchar(6))})
-            QVERIFY2(matches(width, six) && !matches(bounds(DmlAttrInteger, 7, 9), six), six.typeName());
-        QVERIFY(!matches(depth, 0.0999999999) && !matches(depth, 0.31));
-        QVERIFY(!matches(bounds(DmlAttrFloat, std::nan(""), 1), 0.5));
+        verify(range(DmlAttrInteger, 5, 9), {5, 9, 9.0f, 9u}, {4, 10, 9.001});
+        verify(range(DmlAttrFloat, 0.5, 1e300), {0.5, 1e300},
+               {std::nextafter(0.5, 0), std::nextafter(1e300, INFINITY), std::nan(""), "0.6", QVariant()});
+        verify(range(DmlAttrFloat, std::nan(""), 1), {}, {0.5});
+        // The editor stores 32-bit floats: 0.1f is a little more than 0.1.
+        verify(range(DmlAttrFloat, double(0.1f), double(0.3f)), {0.1, 0.1f, 0.3, 0.3f}, {0.0999999999, 0.31});
+        verify(range(DmlAttrFloat, 0.7, 0.8), {0.7, 0.7f, 0.8f}, {0.81f});
+    }
+
+    void integersOfEachType()
+    {
+        verify(range(DmlAttrInteger, 6, 6),
+               {QVariant::fromValue(6L), QVariant::fromValue(6UL), QVariant::fromValue(short(6)),
+                QVariant::fromValue(ushort(6)), QVariant::fromValue(char(6)),
+                QVariant::fromValue(static_cast<signed char>(6)), QVariant::fromValue(uchar(6))},
+               {QVariant::fromValue(5L), QVariant::fromValue(uchar(7))});
     }
 
     void unitsAreConverted()
     {
-        // 1, 2 and 3 are inch, mm and mil.
-        const AttrCondition depth = bounds(DmlAttrFloat, 0.1, 0.7, 1, "inch");
-        QVERIFY(matches(depth, 2.54, 2) && matches(depth, 17.78, 2) && matches(depth, 0.1, 1));
-        QVERIFY(!matches(depth, 2.539, 2) && !matches(depth, 17.79, 2) && matches(depth, 700, 3));
-        for (int mil = 100; mil <= 700; ++mil)
-            QVERIFY(matches(bounds(DmlAttrFloat, mil / 1000.0, mil / 1000.0, 1, "inch"), mil * 0.0254, 2));
-        const double cool = double(31.9f); // near the freezing point, where a float of degF is coarse in degC
-        QVERIFY(matches(bounds(DmlAttrFloat, cool, cool, 5, "degF"), (31.9 - 32) / 1.8, 4));
-        QVERIFY(!matches(bounds(DmlAttrFloat, cool, cool, 5, "degF"), (31.901 - 32) / 1.8, 4));
-        QVERIFY(matches(bounds(DmlAttrFloat, 0.1, 0.7, 99, "inch"), 2.54, 2)); // the text counts
-        QVERIFY(matches(bounds(DmlAttrFloat, 0.1, INFINITY, 1, "inch"), 1e30, 2));
+        const AttrCondition depth = range(DmlAttrFloat, 0.1, 0.7);
+        verify(depth, {0.1}, {0.71}, Inch);
+        verify(depth, {2.54, 17.78}, {2.539, 17.79}, Mm);
+        verify(depth, {700}, {701}, Mil);
+        // Near the freezing point, a float in degF is coarse in degC.
+        const AttrCondition cool = range(DmlAttrFloat, double(31.9f), double(31.9f), DegF, "degF");
+        verify(cool, {(31.9 - 32) / 1.8}, {(31.901 - 32) / 1.8}, DegC);
+        verify(range(DmlAttrFloat, 0.1, INFINITY), {1e30}, {}, Mm);
+        verify(range(DmlAttrFloat, 0.1, 0.7, 99, "inch"), {2.54}, {0.5}, Mm); // the text counts, not the code
+        verify(range(DmlAttrFloat, 0.1, 0.7, NoUnits, ""), {0.5}, {2.54}, Mm);
         for (const char *unknown : {"furlong", "cubit"}) // the host answers -1 and 77
-            QVERIFY(!matches(bounds(DmlAttrFloat, 0.1, 0.7, 1, unknown), 0.5, 2));
-        QVERIFY(matches(bounds(DmlAttrFloat, 0.1, 0.7, -1, ""), 0.5, 2));
+            verify(range(DmlAttrFloat, 0.1, 0.7, Inch, unknown), {}, {0.5, 2.54}, Mm);
+    }
 
-        const ConditionMatcher matcher(depth, 2);
+    void convertedBoundIsIncluded()
+    {
+        for (int mil = 100; mil <= 700; ++mil)
+            QVERIFY(matches(range(DmlAttrFloat, mil / 1000.0, mil / 1000.0), mil * 0.0254, Mm));
+    }
+
+    void matcherAsksForUnitsOnce()
+    {
+        const ConditionMatcher matcher(range(DmlAttrFloat, 0.1, 0.7), Mm);
         const auto calls = host().calls.size();
-        QVERIFY(matcher.matches(2.54) && !matcher.matches(1.0));
+        QVERIFY(matcher.matches(2.54));
+        QVERIFY(!matcher.matches(1.0));
         QCOMPARE(host().calls.size(), calls);
     }
 
 private:
-    static AttrCondition bounds(int type, double low, double high, int units = 1,
-                                const QString &text = "inch")
+    enum { NoUnits = -1, Inch = 1, Mm, Mil, DegC, DegF };
+
+    static void verify(const AttrCondition &condition, const QVariantList &matching,
+                       const QVariantList &others, int valueUnits = NoUnits)
+    {
+        for (const QVariant &value : matching + others)
+            QVERIFY2(matches(condition, value, valueUnits) == matching.contains(value),
+                     qPrintable(value.typeName() + QString(" %1 against %2 to %3")
+                                                       .arg(value.toString())
+                                                       .arg(condition.low, 0, 'g', 17)
+                                                       .arg(condition.high, 0, 'g', 17)));
+    }
+
+    static AttrCondition range(int type, double low, double high, int units = Inch,
+                               const QString &text = "inch")
     {
         AttrCondition made;
         made.type = type;
@@ -89,7 +109,7 @@ private:
         return made;
     }
 
-    /// Numbers of three decimals, so that the line has them all.
+    /// Numbers with at most three decimals, which the line shows in full.
     void fill(DmlAttrValue *record, int type)
     {
         record->isSet = m_generated.below(4) != 0;
