@@ -5,8 +5,6 @@
 #include "gdm/gdm_qt.h"
 #include "gen/gen_control.h"
 
-#include <QScreen>
-
 using namespace Zudunmaf;
 
 namespace
@@ -17,14 +15,14 @@ QStringList g_warnings;
 
 void watchMessages(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
-    // What the platform without a display says of itself tells nothing of the dialogs.
+    // The offscreen platform's own limitation.
     const bool expected = text.startsWith(QLatin1String("This plugin does not support "));
     if (type != QtDebugMsg && type != QtInfoMsg && !expected)
         g_warnings << text;
     g_forward(type, context, text);
 }
 
-/// A dialog that notes what its base calls.
+/// A dialog that records the calls of its base.
 template <class Dialog>
 class Watched : public Dialog
 {
@@ -51,7 +49,7 @@ public:
     }
 
 private:
-    /// An item that has left its table would be handed out too late.
+    /// "!" in place of the sign if the item is no longer in its table.
     void note(char sign, const char *table, const QTableWidgetItem &item)
     {
         const bool there = item.tableWidget() && item.tableWidget()->objectName() == QLatin1String(table);
@@ -146,6 +144,20 @@ bool DialogTest::open(int did)
     return show();
 }
 
+void DialogTest::pressKeys(const QString &keys) const
+{
+    for (const QChar key : keys) {
+        if (key == '=')
+            press(Qt::Key_A, Qt::ControlModifier);
+        else if (key == '<')
+            press(Qt::Key_Delete);
+        else if (key == 'v' || key == '^')
+            press(key == 'v' ? Qt::Key_Down : Qt::Key_Up);
+        else
+            type(key);
+    }
+}
+
 QStringList DialogTest::results() const
 {
     if (const auto *filter = dynamic_cast<AttributesFilterDialog *>(dialog.get()))
@@ -167,11 +179,4 @@ QList<QByteArray> DialogTest::records() const
             records << value.typeName() + value.toString().toUtf8();
     }
     return records;
-}
-
-QImage DialogTest::screenshot(const QWidget *widget, const QRect &area) const
-{
-    QTest::qWait(20);
-    const QRect place(widget->mapTo(dialog.get(), area.topLeft()), area.size());
-    return dialog->screen()->grabWindow(dialog->winId()).toImage().copy(place);
 }

@@ -17,9 +17,9 @@
 #include <functional>
 #include <memory>
 
-/// A test over each of the two dialogs in turn, worked as a user does. Each function starts with the dialog on the
-/// screen and nothing chosen, and ends with no Qt warning given. On offer is what dictionary.json has: plated,
-/// note, colour, finish, grade, width, depth, LongName, stackup (in the filter dialog alone) and pad_00 to pad_39.
+/// A test of each of the two dialogs in turn, by keys and clicks. Each function starts with the dialog on the screen and
+/// no attribute chosen, and fails on a Qt warning. Available are the attributes of dictionary.json: plated, note, colour,
+/// finish, grade, width, depth, LongName, stackup (only in the filter dialog) and pad_00 to pad_39.
 class DialogTest : public QObject, public Zudunmaf::walk::DialogUser
 {
     Q_OBJECT
@@ -28,31 +28,32 @@ public:
     enum { Name = 0, Value = 1 };
     static constexpr char LongName[] = "serial_number_that_has_a_name_of_sixty_four_letters_as_no_other";
 
-    /// Whether this is the turn of the filter dialog, and what of two texts belongs to the turn.
+    /// True for the filter dialog, false for "Assign Attributes"; and the text of two that belongs to the dialog.
     static bool inFilter();
     static QString pick(const char *ofFilter, const char *ofAssign);
-    /// A row of test data for each way, and the way of the row.
+    /// A row of test data for each way to do something, and the way of the current row.
     static void addWays(std::initializer_list<const char *> ways);
     static QString way();
 
-    /// Another dialog over dictionary `did` in place of the present one; open() also shows it and waits for keys.
+    /// Replaces the dialog by a new one over dictionary `did`. open() also shows it and waits until keys reach it.
     void create(int did = -1);
     bool open(int did = -1);
     bool show() const { return DialogUser::open(); }
+
+    /// Types text. In it, "v" is Down, "^" is Up, "=" is Ctrl+A, "<" is Delete, and a tab is Tab.
+    void pressKeys(const QString &keys) const;
 
     /// What the host reads of the chosen attributes: the lines of the filter dialog, the values of the other.
     QStringList results() const;
     QString resultOf(const QString &attribute) const { return results().value(rowOf(chosenList, attribute)); }
     /// Every chosen record, byte by byte, or every chosen value.
     QList<QByteArray> records() const;
-    /// What stands on the screen: nothing is painted anew for the purpose.
-    QImage screenshot(const QWidget *widget, const QRect &area) const;
 
     std::unique_ptr<TvxAttributesSelectionDialog> dialog;
-    /// What happened, in order: "commit", "pass" of the filter, "+name" and "-name" of the hooks, "menu",
+    /// What happened, in order: "commit", "pass" for filterAttributeList(), "+name" and "-name" for the hooks, "menu",
     /// "accepted", "rejected".
     static inline QStringList events;
-    /// The current attribute of the top view as a subclass finds it right after the library's filterAttributeList().
+    /// The current attribute of the available table when the library's filterAttributeList() returns.
     static inline QString currentAfterPass;
     /// Runs at the end of the add hook, until the test function ends.
     static inline std::function<void()> afterAdding;

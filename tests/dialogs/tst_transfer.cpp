@@ -10,7 +10,7 @@
 
 using namespace Zudunmaf;
 
-/// What goes between the two tables by other ways than the buttons, and what a rebuild does to them.
+/// Moving rows between the two tables by other means than the buttons, and what a new fill does to the tables.
 class TransferTest : public DialogTest
 {
     Q_OBJECT
@@ -33,6 +33,7 @@ private Q_SLOTS:
         drag(chosenList, "width", topView);
         QCOMPARE(events.mid(2), QStringList("-width"));
         QVERIFY(visibleNames(topView).contains("width"));
+        QCOMPARE(currentName(topView), pick("depth", "width"));
 
         const auto otherDialog = std::move(dialog);
         const QTableWidget *otherChosenList = chosenList;
@@ -42,7 +43,7 @@ private Q_SLOTS:
         QCOMPARE(otherChosenList->rowCount(), 1);
     }
 
-    void removedRowsComeBack()
+    void removalIsUndone()
     {
         const QStringList names = {"note", "width", "depth", "finish"};
         choose(names);
@@ -54,7 +55,8 @@ private Q_SLOTS:
         click(chosenList, "finish", Name, Qt::ControlModifier);
         press(Qt::Key_Delete);
         click(clearButton);
-        QVERIFY(chosenList->rowCount() == 0 && !QApplication::activeModalWidget());
+        QCOMPARE(chosenList->rowCount(), 0);
+        QVERIFY(!QApplication::activeModalWidget());
         clickHeader(chosenList, Name);
         events.clear();
         press(Qt::Key_Z, Qt::ControlModifier);
@@ -93,36 +95,23 @@ private Q_SLOTS:
         QCOMPARE(int(events.filter("+").size()), inFilter() ? 49 : 47);
     }
 
-    void hostHandsRowsIn()
+    void hostAddsRows()
     {
-        create();
         const std::unique_ptr<QTableWidgetItem> item(dialog->findItemByAttrName("width")->clone());
-        auto &attribute = dynamic_cast<DmlAttrLWI &>(*item);
-        if (inFilter()) {
-            auto *condition = static_cast<DmlAttrValue *>(attribute.attrValue().value<void *>());
-            condition->isSet = 1;
-            condition->intLow = 3;
-        } else {
-            attribute.setAttrValue(33);
-        }
-        FeatureAttrLWI otherValue;
-        AttrFilterLWI otherCondition;
-        DmlAttrLWI &other = inFilter() ? static_cast<DmlAttrLWI &>(otherValue) : otherCondition;
-        other.setDmlAttribute(attribute.dmlAttribute());
-        QVERIFY(!tvx::addChosen(*dialog, other));
+        const std::unique_ptr<DmlAttrLWI> other(inFilter() ? static_cast<DmlAttrLWI *>(new FeatureAttrLWI)
+                                                           : new AttrFilterLWI);
+        other->setDmlAttribute(dynamic_cast<DmlAttrLWI &>(*item).dmlAttribute());
+        QVERIFY(!tvx::addChosen(*dialog, *other));
+        QVERIFY(!tvx::addChosen(*dialog, QTableWidgetItem()));
         QVERIFY(tvx::addChosen(*dialog, *item));
         QCOMPARE(tvx::addChosen(*dialog, *item), inFilter());
-        QVERIFY(!tvx::addChosen(*dialog, other));
-        QVERIFY(!tvx::addChosen(*dialog, QTableWidgetItem()));
-        QVERIFY(show());
-        QCOMPARE(results().join(';'), pick("3 <= width <= 100;3 <= width <= 100", "33"));
-        QVERIFY(!dialog->getChosenList().contains(item.get()) && !undoButton->isEnabled());
+        QCOMPARE(chosenList->rowCount(), inFilter() ? 2 : 1);
+        QVERIFY(!dialog->getChosenList().contains(item.get()));
+        QVERIFY(!undoButton->isEnabled());
         QCOMPARE(visibleNames(topView).contains("width"), inFilter());
-        enter("width", "4");
-        QCOMPARE(resultOf("width"), pick("4 <= width <= 100", "4"));
     }
 
-    void changeOfUnitsKeepsTheUsersPlace()
+    void changeOfUnitsKeepsSelectionAndScrollPosition()
     {
         choose({"depth", "note"});
         enter("depth", "25.4");
@@ -140,8 +129,8 @@ private Q_SLOTS:
         QCOMPARE(records(), before);
     }
 
-    void narrowedFillIsMadeGood_data() { addWays({"text", "group", "entity"}); }
-    void narrowedFillIsMadeGood()
+    void fillUnderAFilterIsRepeatedWithoutIt_data() { addWays({"text", "group", "entity"}); }
+    void fillUnderAFilterIsRepeatedWithoutIt()
     {
         QStringList all = visibleNames(topView);
         choose({"pad_01"});
@@ -165,8 +154,8 @@ private Q_SLOTS:
     }
 
 private:
-    /// Presses on a selected row of one table, moves, and lets go over the middle of the other. What the
-    /// table gives the platform to drag is dropped from here: not every platform drags at a test's word.
+    /// Drags a selected row of one table over the middle of the other and drops it there. The test sends the drop itself,
+    /// with the data that the table gives to the drag, since not every platform drags with simulated events.
     void drag(QTableWidget *from, const char *attribute, const QTableWidget *to)
     {
         bool dropped = false;
@@ -182,7 +171,7 @@ private:
                 QCoreApplication::sendEvent(to->viewport(), &event);
             return dropped = true;
         };
-        // Where the drag has an event loop of its own, only a timer gets in.
+        // A drag may run its own event loop, which only a timer interrupts.
         QTimer timer;
         timer.callOnTimeout(this, [&] {
             if (drop())
@@ -200,8 +189,7 @@ private:
         }
         drop();
         QTest::mouseRelease(area, Qt::LeftButton, Qt::NoModifier, start);
-        QTest::qWait(120);
-        QVERIFY(dropped);
+        QVERIFY(QTest::qWaitFor([&dropped] { return dropped; }));
     }
 };
 
