@@ -1,6 +1,6 @@
-// Works both dialogs over the stand-ins by the events on the standard input, each a line of three numbers: what is done,
-// and two numbers from which follows where. Looks after each whether all that must always hold still does, and ends
-// with status 1 where it does not. The same lines do the same in every process. monkey.py writes them.
+// Sends the events on the standard input to both dialogs over the stand-ins. An event is a line of three numbers: its kind,
+// and two numbers that select the widget and the position. Checks the invariants after each event, and ends with status 1
+// if one is broken. The same lines have the same effect in every process. monkey.py writes them.
 #include "commit_watch.h"
 #include "dml/dml_control.h"
 #include "gdm/gdm_qt.h"
@@ -35,9 +35,9 @@ class Monkey
 public:
     Monkey()
     {
-        // Armed before each event, so that it also ends a menu that holds its opener in a loop of its own.
+        // Started before each event, because a menu can run its own event loop.
         QObject::connect(&m_popupTimer, &QTimer::timeout, &m_popupTimer, [this] { workPopup(); });
-        renew(0);
+        openDialog(0);
     }
 
     void perform(unsigned kind, unsigned a, unsigned b)
@@ -60,8 +60,8 @@ public:
         else if (kind < 99)
             callHost(a % 11, b);
         else
-            renew(b);
-        // A button that was pressed by its letter is let go a tenth of a second later.
+            openDialog(b);
+        // A button that was pressed by its mnemonic is released after 100 ms.
         (void)QTest::qWaitFor([this] {
             const auto buttons = m_dialog->findChildren<QAbstractButton *>();
             return std::none_of(buttons.begin(), buttons.end(),
@@ -70,11 +70,11 @@ public:
         QCoreApplication::processEvents();
         workPopup();
         m_popupTimer.stop();
-        m_done.reset();
+        m_closed.reset();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
-    /// Tells in one line what does not hold; empty where all does.
+    /// Returns the broken invariant in one line; empty if there is none.
     QString fault() const
     {
         QString fault = s_warning.isEmpty() ? m_values.fault(m_dialog.get()) : s_warning;
@@ -97,13 +97,13 @@ public:
     }
 
 private:
-    /// A fresh dialog takes the place of the present one, or is opened beside it. The number tells which dialog it is,
-    /// over which dictionary, and whether the host loads that anew before.
-    void renew(unsigned number)
+    /// Replaces the dialog by a new one, or opens a second one. The number selects the dialog and its dictionary, and whether
+    /// the dictionary is loaded again first.
+    void openDialog(unsigned number)
     {
-        m_beside = number % 5 == 4 ? std::move(m_dialog) : nullptr;
+        m_second = number % 5 == 4 ? std::move(m_dialog) : nullptr;
         m_dialog.reset();
-        if (!m_beside && number % 7 == 0) {
+        if (!m_second && number % 7 == 0) {
             dml::unloadAll();
             dml::loadFile(ZUDUNMAF_DICTIONARY);
         }
@@ -115,11 +115,11 @@ private:
         QObject::connect(m_dialog->findChild<QMenu *>(), &QMenu::triggered, &m_popupTimer, [this] {
             if (m_popupChoice % 5)
                 return;
-            // A host that is done with the dialog at an action of its menu, and lets it go once the event is over: Qt
-            // Test lets the key come up at the window whether it is there or not.
+            // A host that closes the dialog in an action of its menu. The dialog is deleted after the event, because Qt
+            // Test sends the key release to its window in any case.
             m_dialog->close();
-            m_done = std::move(m_dialog);
-            renew(4 + m_popupChoice % 2);
+            m_closed = std::move(m_dialog);
+            openDialog(4 + m_popupChoice % 2);
         });
     }
 
@@ -143,7 +143,7 @@ private:
                             kind < 7 ? Qt::ShiftModifier : Qt::NoModifier);
     }
 
-    /// On a cell of a table, or on a place of any widget.
+    /// Clicks a cell of a table, or a position in any widget.
     void click(unsigned kind, unsigned a, unsigned b)
     {
         QTableWidget *cells = table(a);
@@ -166,7 +166,7 @@ private:
             QTest::mouseDClick(m_dialog->windowHandle(), Qt::LeftButton, Qt::NoModifier, place);
     }
 
-    /// A turn of the wheel, and a drop without a source, as from another program.
+    /// Turns the wheel, and drops rows without a source, as from another program.
     void sendToTable(unsigned a, unsigned b)
     {
         QWidget *target = table(a)->viewport();
@@ -182,7 +182,7 @@ private:
         QCoreApplication::sendEvent(target, &drop);
     }
 
-    /// What a host may do at any time, and hooks that a base calls late, twice or with an item of another class.
+    /// Calls what a host may call at any time, and the hooks late, twice or with an item of another class.
     void callHost(unsigned what, unsigned number)
     {
         const auto rows = m_dialog->getTopListItems(false);
@@ -205,14 +205,14 @@ private:
         case 6:
             return number % 3 ? m_dialog->addButtonClickedCB(item) : m_dialog->removeButtonClickedCB(item);
         case 7:
-            return m_beside ? m_beside.swap(m_dialog) : void();
+            return m_second ? m_second.swap(m_dialog) : void();
         default:
             m_dialog->filterAttributeList();
             m_filtered = true;
         }
     }
 
-    /// Does one thing in an open list or menu, and never leaves one open.
+    /// Presses keys in an open list or menu, and closes what is still open.
     void workPopup()
     {
         if (QWidget *popup = QApplication::activePopupWidget()) {
@@ -230,7 +230,7 @@ private:
     }
     int rowsOf(unsigned number) const { return table(number)->rowCount(); }
 
-    /// Ranges in order, and whole numbers within their limits.
+    /// Returns true if a range is in order, or a whole number within its limits.
     static bool isSound(const DmlAttrLWI &item)
     {
         const auto &definition = *static_cast<const DmlAttrDef *>(item.dmlAttribute().value<void *>());
@@ -240,7 +240,7 @@ private:
         return value.toPointF().x() <= value.toPointF().y();
     }
 
-    /// Lines match cells, and a pass takes what is chosen in "Assign Attributes" off the offer.
+    /// Lines agree with cells, and a pass hides chosen attributes in "Assign Attributes".
     QString faultOfChosen(int row) const
     {
         const auto *filter = dynamic_cast<const AttributesFilterDialog *>(m_dialog.get());
@@ -258,21 +258,21 @@ private:
             return QString("row %1 shows \"%2\" and gives another line").arg(row).arg(shown);
 
         const QString name = item->data(DmlAttrNameRole).toString();
-        const QTableWidgetItem *offered = m_dialog->findItemByAttrName(name);
-        if (!filter && m_filtered && offered && !table(0)->isRowHidden(offered->row()))
-            return name + " is chosen and still on offer";
+        const QTableWidgetItem *available = m_dialog->findItemByAttrName(name);
+        if (!filter && m_filtered && available && !table(0)->isRowHidden(available->row()))
+            return name + " is chosen and still visible";
         return QString();
     }
 
     ValueWatch m_values;
-    std::unique_ptr<TvxAttributesSelectionDialog> m_dialog, m_beside, m_done;
+    std::unique_ptr<TvxAttributesSelectionDialog> m_dialog, m_second, m_closed;
     bool m_filtered = false;
     QTimer m_popupTimer;
     unsigned m_popupChoice = 0;
 };
 
-/// Each event is told before it is done: what was told when the process ends is the stream up to the fault. With it
-/// goes what the process holds by then, bytes and open files.
+/// Prints each event before it is sent, so that the output of a process that crashed ends with the fault. Each line also has
+/// the number of allocated bytes and open files.
 int main(int argc, char **argv)
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
@@ -282,7 +282,7 @@ int main(int argc, char **argv)
     const QApplication application(argc, argv);
     QApplication::setKeyboardInputInterval(SecondsPerEvent * 1000);
     qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
-        // What the platform without a display says of itself tells nothing of the dialogs.
+        // The offscreen platform's own limitation.
         if (type != QtDebugMsg && type != QtInfoMsg && !text.startsWith("This plugin does not support "))
             s_warning = text;
     });

@@ -1,8 +1,8 @@
-"""Lets random events loose on both dialogs, in a process of its own. A crash, a hang, a leak and whatever the program
-finds wrong are faults: then come the seed, the shortest stream of events that shows the fault, and what it says.
+"""Sends random events to both dialogs in a separate process. A crash, a hang, a leak and a broken invariant are faults. A
+fault prints the seed, the shortest stream of events that shows it, and the message.
 
     monkey.py PROGRAM --seed N [--events N]    random events, by default 2,000
-    monkey.py PROGRAM --soak N                 opens, works and closes so many dialogs, and compares what is held by then
+    monkey.py PROGRAM --soak N                 opens, uses and closes so many dialogs, and compares the memory
     monkey.py PROGRAM --stream FILE            the events of a file, such as those printed for a fault
 
 With --under COMMAND the program runs under another one, such as valgrind.
@@ -14,7 +14,7 @@ import shlex
 import subprocess
 import sys
 
-RENEW = 100  # the kind of event that opens a fresh dialog; random ones are below
+RENEW = 100  # the kind of event that opens a new dialog; random events are below
 WARM_UP = 200
 ALLOWED_GROWTH = 256 * 1024
 MOST_RERUNS = 300
@@ -26,20 +26,20 @@ def random_events(seed, length):
 
 
 def play(command, events):
-    """What the program told of each event it came to, and what it said of a fault; an empty text for none."""
+    """Returns the line of each event that was sent, and the message of a fault, empty if there is none."""
     run = subprocess.run(command, input="\n".join(events), capture_output=True, text=True, errors="replace")
     said = f"{run.stderr.strip()}\nexit status {run.returncode}".strip()
     return run.stdout.splitlines(), said if run.returncode else ""
 
 
 def gist(fault):
-    """The line of a sanitizer that sums up, or the program's own word, which is its last before the status."""
+    """Returns the summary line of a sanitizer, or the last message of the program, which is the line before the status."""
     lines = fault.splitlines()
     return next((line for line in lines if line.startswith("SUMMARY:")), lines[max(-2, -len(lines))])
 
 
 def shrink(command, events):
-    """Leaves out ever smaller pieces for as long as the rest still shows a fault."""
+    """Removes smaller and smaller pieces while the rest still shows a fault."""
     reruns = 0
     piece = len(events) // 2
     while piece > 0:
@@ -70,14 +70,14 @@ def work(command, events, title):
 def soak(command, dialogs):
     events = []
     for dialog in range(dialogs + 1):
-        # The same fresh dialog each time, so that what the process holds can be compared. Few streams over and over:
-        # what they bring into caches is there after the first ones.
+        # The same new dialog each time, so that the memory can be compared. Few streams, again and again: what they put
+        # into caches is there after the first ones.
         events += [f"{RENEW} 0 0", f"{RENEW} 0 {dialog}"] + random_events(dialog // 2 % 20, 10)
     told, status = work(command, events, f"soak of {dialogs} dialogs")
     if status:
         return status
-    # With each event comes what the process held before: bytes and open files. None under the address sanitizer, whose
-    # own leak check has its turn at the end.
+    # Each line has the bytes and open files before the event. They are 0 under the address sanitizer, which checks for
+    # leaks at the end.
     held = [[int(number) for number in line.split()[3:]] for line in told]
     each = len(events) // (dialogs + 1)
     memory, files = (last - first for first, last in zip(held[WARM_UP * each + 1], held[dialogs * each + 1]))

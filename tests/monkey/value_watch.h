@@ -32,7 +32,7 @@ public:
         connect(dialog->findChild<QMenu *>(), &QMenu::triggered, this, [this] { m_isMenuUsed = true; });
     }
 
-    /// To be called before each event, and fault() after it.
+    /// Call this before each event, and fault() after it.
     void begin(const TvxAttributesSelectionDialog *dialog)
     {
         m_fault.clear();
@@ -73,7 +73,7 @@ private:
         return dialog->findChild<QTableWidget *>("chosenList");
     }
 
-    /// The record of each chosen condition byte by byte, or the value exactly.
+    /// The bytes of each chosen condition, or the exact value.
     static Values valuesOf(const TvxAttributesSelectionDialog *dialog)
     {
         Values values;

@@ -6,13 +6,13 @@
 #include <functional>
 #include <utility>
 
-/// A delegate that forwards to another one, and reports each commit before it takes effect and each load of an editor.
+/// A delegate that forwards to another one, and reports each commit and each load of an editor before it takes effect.
 class CommitWatch : public QStyledItemDelegate
 {
 public:
     using Report = std::function<void(QWidget *editor, const QModelIndex &index)>;
 
-    /// `inner` becomes the parent.
+    /// `inner` becomes the parent of this delegate.
     CommitWatch(QAbstractItemDelegate *inner, Report commit, Report load = nullptr)
         : QStyledItemDelegate(inner)
         , m_inner(inner)

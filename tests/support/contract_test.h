@@ -13,14 +13,14 @@
 #include <list>
 #include <memory>
 
-/// What every contract test stands on: a fresh host for each function, and at its end no memory outstanding,
-/// none given back twice, and no Qt warning.
+/// Base class of the contract tests. Each function starts with a new host, and fails if memory is leaked or freed twice, or
+/// on a Qt warning.
 class ContractTest : public QObject
 {
     Q_OBJECT
 
 public:
-    /// A definition for the length of the test. What its type does not read holds rubbish.
+    /// A definition that exists until the function ends. Fields that its type does not use have random content.
     DmlAttrDef &definition(int type, const char *name, const char *prompt = "Prompt",
                            const char *group = "Board", unsigned int mask = 0xFFFFFFFF)
     {
@@ -68,7 +68,7 @@ public:
         made.unitsClass = units;
         return made;
     }
-    /// One of each type, and an unknown one.
+    /// One definition of each type, and one of an unknown type.
     QList<DmlAttrDef *> eachType()
     {
         QList<DmlAttrDef *> all{&definition(DmlAttrBoolean, "plated"), &text("note", "none", 2)};
@@ -82,7 +82,7 @@ public:
         return *static_cast<DmlAttrValue *>(item.attrValue().value<void *>());
     }
     static QByteArray bytes(const Zudunmaf::DmlAttrLWI &item) { return bytesOf(record(item)); }
-    /// The bytes of the values, one behind the other.
+    /// The bytes of the values, in their order.
     template <class... Values>
     static QByteArray bytesOf(const Values &...values)
     {

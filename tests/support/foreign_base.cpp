@@ -111,7 +111,7 @@ QTableWidgetItem *Dialog::findItemByAttrName(const QString &name)
     return nullptr;
 }
 
-/// An operation that writes its call down as `noted` says, and otherwise does no more than `effect`.
+/// An operation that records its call with the arguments `noted`, and then does `effect`.
 #define NOTED_AS(noted, type, operation, effect)                                                             \
     type Dialog::operation                                                                                   \
     {                                                                                                        \

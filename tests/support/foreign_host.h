@@ -12,30 +12,30 @@
 
 class QMenu;
 
-/// A host of the tests' own: base dialog, services and dictionary behind the library's declarations. It
-/// answers as a test sets it, writes down every call in order, and is as unkind as the contract allows: dirty
-/// memory, one buffer for all messages, a cursor that counts oddly, rubbish in what a failed call leaves.
+/// A host for the tests: base dialog, services and dictionary that implement the library's declarations. It returns what a
+/// test sets, records every call in order, and uses the freedom of the contract: memory is not initialized, all messages
+/// share a buffer, the cursor is no index, and a failed call writes random values.
 struct ForeignHost {
-    QStringList calls; ///< "name argument argument", but for memory and log calls.
+    QStringList calls; ///< "name argument argument", without memory and log calls.
 
     QMap<QByteArray, QByteArray> translations; ///< By message key; field 4 of the key where there is none.
     bool byPrompt = false;
     bool showObsolete = false;
     QList<DmlAttrDef *> dictionary;
-    int failAt = 0;      ///< The fallible call that fails, counted from 1; 0 for none.
-    int failStatus = 1;  ///< What it answers.
-    int fallible = 0;    ///< Calls so far that could have failed.
+    int failAt = 0;      ///< The number of the call that fails, from 1; 0 for none.
+    int failStatus = 1;  ///< The status of that call.
+    int fallible = 0;    ///< The number of calls that could have failed.
     QStringList reports; ///< "file line".
-    QSet<void *> memory; ///< Taken and not given back.
-    QStringList faults;  ///< Memory misused, and warnings of Qt.
+    QSet<void *> memory; ///< Allocated and not freed.
+    QStringList faults;  ///< Wrong calls of the memory services, and Qt warnings.
 
     int did = 3;
     int mask = -1;
     QString group = QStringLiteral("All Groups");
     QString text;
     int units = -1;
-    bool shuffle = false;                ///< Hands rows out in no helpful order.
-    QList<QTableWidgetItem *> menuItems; ///< What a menu action applies to.
+    bool shuffle = false;                ///< Returns the available rows in a random order.
+    QList<QTableWidgetItem *> menuItems; ///< The items for an action of the context menu.
     QStringList entities;                ///< "text data metatype did" for each row.
     QStringList groups;
     QPointer<QTableWidget> top, chosen;
@@ -50,16 +50,16 @@ struct ForeignHost {
     static QString word(double number) { return QString::number(number, 'g', 6); }
     static QString word(const QString &text) { return text; }
 
-    /// The calls whose name begins so, in order.
+    /// The calls that begin with a text, in order.
     QStringList called(const char *beginning) const;
-    /// What a failed operation must leave alone: lists, rows with their visibility, the current row.
+    /// What a failed operation must not change: lists, rows with their visibility, the current row.
     QString state() const;
 };
 
-/// The host of the test that runs; it outlives everything that is made on it.
+/// The host of the current test. It is never deleted.
 ForeignHost &host();
 
-/// Puts clones of the item into columns 0 and 1 of a new last row, and gives the one of column 1.
+/// Appends a row with clones of the item in both columns, and returns the item of column 1.
 QTableWidgetItem *appendRow(QTableWidget *table, const QTableWidgetItem &item);
 
 #endif

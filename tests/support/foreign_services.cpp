@@ -9,7 +9,7 @@
 namespace
 {
 
-/// Every answer overwrites the one before it, over the buffer's whole length.
+/// Each text overwrites the whole buffer.
 const char *answer(char (&buffer)[400], const QByteArray &text)
 {
     std::memset(buffer, '#', sizeof buffer);
@@ -24,7 +24,7 @@ bool failsNow()
     return ++host().fallible == host().failAt;
 }
 
-/// The library names itself in what it takes and gives back.
+/// Returns true if a memory service was called with a position in the library.
 bool isOwn(int one, const char *file, int line)
 {
     return one == 1 && line > 0 && QByteArray(file).startsWith("code/gdm/");
@@ -108,7 +108,7 @@ const char *gen__nls_nlsa_get_att_prompt(const char *name, const char *prompt)
     return answer(g_prompts, QByteArray("host:") + prompt);
 }
 
-/// Only "*" is a wildcard here; any other pattern must be the whole text, case counting.
+/// "*" matches every text, and any other pattern only an equal text.
 bool gen__str_cmp_reg(const char *text, const char *pattern)
 {
     host().note("match", text, pattern);

@@ -7,13 +7,13 @@
 #include <cstring>
 #include <random>
 
-/// Data that is as odd as the records allow, the same in each run.
+/// Random data within what the records allow. It is the same in each run.
 class Generated
 {
 public:
     int below(int limit) { return int(m_engine() % quint64(limit)); }
 
-    /// Holds what the grammar of a line is made of, at random places.
+    /// A random sequence of what has a meaning in a line, and of other characters.
     QString text(int mostPieces)
     {
         static const QStringList pieces{" = ", " <= ", "\n", "%1", "%2", "%3", "%L1", "%", "a", "b = c",
@@ -24,7 +24,7 @@ public:
         return made;
     }
 
-    /// Any bits at all, or a number that a user would take.
+    /// A number of random bits, a limit of the type, or a number as a user enters it.
     double number()
     {
         const quint64 bits = m_engine();

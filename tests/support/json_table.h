@@ -7,7 +7,7 @@
 #include <QJsonObject>
 #include <QStringList>
 
-/// The table that stands as a JSON file beside the test; a file that is none ends the program.
+/// The table in a JSON file next to the test. Ends the program if there is none.
 inline QJsonObject jsonTable(const char *name)
 {
     QFile file(QStringLiteral(ZUDUNMAF_TEST_TABLES "/") + QLatin1String(name));
