@@ -204,16 +204,6 @@ private Q_SLOTS:
         QDir::setSearchPaths("icons", {});
     }
 
-    void iconsContrastWithThePalette()
-    {
-        for (int back : {30, 240}) {
-            dialog->setPalette(QPalette(QColor(back, back, back)));
-            const QColor middle = addButton->icon().pixmap(32, 32).toImage().pixelColor(16, 16);
-            QVERIFY(middle.alpha() > 200);
-            QVERIFY(qAbs(middle.lightness() - back) > 120);
-        }
-    }
-
 private:
     /// The texts of the controls that have a mnemonic.
     QStringList markedTexts() const
