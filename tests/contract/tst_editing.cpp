@@ -32,16 +32,18 @@ private Q_SLOTS:
     void editorByKindAndType()
     {
         host().dictionary << &text("plain", "x") << eachType();
-        QString conditions, values;
+        QStringList conditions, values;
         for (const DmlAttrDef *attribute : host().dictionary) {
             add<AttrFilterLWI>(*attribute);
-            conditions += nameOf(edit<QWidget>().get());
+            conditions << nameOf(edit<QWidget>().get());
             add<FeatureAttrLWI>(*attribute);
-            values += nameOf(edit<QWidget>().get());
+            values << nameOf(edit<QWidget>().get());
         }
-        QCOMPARE(conditions, QString("QLineEdit - QLineEdit QComboBox Zudunmaf::MinMaxIntEditor "
-                                     "Zudunmaf::MinMaxDoubleEditor - "));
-        QCOMPARE(values, QString("QLineEdit - QComboBox QComboBox QSpinBox QDoubleSpinBox - "));
+        QCOMPARE(conditions,
+                 QStringList({"QLineEdit", "none", "QLineEdit", "QComboBox", "Zudunmaf::MinMaxIntEditor",
+                              "Zudunmaf::MinMaxDoubleEditor", "none"}));
+        QCOMPARE(values, QStringList({"QLineEdit", "none", "QComboBox", "QComboBox", "QSpinBox",
+                                      "QDoubleSpinBox", "none"}));
         QVERIFY(host().delegate->parent() == m_dialog.get());
         const QSize plain = QStyledItemDelegate().sizeHint({}, index());
         QCOMPARE(host().delegate->sizeHint({}, index()), plain + QSize(0, 4));
@@ -168,8 +170,8 @@ private Q_SLOTS:
         QCOMPARE(box->minimum(), -25.4);
         QCOMPARE(box->maximum(), 228.6);
         commit(box.get());
-        QCOMPARE(host().calls.join(", "), QString("convert_2 -1 1 2, convert_2 9 1 2, convert_2 2 1 2, "
-                                                  "convert null 1 2, convert_f 50.8 1 102"));
+        QCOMPARE(host().calls, QStringList({"convert_2 -1 1 2", "convert_2 9 1 2", "convert_2 2 1 2",
+                                            "convert null 1 2", "convert_f 50.8 1 102"}));
         QCOMPARE(item->attrValue().userType(), int(QMetaType::Double));
         QCOMPARE(item->attrValue().toFloat(), 2.0f);
     }
@@ -278,10 +280,7 @@ private:
         host().delegate->setModelData(editor, host().chosen->model(), index());
         QCOMPARE(int(changes.count()), 0);
     }
-    static QString nameOf(const QObject *made)
-    {
-        return QString(made ? made->metaObject()->className() : "-") + ' ';
-    }
+    static QString nameOf(const QObject *made) { return made ? made->metaObject()->className() : "none"; }
 
     std::unique_ptr<AttributesFilterDialog> m_dialog;
 };
