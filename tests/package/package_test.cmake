@@ -52,6 +52,7 @@ string(STRIP "${output}" libdir)
 # With the stand-ins: CMake, and the flags of pkg-config.
 build(tests/package/consumer)
 expect_line("width" "${WORK}/consumer/consumer")
+expect_line("Bedingung" "${WORK}/consumer/consumer")
 run(pkg-config --cflags --libs zudunmaf-standins)
 separate_arguments(pc_flags UNIX_COMMAND "${output}")
 run(${compile} "${SOURCE}/tests/package/consumer/main.cpp" -o "${WORK}/pc_consumer" ${pc_flags} "-Wl,-rpath,${libdir}")

@@ -1,6 +1,9 @@
 #include "dml/dml_control.h"
 #include "gdm/gdm_qt.h"
+#include "gdm/host/gen_services.h"
+#include "gdm/host/message_keys.h"
 #include "gdm/zudunmaf_version.h"
+#include "gen/gen_control.h"
 
 #include <QApplication>
 #include <QPushButton>
@@ -27,5 +30,7 @@ int main(int argc, char *argv[])
     dialog.findChild<QPushButton *>(QStringLiteral("addButton"))->click();
     for (const QString &line : dialog.getFiltersAsStringList())
         std::printf("%s\n", qPrintable(line));
+    Zudunmaf::gen::setLanguage(QStringLiteral("de"));
+    std::printf("%s\n", gen__nls_nlst(Zudunmaf::keys::FilterHeaderCondition));
     return 0;
 }
