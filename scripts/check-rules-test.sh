@@ -97,10 +97,10 @@ standins/tvx <gdm/dialogs/planted.h>
 standins/tvx "gen/planted.h"
 demo "tvx/planted.h"
 demo "gdm/editing/planted.h"
-demo "walk/planted.h"
-walk "demo/planted.h"
-walk "tvx/planted.h"
-walk "gdm/conditions/planted.h"
+demo "demo/walk/planted.h"
+demo/walk "demo/planted.h"
+demo/walk "tvx/planted.h"
+demo/walk "gdm/conditions/planted.h"
 PLANTS
 new_file code/gdm/planted/planted.h '#include <vector>'
 breaks code/gdm/planted $check includes

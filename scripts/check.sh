@@ -64,7 +64,7 @@ allowed() {
         standins/dml) echo "(common|dml)/[^/]*|gen/gen_control\.h|$contract" ;;
         standins/tvx) echo "(common|tvx)/[^/]*|$contract" ;;
         demo) echo '[^/]*|(tvx|gen|dml)/[a-z]*_control\.h|gdm/(host|items|conditions|dialogs)/[^/]*|gdm/gdm_qt\.h' ;;
-        walk) echo "[^/]*|demo/(host|options)\.h|$contract" ;;
+        demo/walk) echo "[^/]*|demo/(host|options)\.h|$contract" ;;
     esac
 }
 
@@ -80,8 +80,7 @@ check_includes() {
         tracked ":(glob)$folder/*.h" ":(glob)$folder/*.cpp" | xargs -r grep -nHE '^ *# *include' |
             without "include +(\"($pattern)\"|<[^/>]*>)|include +<sys/[^/>]*>" |
             none "$folder must not include this" || status=1
-    done < <(tracked 'code/*.h' 'code/*.cpp' 'standins/*.h' 'standins/*.cpp' 'demo/*.h' 'demo/*.cpp' \
-        'walk/*.h' 'walk/*.cpp' |
+    done < <(tracked 'code/*.h' 'code/*.cpp' 'standins/*.h' 'standins/*.cpp' 'demo/*.h' 'demo/*.cpp' |
         xargs -r -n 1 dirname | sort -u)
     return $status
 }
@@ -94,7 +93,7 @@ check_versions() {
 # One place for each fact.
 check_facts() {
     local status=0
-    tracked 'code/*.cpp' 'standins/*.cpp' 'demo/*.cpp' 'walk/*.cpp' 'code/*.h' 'standins/*.h' 'demo/*.h' 'walk/*.h' |
+    tracked 'code/*.cpp' 'standins/*.cpp' 'demo/*.cpp' 'code/*.h' 'standins/*.h' 'demo/*.h' |
         without '/(message_keys|tvx_texts)\.h$' |
         forbid "message keys belong in message_keys.h or tvx_texts.h" '^[^/]*"@\$@#[A-Za-z]' || status=1
     tracked 'code/*.cpp' 'code/*.h' | without '/config_keys\.h$' |
@@ -152,7 +151,7 @@ check_tidy() {
     install_packages clang-tidy
     prepare_lint_tree || return 1
     local status=0
-    tracked 'code/*.cpp' 'standins/*.cpp' 'demo/*.cpp' 'walk/*.cpp' | run_tidy || status=1
+    tracked 'code/*.cpp' 'standins/*.cpp' 'demo/*.cpp' | run_tidy || status=1
     # In tests, only the length of functions. Clang has warnings of its own about Qt Test.
     tracked 'tests/*.cpp' | without '^tests/package/' |
         run_tidy --checks='-*,readability-function-size' --extra-arg=-w || status=1
@@ -164,7 +163,7 @@ check_clazy() {
     prepare_lint_tree || return 1
     local checks=level0,level1,detaching-member,qt-keywords,reserve-candidates
     checks+=,no-connect-3arg-lambda,no-range-loop-reference,no-overloaded-signal,no-fully-qualified-moc-types
-    tracked 'code/*.cpp' 'standins/*.cpp' 'demo/*.cpp' 'walk/*.cpp' |
+    tracked 'code/*.cpp' 'standins/*.cpp' 'demo/*.cpp' |
         xargs -r -P 2 -n 2 clazy-standalone -p "$lint_tree" -checks="$checks" -extra-arg=-Werror 2>&1 |
         without "^[0-9]+ warnings? generated\.$|internal error: couldn't find method from pmf"
 }

@@ -15,7 +15,7 @@ echo "Building in build/qt$major-dev" >&2
 cmake --preset "qt$major-dev" >/dev/null
 cmake --build --preset "qt$major-dev" --target zudunmaf_demo zudunmaf_walk zudunmaf_catalogues >&2
 demo="build/qt$major-dev/demo/zudunmaf-demo"
-walk="build/qt$major-dev/walk/zudunmaf-walk"
+walk="build/qt$major-dev/demo/walk/zudunmaf-walk"
 if [ $# -gt 0 ]; then
     exec "$demo" "$@"
 fi

@@ -9,7 +9,7 @@ cd "$(dirname "$0")/.."
 install_packages $(build_packages 6)
 cmake --preset qt6-dev >/dev/null
 cmake --build --preset qt6-dev --target zudunmaf_walk
-walk=build/qt6-dev/walk/zudunmaf-walk
+walk=build/qt6-dev/demo/walk/zudunmaf-walk
 steps=build/pictures
 mkdir -p docs/pictures
 

@@ -1,9 +1,9 @@
 #include "contract_test.h"
 #include "json_table.h"
 
-#include "gdm/dialogs/attribute_offer.h"
+#include "gdm/dialogs/fill_rule.h"
 #include "gdm/dialogs/group_names.h"
-#include "gdm/dialogs/row_filter.h"
+#include "gdm/dialogs/visibility_rule.h"
 
 #include <QRegExp>
 
@@ -55,15 +55,15 @@ private Q_SLOTS:
         const QString text = criteria["text"].toString();
         const bool byPrompt = criteria["byPrompt"].toBool();
         const bool showObsolete = criteria["showObsolete"].toBool();
-        const AttributeOffer fill(entities, group, group == "All", text, byPrompt, showObsolete);
-        const RowFilter visibility(entities, group, "All", text, byPrompt);
+        const FillRule fill(entities, group, group == "All", text, byPrompt, showObsolete);
+        const VisibilityRule visibility(entities, group, "All", text, byPrompt);
         QStringList filled, visible;
         const QJsonArray attributes = jsonTable("rules.json")["attributes"].toArray();
         for (const QJsonValue row : attributes) {
             const DmlAttrDef &attribute =
                 definition(9, row["name"].toString().toUtf8(), row["prompt"].toString().toUtf8(),
                            row["group"].toString().toUtf8(), unsigned(row["entities"].toInt()));
-            if (fill.takes(attribute))
+            if (fill.accepts(attribute))
                 filled << attribute.name;
             if (visibility.shows(attribute))
                 visible << attribute.name;
@@ -74,8 +74,8 @@ private Q_SLOTS:
 
     void fillPassesSixtyFourBytesOfTheText()
     {
-        const AttributeOffer fill(-1, "All", true, QString("ü").repeated(50), false, false);
-        QVERIFY(!fill.takes(definition(9, "width")));
+        const FillRule fill(-1, "All", true, QString("ü").repeated(50), false, false);
+        QVERIFY(!fill.accepts(definition(9, "width")));
         QCOMPARE(host().called("match"), QStringList("match width " + QString("ü").repeated(32)));
     }
 
