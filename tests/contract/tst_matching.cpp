@@ -88,12 +88,11 @@ private:
     static void verify(const AttrCondition &condition, const QVariantList &matching,
                        const QVariantList &others, int valueUnits = NoUnits)
     {
-        for (const QVariant &value : matching + others)
-            QVERIFY2(matches(condition, value, valueUnits) == matching.contains(value),
-                     qPrintable(value.typeName() + QString(" %1 against %2 to %3")
-                                                       .arg(value.toString())
-                                                       .arg(condition.low, 0, 'g', 17)
-                                                       .arg(condition.high, 0, 'g', 17)));
+        const QString text = QString("%1 to %2: ").arg(condition.low).arg(condition.high);
+        for (const QVariant &value : matching)
+            QVERIFY2(matches(condition, value, valueUnits), qPrintable(text + value.toString()));
+        for (const QVariant &value : others)
+            QVERIFY2(!matches(condition, value, valueUnits), qPrintable(text + value.toString()));
     }
 
     static AttrCondition range(int type, double low, double high, int units = Inch,
