@@ -11,31 +11,31 @@ namespace
 {
 
 #if defined(__SANITIZE_ADDRESS__)
-#    define ZUDUNMAF_BLOCKS_ARE_WATCHED
+#    define ZUDUNMAF_ADDRESS_SANITIZER
 #elif defined(__has_feature)
 #    if __has_feature(address_sanitizer)
-#        define ZUDUNMAF_BLOCKS_ARE_WATCHED
+#        define ZUDUNMAF_ADDRESS_SANITIZER
 #    endif
 #endif
 
-#ifdef ZUDUNMAF_BLOCKS_ARE_WATCHED
-/// The sanitizer watches each block on its own.
+#ifdef ZUDUNMAF_ADDRESS_SANITIZER
+/// The sanitizer checks each block separately.
 struct Source {
-    void *take(std::size_t size) { return ::operator new(size); }
-    void giveBack(void *block) { ::operator delete(block); }
+    void *allocate(std::size_t size) { return ::operator new(size); }
+    void free(void *block) { ::operator delete(block); }
 };
 #else
 using Source = Zudunmaf::gen::MemoryArena;
 #endif
 
-/// Lasts as long as the process, since nobody can tell which static object gives its blocks back last.
+/// Never destroyed, because static objects may free blocks after it.
 Source &source()
 {
     static auto *const source = new Source;
     return *source;
 }
 
-/// One for all: hardly ever do two threads ask at once.
+/// One mutex is enough: threads rarely allocate at the same time.
 std::mutex g_sourceGuard;
 
 } // namespace
@@ -44,7 +44,7 @@ void *gen__mem_malloc(size_t size, int, const char *file, int line)
 {
     try {
         const std::lock_guard<std::mutex> guard(g_sourceGuard);
-        return source().take(size);
+        return source().allocate(size);
     } catch (const std::bad_alloc &) {
         std::fprintf(stderr, "zudunmaf: out of memory for %zu bytes (%s:%d)\n", size, file ? file : "?",
                      line);
@@ -57,5 +57,5 @@ void gen__mem_free(void *memory, int, const char *, int)
     if (!memory)
         return;
     const std::lock_guard<std::mutex> guard(g_sourceGuard);
-    source().giveBack(memory);
+    source().free(memory);
 }
