@@ -3,13 +3,12 @@
 #include "gdm/host/message_keys.h"
 #include "tvx/available_table.h"
 #include "tvx/button_picture.h"
-#include "tvx/caption.h"
-#include "tvx/choice_list.h"
 #include "tvx/chosen_table.h"
 #include "tvx/name_column_width.h"
 #include "tvx/text_lines.h"
 #include "tvx/tvx_texts.h"
 
+#include <QComboBox>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QGuiApplication>
@@ -54,9 +53,20 @@ QPushButton *button(QDialog *dialog, const char *objectName, const char *text, c
 
 QLabel *label(const char *text, QWidget *buddy)
 {
-    auto *label = new Caption(textOf(text), buddy->parentWidget());
+    auto *label = new QLabel(textOf(text), buddy->parentWidget());
+    label->setTextFormat(Qt::PlainText);
     label->setBuddy(buddy);
     return label;
+}
+
+/// Returns a combo box whose width does not depend on its items: a long group name must not widen the dialog.
+QComboBox *comboBox(QDialog *dialog)
+{
+    auto *box = new QComboBox(dialog);
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box->setMinimumContentsLength(12);
+    box->setMaxVisibleItems(20);
+    return box;
 }
 
 } // namespace
@@ -81,8 +91,8 @@ SelectionWidgets::SelectionWidgets(QDialog *dialog)
 
 void SelectionWidgets::createCriteria(QDialog *dialog)
 {
-    entityList = named(new ChoiceList(dialog), "entityList", texts::Entity);
-    groupList = named(new ChoiceList(dialog), "groupList", texts::Group);
+    entityList = named(comboBox(dialog), "entityList", texts::Entity);
+    groupList = named(comboBox(dialog), "groupList", texts::Group);
     filterText = named(new QLineEdit(dialog), "filterText", texts::Filter);
     filterText->setPlaceholderText(textOf(texts::FilterHint));
     filterText->setClearButtonEnabled(true);
