@@ -31,3 +31,18 @@ function(zudunmaf_test name)
     target_link_libraries(${name} PRIVATE ${test_LIBRARIES} Qt${ZUDUNMAF_QT_MAJOR}::Test)
     zudunmaf_add_test(${name} fast COMMAND ${name} ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
 endfunction()
+
+# zudunmaf_schema_test(NAME SCRIPT ARGUMENT...): adds a test in Python that needs the module jsonschema.
+function(zudunmaf_schema_test name script)
+    find_package(Python3 QUIET COMPONENTS Interpreter)
+    set(missing 1)
+    if(Python3_FOUND)
+        execute_process(COMMAND "${Python3_EXECUTABLE}" -c "import jsonschema"
+            RESULT_VARIABLE missing OUTPUT_QUIET ERROR_QUIET)
+    endif()
+    if(missing)
+        zudunmaf_missing_test(${name} fast "jsonschema for Python 3")
+    else()
+        zudunmaf_add_test(${name} fast COMMAND "${Python3_EXECUTABLE}" "${CMAKE_CURRENT_SOURCE_DIR}/${script}" ${ARGN})
+    endif()
+endfunction()

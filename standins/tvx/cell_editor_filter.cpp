@@ -79,15 +79,6 @@ void CellEditorFilter::nameWidgets(QWidget *editor, const QString &name)
     }
 }
 
-void CellEditorFilter::focusFirst()
-{
-    if (m_widgets.isEmpty() || m_widgets.constFirst() == parent())
-        return;
-    m_widgets.constFirst()->setFocus(Qt::TabFocusReason);
-    if (auto *box = qobject_cast<QAbstractSpinBox *>(m_widgets.constFirst()))
-        box->selectAll();
-}
-
 bool CellEditorFilter::eventFilter(QObject *watched, QEvent *event)
 {
     auto *widget = qobject_cast<QWidget *>(watched);

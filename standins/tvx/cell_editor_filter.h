@@ -28,8 +28,6 @@ public:
     /// Installs this filter before all others. Must be called after each commit, when the view installs the delegate's
     /// again.
     void install();
-    /// Gives the focus to the first widget of the editor that accepts it.
-    void focusFirst();
 
 Q_SIGNALS:
     /// Emitted when Enter is pressed in the editor.

@@ -51,7 +51,6 @@ void EditSession::begin(QWidget *editor, const QModelIndex &index, const QTableW
     m_filter = new CellEditorFilter(editor, name);
     connect(m_filter, &CellEditorFilter::entered, this, &EditSession::entered);
     connect(m_filter, &CellEditorFilter::left, this, &EditSession::left);
-    m_filter->focusFirst();
 }
 
 void EditSession::end()
