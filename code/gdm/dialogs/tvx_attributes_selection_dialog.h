@@ -73,7 +73,7 @@ public:
     /// Called for each attribute that was added to the chosen table, with its item in the available table. Not called
     /// for an attribute that the available table does not have.
     virtual void addButtonClickedCB(QTableWidgetItem *item);
-    /// Called for each attribute that is removed from the chosen table, with its item there. The item is deleted after
+    /// Called for each attribute that is removed from the chosen table, with its item there. The item may be deleted after
     /// the call.
     virtual void removeButtonClickedCB(QTableWidgetItem *item);
 
