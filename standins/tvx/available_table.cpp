@@ -41,7 +41,7 @@ void AvailableTable::beginBatchUpdate()
 {
     if (m_batchUpdates++ > 0)
         return;
-    setUpdatesEnabled(false);
+    viewport()->setUpdatesEnabled(false);
     // Otherwise the header looks up a position for each row that is hidden or shown, and a pass takes quadratic time.
     verticalHeader()->setUpdatesEnabled(false);
     m_deferredSelection.remember();
@@ -54,7 +54,7 @@ void AvailableTable::endBatchUpdate()
     verticalHeader()->setUpdatesEnabled(true);
     if (std::exchange(m_haveRowsChanged, false))
         updateGeometries();
-    setUpdatesEnabled(true);
+    viewport()->setUpdatesEnabled(true);
     m_deferredSelection.emitChanges();
 }
 
