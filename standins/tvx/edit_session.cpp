@@ -18,13 +18,15 @@ namespace tvx
 namespace
 {
 
-void acceptEveryText(QWidget *editor)
+void prepareSpinBoxes(QWidget *editor)
 {
     auto boxes = editor->findChildren<QAbstractSpinBox *>();
     if (auto *box = qobject_cast<QAbstractSpinBox *>(editor))
         boxes.append(box);
-    for (QAbstractSpinBox *box : std::as_const(boxes))
+    for (QAbstractSpinBox *box : std::as_const(boxes)) {
         NumberEntry::acceptEveryText(box);
+        NumberEntry::stepAdaptively(box);
+    }
 }
 
 } // namespace
@@ -43,7 +45,7 @@ void EditSession::begin(QWidget *editor, const QModelIndex &index, const QTableW
     m_editor = editor;
     m_index = index;
     m_isTableHidden = false;
-    acceptEveryText(editor);
+    prepareSpinBoxes(editor);
     if (const auto *choices = TextChoices::attach(editor, value))
         connect(this, &EditSession::ended, choices, &QWidget::hide);
     m_content = new EditorContent(editor, value);

@@ -73,6 +73,14 @@ void NumberEntry::acceptEveryText(QAbstractSpinBox *box)
         lineOf(*box)->setValidator(new EveryTextValidator(box));
 }
 
+void NumberEntry::stepAdaptively(QAbstractSpinBox *box)
+{
+    if (auto *whole = qobject_cast<QSpinBox *>(box))
+        whole->setStepType(QAbstractSpinBox::AdaptiveDecimalStepType);
+    else if (auto *decimal = qobject_cast<QDoubleSpinBox *>(box))
+        decimal->setStepType(QAbstractSpinBox::AdaptiveDecimalStepType);
+}
+
 QLineEdit *NumberEntry::lineOf(const QAbstractSpinBox &box)
 {
     return box.findChild<QLineEdit *>();

@@ -33,6 +33,9 @@ public:
     /// Lets the user type any text, with a point or a comma as its decimal separator. Does nothing to a spin box of
     /// another class.
     static void acceptEveryText(QAbstractSpinBox *box);
+    /// Makes Up and Down step by a tenth of the number's power of ten, so that they suit inches and microns alike. Does
+    /// nothing to a spin box of another class.
+    static void stepAdaptively(QAbstractSpinBox *box);
     /// Returns the line edit of a spin box.
     static QLineEdit *lineOf(const QAbstractSpinBox &box);
 
