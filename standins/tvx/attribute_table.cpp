@@ -2,6 +2,7 @@
 
 #include "gdm/items/attr_roles.h"
 #include "tvx/elided_cell_tip.h"
+#include "tvx/muted_selection.h"
 #include "tvx/name_column_width.h"
 #include "tvx/row_drag.h"
 #include "tvx/row_sorter.h"
@@ -194,6 +195,30 @@ void AttributeTable::setRowShown(int row, bool shown)
     if (updates)
         header->setUpdatesEnabled(true);
 }
+
+/// Returns true if the table or an editor in it has the keyboard, also while a menu or popup is open.
+bool AttributeTable::hasKeyboard() const
+{
+    const QWidget *focus = window()->focusWidget();
+    return focus && (focus == this || isAncestorOf(focus));
+}
+
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+QStyleOptionViewItem AttributeTable::viewOptions() const
+{
+    QStyleOptionViewItem option = QTableWidget::viewOptions();
+    if (!hasKeyboard())
+        muteSelection(&option);
+    return option;
+}
+#else
+void AttributeTable::initViewItemOption(QStyleOptionViewItem *option) const
+{
+    QTableWidget::initViewItemOption(option);
+    if (!hasKeyboard())
+        muteSelection(option);
+}
+#endif
 
 void AttributeTable::changeEvent(QEvent *event)
 {

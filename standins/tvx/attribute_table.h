@@ -67,6 +67,12 @@ Q_SIGNALS:
     void rowsDropped();
 
 protected:
+    /// Mutes the selection while the keyboard is elsewhere: only one table can have it.
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QStyleOptionViewItem viewOptions() const override;
+#else
+    void initViewItemOption(QStyleOptionViewItem *option) const override;
+#endif
     void changeEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
@@ -74,6 +80,7 @@ protected:
     void startDrag(Qt::DropActions actions) override;
 
 private:
+    bool hasKeyboard() const;
     void setUpHeaders();
     void alignHeader();
     QSize sizeForRows(int rows) const;

@@ -2,6 +2,7 @@
 
 #include "common/wildcards.h"
 #include "tvx/attribute_table.h"
+#include "tvx/mixed_colour.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -16,13 +17,6 @@ namespace tvx
 namespace
 {
 
-QColor mixed(const QColor &front, const QColor &back, qreal share)
-{
-    return QColor::fromRgbF(front.redF() * share + back.redF() * (1 - share),
-                            front.greenF() * share + back.greenF() * (1 - share),
-                            front.blueF() * share + back.blueF() * (1 - share));
-}
-
 QPalette::ColorGroup colorGroup(const QStyleOptionViewItem &option)
 {
     if (!(option.state & QStyle::State_Enabled))
@@ -36,10 +30,12 @@ QTextCharFormat markFormat(const QStyleOptionViewItem &cell)
     const bool selected = cell.state & QStyle::State_Selected;
     const QColor back = cell.palette.color(group, selected ? QPalette::Highlight : QPalette::Base);
     const QColor front = cell.palette.color(group, selected ? QPalette::HighlightedText : QPalette::Text);
-    const QColor mark = cell.palette.color(group, selected ? QPalette::HighlightedText : QPalette::Highlight);
+    const bool isMuted = group == QPalette::Inactive;
+    const QColor mark =
+        selected && !isMuted ? front : cell.palette.color(QPalette::Active, QPalette::Highlight);
 
     QTextCharFormat format;
-    format.setBackground(mixed(mark, back, 0.3));
+    format.setBackground(mixedColour(mark, back, 0.3));
     format.setForeground(front);
     format.setFontUnderline(true);
     return format;

@@ -59,6 +59,25 @@ private Q_SLOTS:
         QTRY_COMPARE(cell(), atFirst);
     }
 
+    void selectionIsMutedWithoutTheKeyboard()
+    {
+        const auto isBright = [this](QTableWidget *table, const char *attribute) {
+            const QRect cell = cellRect(table, attribute, Name).adjusted(2, 2, -2, -2);
+            const QColor corner = table->viewport()->grab(cell).toImage().pixelColor(cell.width() - 1, 0);
+            // The style draws a gradient.
+            return qAbs(corner.lightness() - table->palette().color(QPalette::Highlight).lightness()) < 20;
+        };
+        choose({"finish"});
+        click(topView, "note");
+        QVERIFY(isBright(topView, "note") && !isBright(chosenList, "finish"));
+        click(chosenList, "finish");
+        QVERIFY(isBright(chosenList, "finish") && !isBright(topView, "note"));
+        press(Qt::Key_F2);
+        QVERIFY(isBright(chosenList, "finish") && !isBright(topView, "note"));
+        click(filterText);
+        QVERIFY(!isBright(chosenList, "finish") && !isBright(topView, "note"));
+    }
+
     void contextMenuByKey_data() { addWays({"Menu", "Shift+F10", "of the platform"}); }
     void contextMenuByKey()
     {
