@@ -102,6 +102,24 @@ void ChosenRows::refreshItemPositions(int firstRow)
     }
 }
 
+void ChosenRows::exchangeValue(int row, std::unique_ptr<QTableWidgetItem> *value)
+{
+    const QSignalBlocker blocker(m_table->model());
+    QTableWidgetItem *other = m_table->takeItem(row, AttributeTable::ValueColumn);
+    m_table->setItem(row, AttributeTable::ValueColumn, value->release());
+    value->reset(other);
+    m_table->viewport()->update();
+}
+
+QHash<const QTableWidgetItem *, int> ChosenRows::rowOfNames() const
+{
+    QHash<const QTableWidgetItem *, int> rows;
+    rows.reserve(m_table->rowCount());
+    for (int row = 0; row < m_table->rowCount(); ++row)
+        rows.insert(m_table->item(row, AttributeTable::NameColumn), row);
+    return rows;
+}
+
 void ChosenRows::select(const QVector<QTableWidgetItem *> &values)
 {
     if (values.isEmpty())

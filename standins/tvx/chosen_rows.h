@@ -1,6 +1,7 @@
 #ifndef TVX_CHOSEN_ROWS_H
 #define TVX_CHOSEN_ROWS_H
 
+#include <QHash>
 #include <QTableWidgetItem>
 #include <QVector>
 
@@ -34,6 +35,10 @@ public:
     std::vector<ChosenRow> take(const QVector<int> &rows);
     /// Inserts rows that take() has returned, at their arrival indexes, then re-sorts.
     void restore(std::vector<ChosenRow> rows);
+    /// Exchanges the value item of a row for another one. Emits no signal of the model, as a commit does not.
+    void exchangeValue(int row, std::unique_ptr<QTableWidgetItem> *value);
+    /// Returns the row of each name item.
+    QHash<const QTableWidgetItem *, int> rowOfNames() const;
     /// Selects the rows of these value items only, makes the first of them current and scrolls to the last. Does
     /// nothing without an item.
     void select(const QVector<QTableWidgetItem *> &values);

@@ -159,7 +159,10 @@ void ChosenTable::commitData(QWidget *editor)
 {
     if (!editor || editor != openEditor() || !m_session->prepareCommit())
         return;
+    if (QTableWidgetItem *value = itemFromIndex(m_session->index()))
+        Q_EMIT valueAboutToChange(value);
     AttributeTable::commitData(editor);
+    Q_EMIT valueChanged();
     // The delegate's signals may have made the host close the editor or remove the row.
     const QTableWidgetItem *value = editor == openEditor() ? itemFromIndex(m_session->index()) : nullptr;
     if (value)

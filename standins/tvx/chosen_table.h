@@ -54,6 +54,9 @@ Q_SIGNALS:
     /// Emitted when the content of the open editor has changed.
     void editorChanged();
     void editingEnded();
+    /// Emitted before and after the value of an item is stored.
+    void valueAboutToChange(QTableWidgetItem *value);
+    void valueChanged();
     /// Emitted when Delete is pressed.
     void removalRequested();
 

@@ -2,10 +2,10 @@
 
 #include "tvx/attribute_item.h"
 #include "tvx/available_table.h"
+#include "tvx/change_history.h"
 #include "tvx/chosen_table.h"
 #include "tvx/filter_criteria.h"
 #include "tvx/number_entry.h"
-#include "tvx/row_mover.h"
 #include "tvx/selection_widgets.h"
 #include "tvx/tvx_texts.h"
 
@@ -88,10 +88,10 @@ void setText(QLabel *label, const QString &text)
 } // namespace
 
 DialogStatus::DialogStatus(const SelectionWidgets &widgets, const FilterCriteria &criteria,
-                           const RowMover &mover)
+                           const ChangeHistory &history)
     : m_widgets(widgets)
     , m_criteria(criteria)
-    , m_mover(mover)
+    , m_history(history)
 {
 }
 
@@ -118,7 +118,8 @@ void DialogStatus::updateButtons() const
     ChosenTable *chosen = m_widgets.chosenList;
     setEnabled(m_widgets.addButton, top->hasVisibleSelection(), top);
     setEnabled(m_widgets.removeButton, chosen->hasVisibleSelection(), chosen);
-    setEnabled(m_widgets.undoButton, m_mover.canUndoRemoval(), chosen);
+    setEnabled(m_widgets.undoButton, m_history.canUndo(), chosen);
+    m_widgets.undoButton->setToolTip(m_history.description());
     setEnabled(m_widgets.clearButton, chosen->rowCount() > 0, chosen);
 }
 

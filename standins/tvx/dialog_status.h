@@ -10,8 +10,8 @@ namespace Zudunmaf
 namespace tvx
 {
 
+class ChangeHistory;
 class FilterCriteria;
-class RowMover;
 class SelectionWidgets;
 
 /// Updates everything that follows from the state of the dialog: counts, enabled buttons, description, result line and
@@ -20,7 +20,8 @@ class SelectionWidgets;
 class DialogStatus
 {
 public:
-    DialogStatus(const SelectionWidgets &widgets, const FilterCriteria &criteria, const RowMover &mover);
+    DialogStatus(const SelectionWidgets &widgets, const FilterCriteria &criteria,
+                 const ChangeHistory &history);
 
     void update() const;
 
@@ -34,7 +35,7 @@ private:
 
     const SelectionWidgets &m_widgets;
     const FilterCriteria &m_criteria;
-    const RowMover &m_mover;
+    const ChangeHistory &m_history;
 };
 
 } // namespace tvx

@@ -31,7 +31,11 @@ bool FilterLineKeys::eventFilter(QObject *watched, QEvent *event)
 bool FilterLineKeys::filterKey(QKeyEvent *event)
 {
     if (event->matches(QKeySequence::Undo) && !m_line->isUndoAvailable()) {
-        m_mover->undoRemoval();
+        m_mover->undo();
+        return true;
+    }
+    if (event->matches(QKeySequence::Redo) && !m_line->isRedoAvailable()) {
+        m_mover->redo();
         return true;
     }
     switch (event->key()) {

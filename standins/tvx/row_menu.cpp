@@ -20,9 +20,11 @@ void RowMenu::setMenu(QMenu *menu)
     if (m_menu)
         disconnect(m_menu, nullptr, this, nullptr);
     m_menu = menu;
-    // Queued: the subclass connects later, and its slot must run first.
-    if (menu)
-        connect(menu, &QMenu::triggered, this, &RowMenu::triggered, Qt::QueuedConnection);
+    if (!menu)
+        return;
+    // The subclass connects later: its slot runs after the first connection, and before the second, which is queued.
+    connect(menu, &QMenu::triggered, this, &RowMenu::aboutToRun);
+    connect(menu, &QMenu::triggered, this, &RowMenu::triggered, Qt::QueuedConnection);
 }
 
 void RowMenu::openAt(const QPoint &globalPosition)

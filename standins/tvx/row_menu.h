@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QPointer>
 
+class QAction;
 class QMenu;
 class QPoint;
 class QTableWidgetItem;
@@ -35,6 +36,8 @@ public:
     QList<QTableWidgetItem *> items() const;
 
 Q_SIGNALS:
+    /// Emitted before an action of the menu runs, if setMenu() was called before the slot of the action was connected.
+    void aboutToRun(const QAction *action);
     /// Emitted after an action of the menu has run.
     void triggered();
 

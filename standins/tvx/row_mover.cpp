@@ -3,9 +3,13 @@
 #include "gdm/dialogs/tvx_attributes_selection_dialog.h"
 #include "tvx/attribute_item.h"
 #include "tvx/batch_update.h"
+#include "tvx/change_history.h"
 #include "tvx/chosen_table.h"
+#include "tvx/history_steps.h"
+#include "tvx/tvx_texts.h"
 
 #include <algorithm>
+#include <iterator>
 #include <memory>
 #include <numeric>
 #include <utility>
@@ -24,6 +28,13 @@ ChosenRow copyOf(const QTableWidgetItem &item)
             -1};
 }
 
+/// Returns the text of a step: the attribute's label, or the number of attributes.
+QString stepText(const char *one, const char *several, const std::vector<ChosenRow> &rows)
+{
+    return rows.size() == 1 ? textOf(one).arg(rows.front().name->text())
+                            : textOf(several).arg(static_cast<int>(rows.size()));
+}
+
 QVector<QTableWidgetItem *> valuesOf(const std::vector<ChosenRow> &rows)
 {
     QVector<QTableWidgetItem *> values;
@@ -33,14 +44,25 @@ QVector<QTableWidgetItem *> valuesOf(const std::vector<ChosenRow> &rows)
     return values;
 }
 
+std::unique_ptr<RowsStep> additionStep(RowMover *mover, const std::vector<ChosenRow> &rows)
+{
+    std::vector<const QTableWidgetItem *> names;
+    names.reserve(rows.size());
+    for (const ChosenRow &row : rows)
+        names.push_back(row.name.get());
+    return std::make_unique<RowsStep>(mover, std::move(names),
+                                      stepText(texts::StepAdd, texts::StepAddSeveral, rows));
+}
+
 } // namespace
 
 RowMover::RowMover(TvxAttributesSelectionDialog *dialog, AvailableTable *available, ChosenTable *chosen,
-                   QObject *parent)
+                   ChangeHistory *history, QObject *parent)
     : QObject(parent)
     , m_dialog(dialog)
     , m_available(available)
     , m_chosen(chosen)
+    , m_history(history)
 {
 }
 
@@ -64,9 +86,12 @@ void RowMover::addSelected()
         added.push_back(row);
     }
     values += valuesOf(copies);
+    auto step = copies.empty() ? nullptr : additionStep(this, copies);
     {
         const BatchUpdate batch(m_available);
         append(std::move(copies));
+        if (step)
+            m_history->push(std::move(step));
         callAddHooks(added);
     }
     m_chosen->rows().select(values);
@@ -127,31 +152,48 @@ void RowMover::remove(const QVector<int> &rows)
     finishEditing();
     if (rows.isEmpty())
         return;
+    std::vector<ChosenRow> removed = takeRows(rows);
+    const QString text = stepText(texts::StepRemove, texts::StepRemoveSeveral, removed);
+    m_history->push(std::make_unique<RowsStep>(this, std::move(removed), text));
+    Q_EMIT rowsMoved();
+}
+
+std::vector<ChosenRow> RowMover::takeRows(const QVector<int> &rows)
+{
     m_isRemoving = true;
     {
         const BatchUpdate batch(m_available);
         for (int row : rows)
             m_dialog->removeButtonClickedCB(m_chosen->rowItem(row));
     }
-    m_removals.push_back(m_chosen->rows().take(rows));
-    for (const ChosenRow &row : m_removals.back())
+    std::vector<ChosenRow> taken = m_chosen->rows().take(rows);
+    for (const ChosenRow &row : taken)
         m_valueNames.remove(nameOf(*row.value));
     const int below = rows.last() - static_cast<int>(rows.size()) + 1;
     m_chosen->makeRowCurrent(std::min(below, m_chosen->rowCount() - 1));
     m_isRemoving = false;
-    Q_EMIT rowsMoved();
+    return taken;
 }
 
-void RowMover::undoRemoval()
+std::vector<ChosenRow> RowMover::take(const std::vector<const QTableWidgetItem *> &names)
 {
-    finishEditing();
-    if (!canUndoRemoval())
-        return;
-    std::vector<ChosenRow> rows = std::move(m_removals.back());
-    m_removals.pop_back();
+    const QHash<const QTableWidgetItem *, int> rowOfNames = m_chosen->rows().rowOfNames();
+    QVector<int> rows;
+    for (const QTableWidgetItem *name : names) {
+        if (rowOfNames.contains(name))
+            rows.append(rowOfNames.value(name));
+    }
+    std::sort(rows.begin(), rows.end());
+    return rows.isEmpty() ? std::vector<ChosenRow>() : takeRows(rows);
+}
+
+std::vector<ChosenRow> RowMover::restore(std::vector<ChosenRow> rows)
+{
     const QHash<QString, QTableWidgetItem *> present = chosenValues();
-    const auto isPresent = [&present](const ChosenRow &row) { return present.contains(nameOf(*row.value)); };
-    rows.erase(std::remove_if(rows.begin(), rows.end(), isPresent), rows.end());
+    const auto isAbsent = [&present](const ChosenRow &row) { return !present.contains(nameOf(*row.value)); };
+    const auto firstPresent = std::stable_partition(rows.begin(), rows.end(), isAbsent);
+    std::vector<ChosenRow> left(std::make_move_iterator(firstPresent), std::make_move_iterator(rows.end()));
+    rows.erase(firstPresent, rows.end());
 
     const QVector<QTableWidgetItem *> values = valuesOf(rows);
     rememberValues(rows);
@@ -162,6 +204,20 @@ void RowMover::undoRemoval()
             callAddHook(nameOf(*value));
     }
     m_chosen->rows().select(values);
+    return left;
+}
+
+void RowMover::undo()
+{
+    finishEditing();
+    m_history->undo();
+    Q_EMIT rowsMoved();
+}
+
+void RowMover::redo()
+{
+    finishEditing();
+    m_history->redo();
     Q_EMIT rowsMoved();
 }
 

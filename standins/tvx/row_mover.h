@@ -17,10 +17,11 @@ namespace tvx
 {
 
 class AvailableTable;
+class ChangeHistory;
 class ChosenTable;
 
 /// Adds, removes and restores rows of the chosen table and calls the hooks of the dialog; no other class calls them.
-/// Keeps removed rows until they are restored or the dialog is deleted. Owned by the controller.
+/// What the user adds and removes becomes a step of the history. Owned by the controller.
 ///
 /// Each operation commits an open editor first and leaves hidden rows alone. An attribute can have any number of
 /// conditions but one value, so a second row with a value is never made.
@@ -30,7 +31,7 @@ class RowMover : public QObject
 
 public:
     RowMover(TvxAttributesSelectionDialog *dialog, AvailableTable *available, ChosenTable *chosen,
-             QObject *parent);
+             ChangeHistory *history, QObject *parent);
 
     /// Adds a row for each selected available attribute, calls the add hook for each, and selects the rows. For an
     /// attribute that has a value already, selects its row instead.
@@ -47,10 +48,16 @@ public:
     /// Returns true during a removal. The selection is briefly empty then; skip refreshes until rowsMoved().
     bool isRemoving() const { return m_isRemoving; }
 
-    bool canUndoRemoval() const { return !m_removals.empty(); }
-    /// Restores the rows of the last removal to their positions, calls the add hook for each, and selects them. Skips
-    /// rows whose attribute has a value again.
-    void undoRemoval();
+    /// Undo and redo the last step of the history.
+    void undo();
+    void redo();
+
+    /// Calls the remove hook for the rows of these name items and removes the rows. Returns them in the order of
+    /// arrival. For a step of the history, as restore() is.
+    std::vector<ChosenRow> take(const std::vector<const QTableWidgetItem *> &names);
+    /// Inserts rows that take() has returned at their positions, calls the add hook for each, and selects them. Returns
+    /// the rows whose attribute has a value again, which are not inserted.
+    std::vector<ChosenRow> restore(std::vector<ChosenRow> rows);
 
 Q_SIGNALS:
     /// Emitted after chosen rows were added, removed or restored.
@@ -65,6 +72,7 @@ private:
     std::vector<AvailableRow> selectedAvailableRows() const;
     void append(std::vector<ChosenRow> rows);
     void remove(const QVector<int> &rows);
+    std::vector<ChosenRow> takeRows(const QVector<int> &rows);
     void callAddHooks(const std::vector<AvailableRow> &rows);
     void callAddHook(const QString &name);
     void finishEditing();
@@ -75,7 +83,7 @@ private:
     TvxAttributesSelectionDialog *m_dialog;
     AvailableTable *m_available;
     ChosenTable *m_chosen;
-    std::vector<std::vector<ChosenRow>> m_removals;
+    ChangeHistory *m_history;
     /// The names of the chosen values, so that addCopyOf() needs no pass over the chosen rows.
     QSet<QString> m_valueNames;
     bool m_isRemoving = false;

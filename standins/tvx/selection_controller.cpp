@@ -2,12 +2,15 @@
 
 #include "gdm/dialogs/tvx_attributes_selection_dialog.h"
 #include "tvx/batch_update.h"
+#include "tvx/change_history.h"
 #include "tvx/chosen_table.h"
 #include "tvx/filter_line_keys.h"
 #include "tvx/name_column_width.h"
 #include "tvx/row_menu.h"
 #include "tvx/row_mover.h"
+#include "tvx/tvx_texts.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -26,8 +29,9 @@ SelectionController::SelectionController(int did, TvxAttributesSelectionDialog *
     , m_dialog(dialog)
     , m_widgets(dialog)
     , m_criteria(did, m_widgets)
-    , m_mover(new RowMover(dialog, m_widgets.topView, m_widgets.chosenList, this))
-    , m_status(m_widgets, m_criteria, *m_mover)
+    , m_history(new ChangeHistory(m_widgets.chosenList, this))
+    , m_mover(new RowMover(dialog, m_widgets.topView, m_widgets.chosenList, m_history, this))
+    , m_status(m_widgets, m_criteria, *m_history)
 {
     dialog->installEventFilter(this);
     new FilterLineKeys(m_widgets.filterText, m_widgets.topView, m_mover, this);
@@ -47,6 +51,7 @@ void SelectionController::connectWidgets()
     m_isConnected = true;
     connectCriteria();
     connectButtons();
+    connectHistory();
     connectTables();
     connectShortcuts();
     connect(qApp, &QApplication::focusChanged, this, &SelectionController::refresh);
@@ -65,7 +70,7 @@ void SelectionController::connectButtons()
 {
     connect(m_widgets.addButton, &QPushButton::clicked, m_mover, &RowMover::addSelected);
     connect(m_widgets.removeButton, &QPushButton::clicked, m_mover, &RowMover::removeSelected);
-    connect(m_widgets.undoButton, &QPushButton::clicked, m_mover, &RowMover::undoRemoval);
+    connect(m_widgets.undoButton, &QPushButton::clicked, m_mover, &RowMover::undo);
     connect(m_widgets.clearButton, &QPushButton::clicked, m_mover, &RowMover::removeAll);
     connect(m_widgets.buttonBox, &QDialogButtonBox::accepted, this, &SelectionController::acceptDialog);
     connect(m_widgets.buttonBox, &QDialogButtonBox::rejected, this, &SelectionController::rejectDialog);
@@ -96,6 +101,20 @@ void SelectionController::connectTables()
     connect(m_mover, &RowMover::rowsMoved, this, &SelectionController::refresh);
 }
 
+void SelectionController::connectHistory()
+{
+    const ChosenTable *chosen = m_widgets.chosenList;
+    connect(chosen, &ChosenTable::valueAboutToChange, m_history, [this, chosen](QTableWidgetItem *value) {
+        const QString name = chosen->item(value->row(), AttributeTable::NameColumn)->text();
+        m_history->beginChange({value}, textOf(texts::StepEdit).arg(name));
+    });
+    connect(chosen, &ChosenTable::valueChanged, m_history, &ChangeHistory::endChange);
+    connect(chosen->menu(), &RowMenu::aboutToRun, m_history, [this, chosen](const QAction *action) {
+        m_history->beginChange(chosen->menu()->items(), action->text().remove(QLatin1Char('&')));
+    });
+    connect(chosen->menu(), &RowMenu::triggered, m_history, &ChangeHistory::endChange);
+}
+
 void SelectionController::connectShortcuts()
 {
     auto *find = new QShortcut(QKeySequence::Find, m_dialog);
@@ -104,7 +123,9 @@ void SelectionController::connectShortcuts()
         m_widgets.filterText->selectAll();
     });
     auto *undo = new QShortcut(QKeySequence::Undo, m_dialog);
-    connect(undo, &QShortcut::activated, m_mover, &RowMover::undoRemoval);
+    connect(undo, &QShortcut::activated, m_mover, &RowMover::undo);
+    auto *redo = new QShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+Z")), m_dialog);
+    connect(redo, &QShortcut::activated, m_mover, &RowMover::redo);
 }
 
 void SelectionController::acceptDialog()

@@ -15,6 +15,7 @@ namespace Zudunmaf
 namespace tvx
 {
 
+class ChangeHistory;
 class RowMover;
 
 /// Connects the parts of the base dialog, and runs the dialog's virtual functions when the criteria change. Owned by
@@ -52,6 +53,7 @@ private:
     void connectCriteria();
     void connectButtons();
     void connectTables();
+    void connectHistory();
     void connectShortcuts();
     void acceptDialog();
     void rejectDialog();
@@ -64,6 +66,7 @@ private:
     TvxAttributesSelectionDialog *m_dialog;
     SelectionWidgets m_widgets;
     FilterCriteria m_criteria;
+    ChangeHistory *m_history;
     RowMover *m_mover;
     DialogStatus m_status;
     int m_displayUnits = -1;

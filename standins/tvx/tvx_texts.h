@@ -28,7 +28,14 @@ constexpr char AddHint[] = "@$@#tvx@$@#GENERAL@$@#11@$@#Add the selected attribu
 constexpr char Remove[] = "@$@#tvx@$@#GENERAL@$@#12@$@#&Remove";
 constexpr char RemoveHint[] = "@$@#tvx@$@#GENERAL@$@#13@$@#Remove the selected attributes (Delete)";
 constexpr char Undo[] = "@$@#tvx@$@#GENERAL@$@#14@$@#&Undo";
-constexpr char UndoHint[] = "@$@#tvx@$@#GENERAL@$@#15@$@#Restore the attributes removed last (Ctrl+Z)";
+constexpr char UndoHint[] = "@$@#tvx@$@#GENERAL@$@#15@$@#Undo the last step (Ctrl+Z)";
+constexpr char UndoStep[] = "@$@#tvx@$@#GENERAL@$@#80@$@#Undo: %1 (Ctrl+Z)";
+constexpr char RedoStep[] = "@$@#tvx@$@#GENERAL@$@#81@$@#Redo: %1 (Ctrl+Shift+Z)";
+constexpr char StepAdd[] = "@$@#tvx@$@#GENERAL@$@#82@$@#add %1";
+constexpr char StepAddSeveral[] = "@$@#tvx@$@#GENERAL@$@#83@$@#add %1 attributes";
+constexpr char StepRemove[] = "@$@#tvx@$@#GENERAL@$@#84@$@#remove %1";
+constexpr char StepRemoveSeveral[] = "@$@#tvx@$@#GENERAL@$@#85@$@#remove %1 attributes";
+constexpr char StepEdit[] = "@$@#tvx@$@#GENERAL@$@#86@$@#edit %1";
 constexpr char ClearAll[] = "@$@#tvx@$@#GENERAL@$@#16@$@#Clear a&ll";
 constexpr char ClearAllHint[] =
     "@$@#tvx@$@#GENERAL@$@#17@$@#Remove all chosen attributes; Undo restores them";
