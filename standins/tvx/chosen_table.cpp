@@ -74,7 +74,8 @@ void ChosenTable::beginSession(QWidget *editor, const QModelIndex &index)
 void ChosenTable::finishEntered()
 {
     m_session->confirm();
-    tryFinishEditing();
+    if (tryFinishEditing())
+        Q_EMIT entered();
 }
 
 void ChosenTable::finishEditing()

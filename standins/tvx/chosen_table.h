@@ -54,6 +54,8 @@ Q_SIGNALS:
     /// Emitted when the content of the open editor has changed.
     void editorChanged();
     void editingEnded();
+    /// Emitted after Enter has closed the editor.
+    void entered();
     /// Emitted before and after the value of an item is stored.
     void valueAboutToChange(QTableWidgetItem *value);
     void valueChanged();

@@ -6,6 +6,7 @@
 #include "tvx/chosen_table.h"
 #include "tvx/filter_line_keys.h"
 #include "tvx/name_column_width.h"
+#include "tvx/quick_entry.h"
 #include "tvx/row_menu.h"
 #include "tvx/row_mover.h"
 #include "tvx/tvx_texts.h"
@@ -35,6 +36,7 @@ SelectionController::SelectionController(int did, TvxAttributesSelectionDialog *
 {
     dialog->installEventFilter(this);
     new FilterLineKeys(m_widgets.filterText, m_widgets.topView, m_mover, this);
+    new QuickEntry(m_widgets, m_mover, this);
     m_widgets.entityList->installEventFilter(this);
     m_widgets.groupList->installEventFilter(this);
 }

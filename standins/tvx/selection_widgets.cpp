@@ -133,6 +133,7 @@ void SelectionWidgets::createTexts(QDialog *dialog)
     availableLabel->setObjectName(QLatin1String("availableLabel"));
     chosenLabel = label(texts::Chosen, chosenList);
     chosenLabel->setObjectName(QLatin1String("chosenLabel"));
+    chosenLabel->setToolTip(textOf(texts::ChosenHint));
 }
 
 void SelectionWidgets::arrange(QDialog *dialog)

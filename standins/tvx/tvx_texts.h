@@ -24,7 +24,8 @@ constexpr char Chosen[] = "@$@#tvx@$@#GENERAL@$@#6@$@#C&hosen:";
 constexpr char ShownOfTotal[] = "@$@#tvx@$@#GENERAL@$@#7@$@#%1 of %2";
 
 constexpr char Add[] = "@$@#tvx@$@#GENERAL@$@#10@$@#&Add";
-constexpr char AddHint[] = "@$@#tvx@$@#GENERAL@$@#11@$@#Add the selected attributes (Enter)";
+constexpr char AddHint[] =
+    "@$@#tvx@$@#GENERAL@$@#11@$@#Add the selected attributes (Enter), and edit the last one (Ctrl+Enter)";
 constexpr char Remove[] = "@$@#tvx@$@#GENERAL@$@#12@$@#&Remove";
 constexpr char RemoveHint[] = "@$@#tvx@$@#GENERAL@$@#13@$@#Remove the selected attributes (Delete)";
 constexpr char Undo[] = "@$@#tvx@$@#GENERAL@$@#14@$@#&Undo";
@@ -36,6 +37,7 @@ constexpr char StepAddSeveral[] = "@$@#tvx@$@#GENERAL@$@#83@$@#add %1 attributes
 constexpr char StepRemove[] = "@$@#tvx@$@#GENERAL@$@#84@$@#remove %1";
 constexpr char StepRemoveSeveral[] = "@$@#tvx@$@#GENERAL@$@#85@$@#remove %1 attributes";
 constexpr char StepEdit[] = "@$@#tvx@$@#GENERAL@$@#86@$@#edit %1";
+constexpr char ChosenHint[] = "@$@#tvx@$@#GENERAL@$@#87@$@#Edit the current row (F2)";
 constexpr char ClearAll[] = "@$@#tvx@$@#GENERAL@$@#16@$@#Clear a&ll";
 constexpr char ClearAllHint[] =
     "@$@#tvx@$@#GENERAL@$@#17@$@#Remove all chosen attributes; Undo restores them";

@@ -54,6 +54,40 @@ private Q_SLOTS:
         QCOMPARE(events.count("accepted"), 1);
     }
 
+    void editorReturnsToWhereItWasOpened_data() { addWays({"filter text", "available table", "F2"}); }
+    void editorReturnsToWhereItWasOpened()
+    {
+        QWidget *origin = way() == "available table" ? static_cast<QWidget *>(topView) : filterText;
+        choose({"plated", "width"});
+        setFilter("e");
+        click(topView, "grade");
+        click(topView, "depth", 0, Qt::ShiftModifier);
+        origin->setFocus();
+        if (way() == "F2") {
+            press(Qt::Key_F2);
+            QVERIFY(!editor()); // a boolean
+            chosenList->selectRow(1);
+            press(Qt::Key_F2);
+        } else {
+            press(Qt::Key_Return, Qt::ControlModifier);
+        }
+        const QString edited = way() == "F2" ? "width" : "depth";
+        QVERIFY(editor());
+        QCOMPARE(currentName(chosenList), edited);
+        type("99999");
+        press(Qt::Key_Return);
+        QVERIFY(editor());
+        type("55");
+        press(Qt::Key_Return);
+        QVERIFY(!editor());
+        QVERIFY(origin->hasFocus());
+        QCOMPARE(filterText->selectedText(), QString("e"));
+        QVERIFY(resultOf(edited).contains("55"));
+        click(chosenList, edited);
+        press({Qt::Key_F2, Qt::Key_Return});
+        QVERIFY(chosenList->hasFocus());
+    }
+
     void autoRepeatDoesNothing()
     {
         choose({"note", "width"});
