@@ -48,6 +48,16 @@ QWidget *ChosenTable::openEditor() const
     return m_session->editor();
 }
 
+QTableWidgetItem *ChosenTable::editedItem() const
+{
+    return itemFromIndex(m_session->index());
+}
+
+bool ChosenTable::doesEnterStore() const
+{
+    return m_session->doesEnterStore();
+}
+
 bool ChosenTable::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
 {
     if (!index.isValid())
@@ -160,12 +170,12 @@ void ChosenTable::commitData(QWidget *editor)
 {
     if (!editor || editor != openEditor() || !m_session->prepareCommit())
         return;
-    if (QTableWidgetItem *value = itemFromIndex(m_session->index()))
+    if (QTableWidgetItem *value = editedItem())
         Q_EMIT valueAboutToChange(value);
     AttributeTable::commitData(editor);
     Q_EMIT valueChanged();
     // The delegate's signals may have made the host close the editor or remove the row.
-    const QTableWidgetItem *value = editor == openEditor() ? itemFromIndex(m_session->index()) : nullptr;
+    const QTableWidgetItem *value = editor == openEditor() ? editedItem() : nullptr;
     if (value)
         m_session->restart(*value);
 }

@@ -31,6 +31,10 @@ public:
     void editRow(int row);
     /// Returns the open editor; null if there is none.
     QWidget *openEditor() const;
+    /// Returns the value item of the open editor; null if there is none.
+    QTableWidgetItem *editedItem() const;
+    /// Returns true if Enter would store the content of the open editor.
+    bool doesEnterStore() const;
     /// Closes an open editor and stores what the user has changed. A refused entry leaves the item as it was, and
     /// lastRefusal() says so. If the table was hidden after the edit began, nothing is stored. Does nothing if no
     /// editor is open.

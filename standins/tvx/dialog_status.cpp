@@ -5,6 +5,7 @@
 #include "tvx/change_history.h"
 #include "tvx/chosen_table.h"
 #include "tvx/filter_criteria.h"
+#include "tvx/live_preview.h"
 #include "tvx/number_entry.h"
 #include "tvx/selection_widgets.h"
 #include "tvx/tvx_texts.h"
@@ -133,9 +134,7 @@ void DialogStatus::updateTexts() const
              chosen->lastRefusal().isEmpty() ? chosen->emptyText().shownText() : chosen->lastRefusal());
 
     setText(m_widgets.description, describedText());
-    const QTableWidgetItem *current = chosen->rowItem(chosen->currentRow());
-    const bool hasLine = current && !chosen->isEntryRefused();
-    const QString line = hasLine ? current->data(DmlAttrFilterTextRole).toString() : QString();
+    const QString line = currentResultLine(*chosen);
     setText(m_widgets.preview, line.isEmpty() ? QString() : textOf(texts::PreviewLine).arg(line));
 }
 

@@ -86,6 +86,11 @@ bool EditSession::isRefused() const
     return m_content && m_content->isRefused();
 }
 
+bool EditSession::doesEnterStore() const
+{
+    return isChanged() || (m_content && m_content->isConfirmable());
+}
+
 bool EditSession::prepareCommit()
 {
     if (isRefused()) {

@@ -49,6 +49,8 @@ public:
     bool isChanged() const;
     /// Returns true if the limits refuse the entry, which must not be stored then.
     bool isRefused() const;
+    /// Returns true if confirm() and prepareCommit() would lead to a commit.
+    bool doesEnterStore() const;
     /// Prepares the content for being stored. Returns false if it must not be stored, because it is refused or
     /// unchanged.
     bool prepareCommit();

@@ -8,8 +8,10 @@
 #include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QComboBox>
+#include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QMetaProperty>
+#include <QSpinBox>
 
 #include <utility>
 
@@ -92,6 +94,12 @@ void EditorContent::connectParts()
             connect(line, &QLineEdit::textEdited, this, &EditorContent::noteEdit);
             connect(line, &QLineEdit::textChanged, this, &EditorContent::noteEdit);
         }
+        // A step of a spin box changes the text of its line edit without a signal.
+        if (const auto *box = qobject_cast<const QSpinBox *>(part))
+            connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, &EditorContent::noteEdit);
+        if (const auto *box = qobject_cast<const QDoubleSpinBox *>(part))
+            connect(box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
+                    &EditorContent::noteEdit);
         if (const auto *box = qobject_cast<const QComboBox *>(part)) {
             connect(box, QOverload<int>::of(&QComboBox::activated), this, &EditorContent::noteEdit);
             connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &EditorContent::noteEdit);
@@ -229,7 +237,12 @@ void EditorContent::interpret() const
 
 void EditorContent::confirm()
 {
-    m_isConfirmed = m_isUnset && !texts().join(QString()).isEmpty();
+    m_isConfirmed = isConfirmable();
+}
+
+bool EditorContent::isConfirmable() const
+{
+    return m_isUnset && !texts().join(QString()).isEmpty();
 }
 
 } // namespace tvx

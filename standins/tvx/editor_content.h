@@ -54,6 +54,8 @@ public:
     void interpret() const;
     /// Counts a content that is not empty as changed if the item is a condition that is not set.
     void confirm();
+    /// Returns true if confirm() would do so.
+    bool isConfirmable() const;
 
 Q_SIGNALS:
     /// Emitted when the user or the program has changed the content.

@@ -52,6 +52,8 @@ private Q_SLOTS:
         const QString refusal = kind[edit]["message"].toString();
         if (!refusal.isEmpty())
             verifyMessage(refusal);
+        else if (inFilter())
+            QCOMPARE(preview->text(), "Result: " + resultOfEnter(kind, edit));
         events.clear();
         left.leave();
         QCoreApplication::processEvents();
@@ -95,8 +97,13 @@ private:
         if (end == Drops || end == Rejects)
             return stored;
         if (edit == "nothing" && way() == "Enter" && inFilter())
-            return kind["change and back"]["result"].toString();
+            return resultOfEnter(kind, edit);
         return kind[edit]["result"].toString(stored);
+    }
+
+    static QString resultOfEnter(const QJsonObject &kind, const QString &edit)
+    {
+        return kind[edit == "nothing" ? "change and back" : edit]["result"].toString();
     }
 
     void openEditor(const QString &attribute, const QString &keysOfAnEditBefore) const

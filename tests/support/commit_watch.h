@@ -33,7 +33,10 @@ public:
     }
     void setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const override
     {
-        m_commit(editor, index);
+        // Not for the live preview, which stores into a clone of the item.
+        const auto *table = qobject_cast<const QWidget *>(index.model()->QObject::parent());
+        if (table && table->isAncestorOf(editor))
+            m_commit(editor, index);
         m_inner->setModelData(editor, model, index);
     }
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
