@@ -35,8 +35,9 @@ QLocale plainNumbers()
 
 } // namespace
 
-AttributeTable::AttributeTable(QWidget *parent)
+AttributeTable::AttributeTable(QWidget *parent, CellHints::Kind hints)
     : QTableWidget(0, ColumnCount, parent)
+    , m_hints(this, hints)
     , m_emptyText(this)
     , m_nameColumnWidth(new NameColumnWidth(this))
     , m_sorter(new RowSorter(this))
@@ -229,6 +230,13 @@ void AttributeTable::changeEvent(QEvent *event)
         alignHeader();
 }
 
+void AttributeTable::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    // The view tells a screen reader of the new row, which may not have been painted yet.
+    m_hints.updateSpokenText(current.row());
+    QTableWidget::currentChanged(current, previous);
+}
+
 void AttributeTable::keyPressEvent(QKeyEvent *event)
 {
     const bool plain = !(event->modifiers() & ~Qt::KeypadModifier);
@@ -267,6 +275,7 @@ QString AttributeTable::copyLine(int row) const
 void AttributeTable::paintEvent(QPaintEvent *event)
 {
     QTableWidget::paintEvent(event);
+    m_hints.paint();
     m_emptyText.paint();
 }
 

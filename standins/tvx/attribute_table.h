@@ -1,6 +1,7 @@
 #ifndef TVX_ATTRIBUTE_TABLE_H
 #define TVX_ATTRIBUTE_TABLE_H
 
+#include "tvx/cell_hints.h"
 #include "tvx/empty_table_text.h"
 #include "tvx/type_ahead.h"
 
@@ -19,8 +20,8 @@ class RowSorter;
 /// What the two tables of the dialog share: their appearance and work by rows, ignoring hidden ones. Each row is an
 /// attribute, with its name in column 0 and its condition or value in column 1.
 ///
-/// Owns the helpers for the width of the name column, sorting, dragging, tool tips of elided cells, the text of an
-/// empty table and type-ahead. Uses the C locale without group separators, so that editors read and write numbers as
+/// Owns the helpers for the width of the name column, sorting, dragging, tool tips of elided cells, hints, the text of
+/// an empty table and type-ahead. Uses the C locale without group separators, so that editors read and write numbers as
 /// cells and result lines do.
 class AttributeTable : public QTableWidget
 {
@@ -31,11 +32,13 @@ public:
     /// The height that the delegates of both tables add to that of a line of text.
     static constexpr int DelegateMargin = 4;
 
-    explicit AttributeTable(QWidget *parent);
+    AttributeTable(QWidget *parent, CellHints::Kind hints);
 
     /// The text that the table shows while it has no visible row.
     EmptyTableText &emptyText() { return m_emptyText; }
     const EmptyTableText &emptyText() const { return m_emptyText; }
+    CellHints &hints() { return m_hints; }
+    const CellHints &hints() const { return m_hints; }
     NameColumnWidth *nameColumnWidth() const { return m_nameColumnWidth; }
     RowSorter *sorter() const { return m_sorter; }
 
@@ -74,6 +77,7 @@ protected:
     void initViewItemOption(QStyleOptionViewItem *option) const override;
 #endif
     void changeEvent(QEvent *event) override;
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
@@ -87,6 +91,7 @@ private:
     void copySelectedRows() const;
     QString copyLine(int row) const;
 
+    CellHints m_hints;
     EmptyTableText m_emptyText;
     TypeAhead m_typeAhead;
     NameColumnWidth *m_nameColumnWidth;

@@ -26,7 +26,7 @@ constexpr int WidthSample = 64;
 } // namespace
 
 AvailableTable::AvailableTable(QWidget *parent)
-    : AttributeTable(parent)
+    : AttributeTable(parent, CellHints::Available)
     , m_delegate(new MatchHighlightDelegate(this))
     , m_deferredSelection(selectionModel())
 {

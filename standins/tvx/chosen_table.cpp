@@ -15,7 +15,7 @@ namespace tvx
 {
 
 ChosenTable::ChosenTable(QWidget *parent)
-    : AttributeTable(parent)
+    : AttributeTable(parent, CellHints::Chosen)
     , m_rows(this)
     , m_session(new EditSession(viewport(), this))
     , m_menu(new RowMenu(this))
@@ -170,10 +170,12 @@ void ChosenTable::commitData(QWidget *editor)
 {
     if (!editor || editor != openEditor() || !m_session->prepareCommit())
         return;
+    const int row = m_session->index().row();
     if (QTableWidgetItem *value = editedItem())
         Q_EMIT valueAboutToChange(value);
     AttributeTable::commitData(editor);
     Q_EMIT valueChanged();
+    hints().updateSpokenText(row);
     // The delegate's signals may have made the host close the editor or remove the row.
     const QTableWidgetItem *value = editor == openEditor() ? editedItem() : nullptr;
     if (value)

@@ -1,16 +1,14 @@
 #include "tvx/dialog_status.h"
 
-#include "tvx/attribute_item.h"
+#include "gdm/items/attr_roles.h"
 #include "tvx/available_table.h"
 #include "tvx/change_history.h"
 #include "tvx/chosen_table.h"
 #include "tvx/filter_criteria.h"
 #include "tvx/live_preview.h"
-#include "tvx/number_entry.h"
 #include "tvx/selection_widgets.h"
 #include "tvx/tvx_texts.h"
 
-#include <QAbstractSpinBox>
 #include <QLabel>
 #include <QPushButton>
 
@@ -21,48 +19,6 @@ namespace tvx
 
 namespace
 {
-
-QString separator()
-{
-    return QStringLiteral("  \u00b7  "); // a middle dot
-}
-
-QString typeText(int type)
-{
-    switch (type) {
-    case DmlAttrBoolean:
-        return textOf(texts::TypeBoolean);
-    case DmlAttrText:
-        return textOf(texts::TypeText);
-    case DmlAttrOption:
-        return textOf(texts::TypeOption);
-    case DmlAttrInteger:
-        return textOf(texts::TypeInteger);
-    case DmlAttrFloat:
-        return textOf(texts::TypeFloat);
-    default:
-        return QString();
-    }
-}
-
-/// The tool tip of a value is a whole description, one fact a line. That of a condition is not: it is empty, or the
-/// prompt.
-QString descriptionOf(const QTableWidgetItem &item)
-{
-    QStringList parts;
-    if (isCondition(item)) {
-        parts = QStringList{nameOf(item), item.data(DmlAttrPromptRole).toString(),
-                            typeText(item.data(DmlAttrTypeRole).toInt())};
-        if (parts[0] == parts[1])
-            parts.removeFirst();
-    } else {
-        const QStringList lines = item.toolTip().split(QLatin1Char('\n'));
-        for (const QString &line : lines)
-            parts.append(line.simplified());
-    }
-    parts.removeAll(QString());
-    return parts.join(separator());
-}
 
 /// Moves the focus of a button that becomes disabled to its table. Qt would move it to the next button, which may do
 /// the opposite.
@@ -93,6 +49,7 @@ DialogStatus::DialogStatus(const SelectionWidgets &widgets, const FilterCriteria
     : m_widgets(widgets)
     , m_criteria(criteria)
     , m_history(history)
+    , m_description(widgets)
 {
 }
 
@@ -133,7 +90,7 @@ void DialogStatus::updateTexts() const
     describe(chosen,
              chosen->lastRefusal().isEmpty() ? chosen->emptyText().shownText() : chosen->lastRefusal());
 
-    setText(m_widgets.description, describedText());
+    m_description.show();
     const QString line = currentResultLine(*chosen);
     setText(m_widgets.preview, line.isEmpty() ? QString() : textOf(texts::PreviewLine).arg(line));
 }
@@ -145,34 +102,6 @@ QString DialogStatus::emptyAvailableText() const
     if (m_criteria.isFillMissing() && m_widgets.topView->rowCount() == 0)
         return textOf(texts::NotRead);
     return textOf(m_criteria.isNarrowed() ? texts::NothingMatches : texts::NothingLeft);
-}
-
-QString DialogStatus::describedText() const
-{
-    const ChosenTable *chosen = m_widgets.chosenList;
-    // focusWidget() of the window keeps its answer while a menu is open.
-    const bool inChosen = chosen->openEditor() || chosen->window()->focusWidget() == chosen;
-    const QTableWidgetItem *current = inChosen ? chosen->rowItem(chosen->currentRow())
-                                               : m_widgets.topView->rowItem(m_widgets.topView->currentRow());
-    if (!current)
-        return chosen->lastRefusal();
-    QStringList parts = {chosen->lastRefusal(), descriptionOf(*current), limitsOfEditor()};
-    parts.removeAll(QString());
-    return parts.join(separator());
-}
-
-QString DialogStatus::limitsOfEditor() const
-{
-    const QWidget *editor = m_widgets.chosenList->openEditor();
-    if (!editor)
-        return QString();
-    const auto *box = qobject_cast<const QAbstractSpinBox *>(editor);
-    if (!box)
-        box = editor->findChild<QAbstractSpinBox *>();
-    if (!box)
-        return QString();
-    const NumberEntry entry(*box);
-    return textOf(texts::Limits).arg(entry.minimum(), entry.maximum());
 }
 
 } // namespace tvx

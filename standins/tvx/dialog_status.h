@@ -1,9 +1,9 @@
 #ifndef TVX_DIALOG_STATUS_H
 #define TVX_DIALOG_STATUS_H
 
-#include <QString>
+#include "tvx/current_description.h"
 
-class QTableWidgetItem;
+#include <QString>
 
 namespace Zudunmaf
 {
@@ -30,12 +30,11 @@ private:
     void updateButtons() const;
     void updateTexts() const;
     QString emptyAvailableText() const;
-    QString describedText() const;
-    QString limitsOfEditor() const;
 
     const SelectionWidgets &m_widgets;
     const FilterCriteria &m_criteria;
     const ChangeHistory &m_history;
+    CurrentDescription m_description;
 };
 
 } // namespace tvx

@@ -1,6 +1,6 @@
 #include "tvx/editor_content.h"
 
-#include "gdm/host/gen_services.h"
+#include "tvx/attribute_facts.h"
 #include "tvx/attribute_item.h"
 #include "tvx/number_entry.h"
 #include "tvx/tvx_texts.h"
@@ -54,24 +54,12 @@ QString textOf(const QWidget *part)
     return part->metaObject()->userProperty().read(part).toString();
 }
 
-/// Returns the units of the numbers in the editor of an item: those in the cell, else those of the definition.
-QString unitsOf(const QTableWidgetItem &item)
-{
-    const auto *definition = definitionOf(item);
-    if (!definition || definition->type != DmlAttrFloat)
-        return QString();
-    const QString cell = item.text();
-    if (!isCondition(item) && cell.contains(QLatin1Char(' ')))
-        return cell.mid(cell.indexOf(QLatin1Char(' ')) + 1);
-    return QString(gen__torvex_cur_units_str(definition->unitsClass, definition->unitsClass));
-}
-
 } // namespace
 
 EditorContent::EditorContent(QWidget *editor, const QTableWidgetItem &item)
     : QObject(editor)
     , m_parts(partsOf(editor))
-    , m_units(unitsOf(item))
+    , m_units(AttributeFacts(item, -1).units())
 {
     restart(item);
     connectParts();

@@ -146,6 +146,8 @@ void SelectionController::setDisplayUnits(int units)
 {
     m_widgets.chosenList->finishEditing();
     m_displayUnits = units;
+    m_widgets.topView->hints().setDisplayUnits(units);
+    m_widgets.chosenList->hints().setDisplayUnits(units);
     m_criteria.expectFill();
 }
 
@@ -209,7 +211,6 @@ bool SelectionController::eventFilter(QObject *watched, QEvent *event)
         fitToFont();
         break;
     case QEvent::Resize:
-        m_widgets.fitToHeight();
         break;
     default:
         break;
@@ -221,7 +222,6 @@ void SelectionController::fitToFont()
 {
     fitNameColumns();
     m_widgets.fitToFont();
-    m_widgets.fitToHeight();
 }
 
 void SelectionController::refresh()

@@ -4,6 +4,7 @@
 #include "tvx/available_table.h"
 #include "tvx/button_picture.h"
 #include "tvx/chosen_table.h"
+#include "tvx/description_label.h"
 #include "tvx/name_column_width.h"
 #include "tvx/text_lines.h"
 #include "tvx/tvx_texts.h"
@@ -28,9 +29,6 @@ namespace tvx
 
 namespace
 {
-
-/// The height of the dialog, in lines of text, from which on the description has a third line.
-constexpr int AmpleHeight = 32;
 
 template <class Widget>
 Widget *named(Widget *widget, const char *objectName, const char *spokenName)
@@ -84,7 +82,6 @@ SelectionWidgets::SelectionWidgets(QDialog *dialog)
         size = size.boundedTo(screen->availableSize() * 9 / 10);
     dialog->resize(size);
     fitToFont();
-    fitToHeight();
     dialog->setSizeGripEnabled(true);
     filterText->setFocus();
 }
@@ -126,7 +123,7 @@ void SelectionWidgets::createButtons(QDialog *dialog)
 
 void SelectionWidgets::createTexts(QDialog *dialog)
 {
-    description = named(new TextLines(dialog), "description", texts::Description);
+    description = named(new DescriptionLabel(dialog), "description", texts::Description);
     preview = named(new TextLines(dialog), "preview", texts::Preview);
     preview->setAlignment(Qt::AlignLeading | Qt::AlignVCenter);
     availableLabel = label(texts::Available, topView);
@@ -205,6 +202,7 @@ QWidget *SelectionWidgets::tablesWidget(QDialog *dialog) const
 void SelectionWidgets::fitToFont()
 {
     const QFontMetrics metrics = description->fontMetrics();
+    description->setFixedHeight(2 * metrics.lineSpacing());
     preview->setFixedHeight(2 * metrics.lineSpacing());
     // Two spin boxes with their labels, each wide enough for the longest whole number.
     const auto widthOf = [&metrics](const char *key) { return metrics.horizontalAdvance(textOf(key)); };
@@ -214,13 +212,6 @@ void SelectionWidgets::fitToFont()
         labels + 2 * metrics.horizontalAdvance(QLatin1String("-2147483648")) + 7 * metrics.height();
     topView->nameColumnWidth()->setMinimumValueWidth(rangeWidth);
     chosenList->nameColumnWidth()->setMinimumValueWidth(rangeWidth);
-}
-
-void SelectionWidgets::fitToHeight()
-{
-    const int line = description->fontMetrics().lineSpacing();
-    const bool ample = description->window()->height() >= AmpleHeight * line;
-    description->setFixedHeight((ample ? 3 : 2) * line);
 }
 
 } // namespace tvx

@@ -16,6 +16,7 @@ namespace tvx
 {
 
 class ChosenTable;
+class DescriptionLabel;
 class AvailableTable;
 
 /// Creates the widgets of the dialog and their layout. The dialog owns the widgets. Connects nothing. The members have
@@ -27,8 +28,6 @@ public:
 
     /// Sets the sizes that depend on the font.
     void fitToFont();
-    /// Sets the height of the description: fewer lines in a low dialog, for the tables.
-    void fitToHeight();
 
     QComboBox *entityList;
     QComboBox *groupList;
@@ -41,7 +40,7 @@ public:
     QPushButton *clearButton;
     QLabel *chosenLabel;
     ChosenTable *chosenList;
-    QLabel *description;
+    DescriptionLabel *description;
     QLabel *preview;
     QDialogButtonBox *buttonBox;
 

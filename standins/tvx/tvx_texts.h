@@ -72,6 +72,16 @@ constexpr char TypeOption[] = "@$@#tvx@$@#GENERAL@$@#36@$@#option";
 constexpr char TypeInteger[] = "@$@#tvx@$@#GENERAL@$@#37@$@#integer";
 constexpr char TypeFloat[] = "@$@#tvx@$@#GENERAL@$@#38@$@#float";
 
+constexpr char TextSuchAs[] = "@$@#tvx@$@#GENERAL@$@#50@$@#text, such as %1";
+constexpr char YesOrNo[] = "@$@#tvx@$@#GENERAL@$@#51@$@#yes or no";
+constexpr char Any[] = "@$@#tvx@$@#GENERAL@$@#52@$@#any";
+constexpr char Carried[] = "@$@#tvx@$@#GENERAL@$@#53@$@#carried";
+constexpr char Yes[] = "@$@#tvx@$@#GENERAL@$@#54@$@#yes";
+constexpr char No[] = "@$@#tvx@$@#GENERAL@$@#55@$@#no";
+constexpr char Range[] = "@$@#tvx@$@#GENERAL@$@#56@$@#%1 to %2";
+constexpr char More[] = "@$@#tvx@$@#GENERAL@$@#57@$@#%1 more";
+constexpr char Default[] = "@$@#tvx@$@#GENERAL@$@#58@$@#default %1";
+
 } // namespace texts
 
 /// Returns the text of a key in the user's language.

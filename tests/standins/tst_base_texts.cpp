@@ -4,11 +4,18 @@
 #include <QPushButton>
 #include <QTest>
 
-/// The only service that the base dialog calls.
+// The only services that the base dialog calls.
 const char *gen__torvex_cur_units_str(int, int)
 {
     return "";
 }
+
+int gen__torvex_get_str_units(const char *)
+{
+    return -1;
+}
+
+void gen__torvex_units_convert_2(float *, int, int) {}
 
 class EmptyDialog : public TvxAttributesSelectionDialog
 {

@@ -1,0 +1,151 @@
+#include "tvx/cell_hints.h"
+
+#include "tvx/attribute_facts.h"
+#include "tvx/attribute_item.h"
+#include "tvx/attribute_table.h"
+#include "tvx/muted_colour.h"
+#include "tvx/tvx_texts.h"
+
+#include <QPainter>
+#include <QSignalBlocker>
+#include <QStyle>
+
+#include <algorithm>
+
+namespace Zudunmaf
+{
+namespace tvx
+{
+
+namespace
+{
+
+bool isBoolean(const QTableWidgetItem &item)
+{
+    return item.data(DmlAttrTypeRole).toInt() == DmlAttrBoolean;
+}
+
+void setSpoken(QTableWidgetItem *item, int role, const QString &text)
+{
+    if (item && item->data(role).toString() != text)
+        item->setData(role, text.isEmpty() ? QVariant() : QVariant(text));
+}
+
+} // namespace
+
+CellHints::CellHints(AttributeTable *table, Kind kind)
+    : m_table(table)
+    , m_kind(kind)
+    , m_hasScreenReader(QAccessible::isActive())
+{
+    QAccessible::installActivationObserver(this);
+}
+
+CellHints::~CellHints()
+{
+    QAccessible::removeActivationObserver(this);
+}
+
+void CellHints::accessibilityActiveChanged(bool active)
+{
+    m_hasScreenReader = active;
+    m_table->viewport()->update();
+}
+
+AttributeFacts CellHints::factsOf(int row) const
+{
+    return AttributeFacts(*m_table->rowItem(row), m_displayUnits);
+}
+
+CellHints::Hint CellHints::hintOf(const QTableWidgetItem &value) const
+{
+    if (!definitionOf(value))
+        return {};
+    const AttributeFacts facts(value, m_displayUnits);
+    if (!value.text().isEmpty())
+        return {QString(), facts.taken()};
+    if (m_kind == Available)
+        return {facts.taken(), QString()};
+    const bool isAny = isCondition(value) && !isBoolean(value);
+    return {emptyChosenText(value, facts), isAny ? facts.taken() : QString()};
+}
+
+QString CellHints::emptyChosenText(const QTableWidgetItem &value, const AttributeFacts &facts) const
+{
+    if (isCondition(value))
+        return textOf(isBoolean(value) ? texts::Carried : texts::Any);
+    if (isBoolean(value))
+        return textOf(value.data(DmlAttrValueRole).toBool() ? texts::Yes : texts::No);
+    return facts.taken();
+}
+
+void CellHints::paint() const
+{
+    const int height = m_table->viewport()->height();
+    int row = m_table->rowAt(0);
+    if (row < 0)
+        return;
+    QPainter painter(m_table->viewport());
+    // A range of numbers keeps its order in a layout from right to left.
+    painter.setLayoutDirection(Qt::LayoutDirectionAuto);
+    // By position, because any number of hidden rows may lie between two visible ones.
+    for (int y = m_table->rowViewportPosition(row); row >= 0 && y < height; row = m_table->rowAt(y)) {
+        paintRow(&painter, row);
+        updateSpokenText(row);
+        y += std::max(1, m_table->rowHeight(row));
+    }
+}
+
+void CellHints::paintRow(QPainter *painter, int row) const
+{
+    const QTableWidgetItem *value = m_table->rowItem(row);
+    const QModelIndex index = m_table->model()->index(row, AttributeTable::ValueColumn);
+    if (!value || m_table->indexWidget(index))
+        return;
+    const bool isSelected = m_table->selectionModel()->isSelected(index);
+    const QPalette::ColorGroup group = m_table->isActiveWindow() ? QPalette::Active : QPalette::Inactive;
+    painter->setPen(mutedColour(m_table->palette(), group, isSelected));
+    paintHint(painter, m_table->visualRect(index), value->text(), hintOf(*value));
+}
+
+void CellHints::paintHint(QPainter *painter, const QRect &area, const QString &cell, const Hint &hint) const
+{
+    const int margin = m_table->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, m_table) + 1;
+    const QRect inner = area.adjusted(margin, 0, -margin, 0);
+    const QFontMetrics metrics = m_table->fontMetrics();
+    const auto flags = [this](Qt::Alignment side) {
+        return int(QStyle::visualAlignment(m_table->layoutDirection(), side | Qt::AlignVCenter)) |
+               Qt::TextSingleLine;
+    };
+    const QString shown = cell + hint.start;
+    int width = metrics.horizontalAdvance(shown);
+    if (!hint.start.isEmpty()) {
+        const QString text = width > inner.width()
+                                 ? metrics.elidedText(hint.start, Qt::ElideRight, inner.width())
+                                 : hint.start;
+        painter->drawText(inner, flags(Qt::AlignLeading), text);
+    }
+    width += 2 * metrics.averageCharWidth() + metrics.horizontalAdvance(hint.end);
+    if (!hint.end.isEmpty() && width <= inner.width())
+        painter->drawText(inner, flags(Qt::AlignTrailing), hint.end);
+}
+
+void CellHints::updateSpokenText(int row) const
+{
+    QTableWidgetItem *value = m_hasScreenReader ? m_table->rowItem(row) : nullptr;
+    if (!value)
+        return;
+    const QSignalBlocker blocker(m_table->model());
+    const QString cell = value->text();
+    const Hint hint = hintOf(*value);
+    setSpoken(value, Qt::AccessibleTextRole, hint.start);
+    setSpoken(value, Qt::AccessibleDescriptionRole, hint.end);
+    // The current cell is that of the name.
+    QStringList spoken = {cell + hint.start, hint.end};
+    spoken.removeAll(QString());
+    setSpoken(m_table->item(row, AttributeTable::NameColumn), Qt::AccessibleDescriptionRole,
+              spoken.join(QStringLiteral(", ")));
+}
+
+} // namespace tvx
+} // namespace Zudunmaf

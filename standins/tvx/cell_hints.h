@@ -1,0 +1,64 @@
+#ifndef TVX_CELL_HINTS_H
+#define TVX_CELL_HINTS_H
+
+#include <QAccessible>
+#include <QRect>
+#include <QString>
+
+class QPainter;
+class QTableWidgetItem;
+
+namespace Zudunmaf
+{
+namespace tvx
+{
+
+class AttributeFacts;
+class AttributeTable;
+
+/// The hints in the value column: what an attribute takes. Painted over the cells in a muted colour, so that copies,
+/// sorting and result lines have none of it. Owned by the table, which calls paint() after it has painted its cells.
+///
+/// For a screen reader, rows on the screen have the hints as accessible data of their items. The data is set without a
+/// signal, and only while a screen reader runs.
+class CellHints : private QAccessible::ActivationObserver
+{
+public:
+    enum Kind { Available, Chosen };
+
+    CellHints(AttributeTable *table, Kind kind);
+    ~CellHints() override;
+
+    /// Sets the units of values whose cells are empty.
+    void setDisplayUnits(int units) { m_displayUnits = units; }
+    /// Returns what is said of the attribute in a row, which must have a value item.
+    AttributeFacts factsOf(int row) const;
+
+    void paint() const;
+    /// Updates what a screen reader reads of a row. Does nothing if none runs, or if the row is out of range.
+    void updateSpokenText(int row) const;
+
+private:
+    Q_DISABLE_COPY(CellHints)
+
+    struct Hint {
+        QString start; ///< Replaces the text of an empty cell.
+        QString end;   ///< At the far edge of the cell, if there is room.
+    };
+
+    void accessibilityActiveChanged(bool active) override;
+    Hint hintOf(const QTableWidgetItem &value) const;
+    QString emptyChosenText(const QTableWidgetItem &value, const AttributeFacts &facts) const;
+    void paintRow(QPainter *painter, int row) const;
+    void paintHint(QPainter *painter, const QRect &area, const QString &cell, const Hint &hint) const;
+
+    AttributeTable *m_table;
+    Kind m_kind;
+    int m_displayUnits = -1;
+    bool m_hasScreenReader;
+};
+
+} // namespace tvx
+} // namespace Zudunmaf
+
+#endif

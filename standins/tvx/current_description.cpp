@@ -1,0 +1,70 @@
+#include "tvx/current_description.h"
+
+#include "tvx/attribute_facts.h"
+#include "tvx/available_table.h"
+#include "tvx/chosen_table.h"
+#include "tvx/description_label.h"
+#include "tvx/number_entry.h"
+#include "tvx/selection_widgets.h"
+#include "tvx/tvx_texts.h"
+
+#include <QAbstractSpinBox>
+
+namespace Zudunmaf
+{
+namespace tvx
+{
+
+CurrentDescription::CurrentDescription(const SelectionWidgets &widgets)
+    : m_widgets(widgets)
+{
+}
+
+void CurrentDescription::show() const
+{
+    const ChosenTable *chosen = m_widgets.chosenList;
+    // focusWidget() of the window keeps its answer while a menu is open.
+    const bool inChosen = chosen->openEditor() || chosen->window()->focusWidget() == chosen;
+    const AttributeTable *table = chosen;
+    if (!inChosen)
+        table = m_widgets.topView;
+    const QString notice = chosen->lastRefusal();
+    if (!table->rowItem(table->currentRow())) {
+        m_widgets.description->setLines(QString(), notice, QString());
+        return;
+    }
+    const AttributeFacts facts = table->hints().factsOf(table->currentRow());
+    QStringList title = facts.title();
+    if (!notice.isEmpty()) {
+        m_widgets.description->setLines(QString(), notice, joinedFacts(title << details(facts)));
+        return;
+    }
+    const QString names = joinedFacts(title);
+    const auto emphasized = title.value(0).size();
+    m_widgets.description->setLines(names.left(emphasized), names.mid(emphasized), details(facts));
+}
+
+QString CurrentDescription::details(const AttributeFacts &facts) const
+{
+    const QString limits = limitsOfEditor(facts);
+    if (limits.isEmpty())
+        return joinedFacts(facts.facts());
+    return joinedFacts(QStringList{limits} + facts.factsWithoutLimits());
+}
+
+QString CurrentDescription::limitsOfEditor(const AttributeFacts &facts) const
+{
+    const QWidget *editor = m_widgets.chosenList->openEditor();
+    if (!editor)
+        return QString();
+    const auto *box = qobject_cast<const QAbstractSpinBox *>(editor);
+    if (!box)
+        box = editor->findChild<QAbstractSpinBox *>();
+    if (!box)
+        return QString();
+    const NumberEntry entry(*box);
+    return textOf(texts::Limits).arg(entry.minimum(), facts.withUnits(entry.maximum()));
+}
+
+} // namespace tvx
+} // namespace Zudunmaf

@@ -1,0 +1,144 @@
+#include "dialog_test.h"
+
+#include <QAccessible>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Zudunmaf;
+
+/// What the dialog says of attributes: hints in cells, for eye and screen reader, and the description.
+class HintsTest : public DialogTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cellsSayWhatTheyTake_data()
+    {
+        QTest::addColumn<QStringList>("available");
+        QTest::addColumn<QStringList>("chosen");
+        const auto row = [](const char *name, const QStringList &available, const QStringList &chosen) {
+            QTest::newRow(name) << available << chosen;
+        };
+        row("plated", {"yes or no", "yes or no"}, {"carried", "yes"});
+        row("note", {"text", "none | text"}, {"any | text", "none | text"});
+        row("colour", {"text, such as red, green", "blue | text, such as red, green"},
+            {"any | text, such as red, green", "blue | text, such as red, green"});
+        row("grade", {"low, high", "low, high"}, {"any | low, high", "low, high"});
+        row("width", {"1 to 100", "7 | 1 to 100"}, {"any | 1 to 100", "7 | 1 to 100"});
+        row("depth", {"-100 to 2000 mm", "0.500 | -100 to 2000 mm"},
+            {"any | -100 to 2000 mm", "0.500 | -100 to 2000 mm"});
+        row(LongName, {"integer", "0 | integer"}, {"any | integer", "0 | integer"});
+    }
+    void cellsSayWhatTheyTake()
+    {
+        QFETCH(QStringList, available);
+        QFETCH(QStringList, chosen);
+        const QString name = QTest::currentDataTag();
+        const int dialogIndex = inFilter() ? 0 : 1;
+        click(topView, name);
+        QCOMPARE(spoken(topView, name), available[dialogIndex]);
+        press(Qt::Key_Return);
+        QCOMPARE(spoken(chosenList, name), chosen[dialogIndex]);
+    }
+
+    void entriesAreNotHiddenByHints()
+    {
+        choose({"width", "depth"});
+        enter("width", pick("5\t9", "5"));
+        QCOMPARE(spoken(chosenList, "width"), pick("5 to 9 | 1 to 100", "5 | 1 to 100"));
+        const auto *name = cellAt(chosenList, "width", Name);
+        QCOMPARE(name->text(QAccessible::Description), pick("5 to 9, 1 to 100", "5, 1 to 100"));
+        // The units of a value are those of its cell, which is filled again only in the available table.
+        dialog->setDisplayUnits(0);
+        click(topView, pick("depth", "note"));
+        QCOMPARE(spoken(chosenList, "depth"), pick("any | -100 to 2000 mm", "0.500 | -100 to 2000 mm"));
+        click(chosenList, "depth");
+        press(Qt::Key_Delete);
+        click(topView, "depth");
+        QCOMPARE(spoken(topView, "depth"), pick("-100 to 2000 mm", "0.020 inch | -3.937 to 78.74 inch"));
+        QVERIFY(description->text().contains(pick("-100 to 2000 mm", "-3.937 to 78.74 inch")));
+        QVERIFY(description->text().endsWith(pick("default 0.5 mm", "default 0.02 inch")));
+    }
+
+    void hintsAreMutedAndReadable_data() { addWays({"light", "dark", "light selected", "dark selected"}); }
+    void hintsAreMutedAndReadable()
+    {
+        const bool isDark = way().startsWith("dark");
+        QPalette palette = topView->palette();
+        palette.setColor(QPalette::Base, isDark ? QColor(30, 30, 30) : QColor(Qt::white));
+        palette.setColor(QPalette::AlternateBase, isDark ? QColor(45, 45, 45) : QColor(240, 240, 240));
+        palette.setColor(QPalette::Text, isDark ? Qt::white : Qt::black);
+        palette.setColor(QPalette::Highlight, QColor(0, 60, 120));
+        palette.setColor(QPalette::HighlightedText, Qt::white);
+        topView->setPalette(palette);
+        QFont font = topView->font();
+        font.setPointSize(28);
+        topView->setFont(font);
+        topView->setCurrentItem(nullptr);
+        if (way().endsWith("selected"))
+            click(topView, "plated");
+        topView->setFocusPolicy(Qt::NoFocus);
+        const double hint = contrastIn(cellRect(topView, "plated", Value));
+        const double name = contrastIn(cellRect(topView, "plated", Name));
+        QVERIFY2(hint >= 4.5 && hint < 0.8 * name, qPrintable(QString("%1 %2").arg(hint).arg(name)));
+    }
+
+    void currentRowIsDescribedInTwoLines()
+    {
+        click(topView, "width");
+        QCOMPARE(description->text(),
+                 QString("Width of it  \u00b7  width\ninteger  \u00b7  1 to 100  \u00b7  default 7"));
+        QCOMPARE(description->toolTip(), description->text());
+        click(topView, "grade");
+        QCOMPARE(description->text(), QString("grade  \u00b7  Board\noption  \u00b7  low, high"));
+        choose({"depth"});
+        press(Qt::Key_F2);
+        QCOMPARE(description->text(),
+                 QString("depth\nAllowed: -100.000 to 2000.000 mm  \u00b7  float  \u00b7  default 0.5 mm"));
+    }
+
+private:
+    static const QAccessibleInterface *cellAt(QTableWidget *table, const QString &attribute, int column)
+    {
+        table->scrollToItem(table->item(rowOf(table, attribute), Name));
+        QAccessible::setActive(true); // the dialog behaves as with a screen reader
+        table->grab();
+        auto *cells = QAccessible::queryAccessibleInterface(table)->tableInterface();
+        return cells->cellAt(rowOf(table, attribute), column);
+    }
+
+    /// The text and the description of a value cell.
+    static QString spoken(QTableWidget *table, const QString &attribute)
+    {
+        const auto *cell = cellAt(table, attribute, Value);
+        QStringList texts = {cell->text(QAccessible::Name), cell->text(QAccessible::Description)};
+        texts.removeAll(QString());
+        return texts.join(" | ");
+    }
+
+    /// The greatest contrast between a pixel of the area and its upper left corner, as WCAG 2 defines it.
+    double contrastIn(const QRect &area) const
+    {
+        const auto luminance = [](const QColor &colour) {
+            const auto linear = [](double part) {
+                return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+            };
+            return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+                   0.0722 * linear(colour.blueF()) + 0.05;
+        };
+        const QImage image = topView->viewport()->grab(area.adjusted(2, 2, -2, -2)).toImage();
+        const double back = luminance(image.pixelColor(0, 0));
+        double greatest = 1;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                const double front = luminance(image.pixelColor(x, y));
+                greatest = std::max({greatest, front / back, back / front});
+            }
+        }
+        return greatest;
+    }
+};
+
+QTEST_MAIN(HintsTest)
+#include "tst_hints.moc"
