@@ -283,6 +283,7 @@ void AttributeTable::resizeEvent(QResizeEvent *event)
 {
     QTableWidget::resizeEvent(event);
     m_nameColumnWidth->apply();
+    m_emptyText.place();
 }
 
 void AttributeTable::startDrag(Qt::DropActions)

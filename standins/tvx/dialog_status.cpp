@@ -4,7 +4,6 @@
 #include "tvx/available_table.h"
 #include "tvx/change_history.h"
 #include "tvx/chosen_table.h"
-#include "tvx/filter_criteria.h"
 #include "tvx/live_preview.h"
 #include "tvx/selection_widgets.h"
 #include "tvx/tvx_texts.h"
@@ -44,10 +43,8 @@ void setText(QLabel *label, const QString &text)
 
 } // namespace
 
-DialogStatus::DialogStatus(const SelectionWidgets &widgets, const FilterCriteria &criteria,
-                           const ChangeHistory &history)
+DialogStatus::DialogStatus(const SelectionWidgets &widgets, const ChangeHistory &history)
     : m_widgets(widgets)
-    , m_criteria(criteria)
     , m_history(history)
     , m_description(widgets)
 {
@@ -85,7 +82,6 @@ void DialogStatus::updateTexts() const
 {
     AvailableTable *top = m_widgets.topView;
     ChosenTable *chosen = m_widgets.chosenList;
-    top->emptyText().setText(emptyAvailableText());
     describe(top, top->emptyText().shownText());
     describe(chosen,
              chosen->lastRefusal().isEmpty() ? chosen->emptyText().shownText() : chosen->lastRefusal());
@@ -93,15 +89,6 @@ void DialogStatus::updateTexts() const
     m_description.show();
     const QString line = currentResultLine(*chosen);
     setText(m_widgets.preview, line.isEmpty() ? QString() : textOf(texts::PreviewLine).arg(line));
-}
-
-QString DialogStatus::emptyAvailableText() const
-{
-    if (m_criteria.dictionary() < 0)
-        return textOf(texts::NoDictionary);
-    if (m_criteria.isFillMissing() && m_widgets.topView->rowCount() == 0)
-        return textOf(texts::NotRead);
-    return textOf(m_criteria.isNarrowed() ? texts::NothingMatches : texts::NothingLeft);
 }
 
 } // namespace tvx

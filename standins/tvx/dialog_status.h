@@ -3,25 +3,21 @@
 
 #include "tvx/current_description.h"
 
-#include <QString>
-
 namespace Zudunmaf
 {
 namespace tvx
 {
 
 class ChangeHistory;
-class FilterCriteria;
 class SelectionWidgets;
 
-/// Updates everything that follows from the state of the dialog: counts, enabled buttons, description, result line and
-/// the texts of empty tables. Moves the focus off a button that becomes disabled, and changes no other state. Owned by
-/// the controller; its arguments must outlive it.
+/// Updates everything that follows from the state of the dialog: counts, enabled buttons, description and result line.
+/// Moves the focus off a button that becomes disabled, and changes no other state. Owned by the controller; its arguments
+/// must outlive it.
 class DialogStatus
 {
 public:
-    DialogStatus(const SelectionWidgets &widgets, const FilterCriteria &criteria,
-                 const ChangeHistory &history);
+    DialogStatus(const SelectionWidgets &widgets, const ChangeHistory &history);
 
     void update() const;
 
@@ -29,10 +25,8 @@ private:
     void updateCounts() const;
     void updateButtons() const;
     void updateTexts() const;
-    QString emptyAvailableText() const;
 
     const SelectionWidgets &m_widgets;
-    const FilterCriteria &m_criteria;
     const ChangeHistory &m_history;
     CurrentDescription m_description;
 };

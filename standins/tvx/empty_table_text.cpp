@@ -1,13 +1,24 @@
 #include "tvx/empty_table_text.h"
 
 #include "tvx/attribute_table.h"
+#include "tvx/muted_colour.h"
 
 #include <QPainter>
+
+#include <algorithm>
 
 namespace Zudunmaf
 {
 namespace tvx
 {
+
+namespace
+{
+
+/// Between the text and the button.
+constexpr int Margin = 6;
+
+} // namespace
 
 EmptyTableText::EmptyTableText(AttributeTable *table)
     : m_table(table)
@@ -16,10 +27,42 @@ EmptyTableText::EmptyTableText(AttributeTable *table)
 
 void EmptyTableText::setText(const QString &text)
 {
-    if (text == m_text)
+    if (text != m_text) {
+        m_text = text;
+        m_table->viewport()->update();
+    }
+    place();
+}
+
+void EmptyTableText::setButton(QWidget *button)
+{
+    m_button = button;
+    button->setParent(m_table->viewport());
+    button->hide();
+}
+
+void EmptyTableText::place() const
+{
+    if (!m_button || m_button->isHidden())
         return;
-    m_text = text;
-    m_table->viewport()->update();
+    const QRect viewport = m_table->viewport()->rect();
+    QRect area(QPoint(), m_button->sizeHint().boundedTo(viewport.size()));
+    area.moveCenter(viewport.center());
+    area.moveTop(textArea().bottom() + Margin);
+    m_button->setGeometry(area);
+}
+
+/// Returns the rectangle of the text; the button, if it is shown, is below it.
+QRect EmptyTableText::textArea() const
+{
+    const int side = m_table->fontMetrics().height();
+    const QRect room = m_table->viewport()->rect().adjusted(side, 0, -side, 0);
+    QRect area = m_table->fontMetrics().boundingRect(room, Qt::AlignCenter | Qt::TextWordWrap, m_text);
+    if (m_button && !m_button->isHidden()) {
+        const int height = area.height() + Margin + m_button->sizeHint().height();
+        area.moveTop(std::max(0, room.center().y() - height / 2));
+    }
+    return area;
 }
 
 QString EmptyTableText::shownText() const
@@ -33,10 +76,8 @@ void EmptyTableText::paint() const
     if (text.isEmpty())
         return;
     QPainter painter(m_table->viewport());
-    painter.setPen(m_table->palette().color(QPalette::PlaceholderText));
-    const int margin = m_table->fontMetrics().height();
-    painter.drawText(m_table->viewport()->rect().adjusted(margin, 0, -margin, 0),
-                     Qt::AlignCenter | Qt::TextWordWrap, text);
+    painter.setPen(mutedColour(m_table->palette(), QPalette::Active, false));
+    painter.drawText(textArea(), Qt::AlignHCenter | Qt::TextWordWrap, text);
 }
 
 } // namespace tvx

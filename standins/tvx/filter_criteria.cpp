@@ -74,8 +74,12 @@ QString FilterCriteria::text() const
 
 bool FilterCriteria::isNarrowed() const
 {
-    return m_entityList->currentIndex() != m_entityList->count() - 1 || m_groupList->currentIndex() > 0 ||
-           !text().isEmpty();
+    return isNarrowedByList() || !text().isEmpty();
+}
+
+bool FilterCriteria::isNarrowedByList() const
+{
+    return m_entityList->currentIndex() != m_entityList->count() - 1 || m_groupList->currentIndex() > 0;
 }
 
 void FilterCriteria::rememberFill()

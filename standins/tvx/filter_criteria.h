@@ -38,6 +38,10 @@ public:
 
     /// Returns false only if every attribute is available: last entity row, first group row, no text.
     bool isNarrowed() const;
+    /// Returns true if an entity or a group is selected, and not all of them.
+    bool isNarrowedByList() const;
+    /// Returns true if the last fill may have left attributes out.
+    bool wasFillNarrowed() const { return m_wasNarrowedAtFill; }
     /// Must be called when the available table was filled under the present criteria.
     void rememberFill();
     /// Must be called when a fill is due. rememberFill() follows unless the dialog cannot read its attributes.

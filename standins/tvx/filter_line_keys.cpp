@@ -48,7 +48,10 @@ bool FilterLineKeys::filterKey(QKeyEvent *event)
     case Qt::Key_Return:
     case Qt::Key_Enter:
         if (!event->isAutoRepeat()) {
-            m_mover->addSelected();
+            if (m_available->visibleRowCount() > 0)
+                m_mover->addSelected();
+            else
+                Q_EMIT enteredWithoutRows();
             // So that the next letter starts a new search.
             m_line->selectAll();
         }

@@ -24,6 +24,10 @@ class FilterLineKeys : public QObject
 public:
     FilterLineKeys(QLineEdit *line, AvailableTable *available, RowMover *mover, QObject *parent);
 
+Q_SIGNALS:
+    /// Emitted when Enter is pressed while the available table has no visible row.
+    void enteredWithoutRows();
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 

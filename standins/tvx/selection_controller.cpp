@@ -4,6 +4,7 @@
 #include "tvx/batch_update.h"
 #include "tvx/change_history.h"
 #include "tvx/chosen_table.h"
+#include "tvx/empty_table_guide.h"
 #include "tvx/filter_line_keys.h"
 #include "tvx/name_column_width.h"
 #include "tvx/quick_entry.h"
@@ -32,10 +33,12 @@ SelectionController::SelectionController(int did, TvxAttributesSelectionDialog *
     , m_criteria(did, m_widgets)
     , m_history(new ChangeHistory(m_widgets.chosenList, this))
     , m_mover(new RowMover(dialog, m_widgets.topView, m_widgets.chosenList, m_history, this))
-    , m_status(m_widgets, m_criteria, *m_history)
+    , m_guide(new EmptyTableGuide(m_widgets, m_criteria, this))
+    , m_status(m_widgets, *m_history)
 {
     dialog->installEventFilter(this);
-    new FilterLineKeys(m_widgets.filterText, m_widgets.topView, m_mover, this);
+    auto *keys = new FilterLineKeys(m_widgets.filterText, m_widgets.topView, m_mover, this);
+    connect(keys, &FilterLineKeys::enteredWithoutRows, m_guide, &EmptyTableGuide::showFirstMatch);
     new QuickEntry(m_widgets, m_mover, this);
     m_widgets.entityList->installEventFilter(this);
     m_widgets.groupList->installEventFilter(this);
@@ -226,8 +229,10 @@ void SelectionController::fitToFont()
 
 void SelectionController::refresh()
 {
-    if (m_isConnected && !m_mover->isRemoving())
-        m_status.update();
+    if (!m_isConnected || m_mover->isRemoving())
+        return;
+    m_guide->update();
+    m_status.update();
 }
 
 } // namespace tvx

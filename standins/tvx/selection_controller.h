@@ -16,6 +16,7 @@ namespace tvx
 {
 
 class ChangeHistory;
+class EmptyTableGuide;
 class RowMover;
 
 /// Connects the parts of the base dialog, and runs the dialog's virtual functions when the criteria change. Owned by
@@ -68,6 +69,7 @@ private:
     FilterCriteria m_criteria;
     ChangeHistory *m_history;
     RowMover *m_mover;
+    EmptyTableGuide *m_guide;
     DialogStatus m_status;
     int m_displayUnits = -1;
     bool m_isConnected = false;

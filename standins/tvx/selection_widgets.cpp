@@ -99,6 +99,9 @@ void SelectionWidgets::createTables(QDialog *dialog)
 {
     topView = named(new AvailableTable(dialog), "topView", texts::Available);
     chosenList = named(new ChosenTable(dialog), "chosenList", texts::Chosen);
+    widenButton = button(dialog, "widenButton", texts::Widen, texts::WidenHint);
+    widenButton->setEnabled(true);
+    topView->emptyText().setButton(widenButton);
     chosenList->emptyText().setText(textOf(texts::NothingChosen));
 }
 
@@ -146,7 +149,8 @@ void SelectionWidgets::arrange(QDialog *dialog)
     layout->addLayout(ends);
 
     // Tab order defaults to creation order; make it match the layout.
-    QWidget::setTabOrder(topView, addButton);
+    QWidget::setTabOrder(topView, widenButton);
+    QWidget::setTabOrder(widenButton, addButton);
     QWidget::setTabOrder(clearButton, chosenList);
     QWidget::setTabOrder(chosenList, buttonBox->button(QDialogButtonBox::Ok));
 }

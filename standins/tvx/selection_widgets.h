@@ -34,6 +34,8 @@ public:
     QLineEdit *filterText;
     QLabel *availableLabel;
     AvailableTable *topView;
+    /// In the middle of an empty available table.
+    QPushButton *widenButton;
     QPushButton *addButton;
     QPushButton *removeButton;
     QPushButton *undoButton;

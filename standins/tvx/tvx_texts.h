@@ -81,6 +81,17 @@ constexpr char No[] = "@$@#tvx@$@#GENERAL@$@#55@$@#no";
 constexpr char Range[] = "@$@#tvx@$@#GENERAL@$@#56@$@#%1 to %2";
 constexpr char More[] = "@$@#tvx@$@#GENERAL@$@#57@$@#%1 more";
 constexpr char Default[] = "@$@#tvx@$@#GENERAL@$@#58@$@#default %1";
+constexpr char FoundElsewhere[] =
+    "@$@#tvx@$@#GENERAL@$@#60@$@#No match here. Other entities or groups have %2: %1.";
+constexpr char IsChosen[] = "@$@#tvx@$@#GENERAL@$@#61@$@#%1 is chosen already.";
+constexpr char AreChosen[] = "@$@#tvx@$@#GENERAL@$@#62@$@#%1 matching attributes are chosen already.";
+constexpr char NothingFound[] = "@$@#tvx@$@#GENERAL@$@#63@$@#No attribute matches \"%1\".";
+constexpr char ByDescription[] = "@$@#tvx@$@#GENERAL@$@#64@$@#By description: %1.";
+constexpr char ByName[] = "@$@#tvx@$@#GENERAL@$@#65@$@#By name: %1.";
+constexpr char EnterShowsFirst[] = "@$@#tvx@$@#GENERAL@$@#66@$@#Press Enter to show the first.";
+constexpr char Widen[] = "@$@#tvx@$@#GENERAL@$@#67@$@#&Widen to all entities and groups";
+constexpr char WidenHint[] = "@$@#tvx@$@#GENERAL@$@#68@$@#Show attributes that the criteria hide";
+constexpr char ShowFirst[] = "@$@#tvx@$@#GENERAL@$@#69@$@#Sho&w %1";
 
 } // namespace texts
 

@@ -209,7 +209,7 @@ private Q_SLOTS:
             for (const QString &text : markedTexts())
                 letters << QKeySequence::mnemonic(text).toString(QKeySequence::PortableText).right(1);
             QVERIFY2(!letters.contains(QString()), qPrintable(markedTexts().join(' ')));
-            QCOMPARE(int(letters.size()), 11);
+            QCOMPARE(int(letters.size()), 12);
             QVERIFY2(letters.removeDuplicates() == 0, qPrintable(markedTexts().join(' ')));
         }
         // Words that are equal in both languages, and labels of the dictionary.

@@ -98,6 +98,84 @@ private Q_SLOTS:
                  QString("depth\nAllowed: -100.000 to 2000.000 mm  \u00b7  float  \u00b7  default 0.5 mm"));
     }
 
+    void searchWithoutResultLeadsOn_data()
+    {
+        QTest::addColumn<QString>("group");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("reason");
+        QTest::addColumn<QString>("afterEnter");
+        QTest::addColumn<QString>("afterButton");
+        const QString enter = " Press Enter to show the first.";
+        QTest::newRow("other label") << "All Groups"
+                                     << "width of"
+                                     << "By description: width (Width of it)." + enter << "width"
+                                     << "width";
+        QTest::newRow("other label of another group")
+            << "Holes"
+            << "width of"
+            << "By description: width (Width of it)." + enter << "width"
+            << "";
+        QTest::newRow("another group")
+            << "Holes"
+            << "note"
+            << "No match here. Other entities or groups have 1: note." + enter << "note"
+            << "note";
+        QTest::newRow("several of another group")
+            << "Board"
+            << "pad_?1"
+            << "No match here. Other entities or groups have 4: pad_01, pad_11, pad_21, 1 more." + enter
+            << "pad_01"
+            << "pad_01 pad_11 pad_21 pad_31";
+        QTest::newRow("none") << "All Groups"
+                              << "%1 ["
+                              << "No attribute matches \"%1 [\"."
+                              << ""
+                              << "";
+    }
+    void searchWithoutResultLeadsOn()
+    {
+        QFETCH(QString, group);
+        QFETCH(QString, text);
+        QFETCH(QString, reason);
+        QFETCH(QString, afterEnter);
+        QFETCH(QString, afterButton);
+        auto *button = topView->findChild<QPushButton *>("widenButton");
+        for (const bool usesButton : {false, true}) {
+            QVERIFY(!button->isVisible());
+            groupList->setCurrentText(group);
+            setFilter(text);
+            QCOMPARE(topView->accessibleDescription(), reason);
+            QCOMPARE(button->isVisible(), reason.contains("Enter"));
+            if (!usesButton)
+                press(Qt::Key_Return);
+            else if (button->isVisible())
+                QVERIFY(pushButton(*button));
+            QCOMPARE(visibleNames(topView).join(' '), usesButton ? afterButton : afterEnter);
+            QVERIFY(filterText->hasFocus());
+            QVERIFY(results().isEmpty());
+            groupList->setCurrentIndex(0);
+            filterText->clear();
+        }
+    }
+
+    void chosenAttributesAreMissed()
+    {
+        choose({"note", "pad_07", "pad_17"});
+        setFilter("note");
+        QCOMPARE(topView->accessibleDescription(), pick("", "note is chosen already."));
+        setFilter("pad_?7");
+        topView->selectAll();
+        click(addButton);
+        QCOMPARE(topView->accessibleDescription(), pick("", "4 matching attributes are chosen already."));
+        // The rows that this fill leaves out are unknown.
+        setFilter("nothing has this");
+        groupList->setCurrentText("Pads");
+        dialog->setDisplayUnits(1);
+        QVERIFY(topView->accessibleDescription().startsWith("No attributes to choose here."));
+        click(topView->findChild<QPushButton *>("widenButton"));
+        QCOMPARE(topView->accessibleDescription(), QString("No attribute matches \"nothing has this\"."));
+    }
+
 private:
     static const QAccessibleInterface *cellAt(QTableWidget *table, const QString &attribute, int column)
     {
