@@ -3,6 +3,7 @@
 #include "tvx/attribute_facts.h"
 #include "tvx/attribute_item.h"
 #include "tvx/attribute_table.h"
+#include "tvx/chosen_counts.h"
 #include "tvx/muted_colour.h"
 #include "tvx/tvx_texts.h"
 
@@ -63,11 +64,12 @@ CellHints::Hint CellHints::hintOf(const QTableWidgetItem &value) const
         return {};
     const AttributeFacts facts(value, m_displayUnits);
     if (!value.text().isEmpty())
-        return {QString(), facts.taken()};
+        return {QString(), facts.taken(), 0};
     if (m_kind == Available)
-        return {facts.taken(), QString()};
+        return {facts.taken(), QString(),
+                m_counts && isCondition(value) ? m_counts->countOf(nameOf(value)) : 0};
     const bool isAny = isCondition(value) && !isBoolean(value);
-    return {emptyChosenText(value, facts), isAny ? facts.taken() : QString()};
+    return {emptyChosenText(value, facts), isAny ? facts.taken() : QString(), 0};
 }
 
 QString CellHints::emptyChosenText(const QTableWidgetItem &value, const AttributeFacts &facts) const
@@ -104,30 +106,50 @@ void CellHints::paintRow(QPainter *painter, int row) const
         return;
     const bool isSelected = m_table->selectionModel()->isSelected(index);
     const QPalette::ColorGroup group = m_table->isActiveWindow() ? QPalette::Active : QPalette::Inactive;
+    const int margin = m_table->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, m_table) + 1;
+    QRect area = m_table->visualRect(index).adjusted(margin, 0, -margin, 0);
+    const Hint hint = hintOf(*value);
+    if (hint.conditions > 0) {
+        painter->setPen(
+            m_table->palette().color(group, isSelected ? QPalette::HighlightedText : QPalette::Text));
+        area = paintMark(painter, area, hint.conditions);
+    }
     painter->setPen(mutedColour(m_table->palette(), group, isSelected));
-    paintHint(painter, m_table->visualRect(index), value->text(), hintOf(*value));
+    paintHint(painter, area, value->text(), hint);
+}
+
+/// Paints a tick and the number at the far edge. Returns the area that is left.
+QRect CellHints::paintMark(QPainter *painter, QRect area, int conditions) const
+{
+    const QString mark = QStringLiteral("\u2713 %1").arg(conditions);
+    painter->drawText(area, flags(Qt::AlignTrailing), mark);
+    const int width = m_table->fontMetrics().horizontalAdvance(mark + QLatin1String("  "));
+    if (m_table->isRightToLeft())
+        area.setLeft(area.left() + width);
+    else
+        area.setRight(area.right() - width);
+    return area;
+}
+
+int CellHints::flags(Qt::Alignment side) const
+{
+    return int(QStyle::visualAlignment(m_table->layoutDirection(), side | Qt::AlignVCenter)) |
+           Qt::TextSingleLine;
 }
 
 void CellHints::paintHint(QPainter *painter, const QRect &area, const QString &cell, const Hint &hint) const
 {
-    const int margin = m_table->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, m_table) + 1;
-    const QRect inner = area.adjusted(margin, 0, -margin, 0);
     const QFontMetrics metrics = m_table->fontMetrics();
-    const auto flags = [this](Qt::Alignment side) {
-        return int(QStyle::visualAlignment(m_table->layoutDirection(), side | Qt::AlignVCenter)) |
-               Qt::TextSingleLine;
-    };
     const QString shown = cell + hint.start;
     int width = metrics.horizontalAdvance(shown);
     if (!hint.start.isEmpty()) {
-        const QString text = width > inner.width()
-                                 ? metrics.elidedText(hint.start, Qt::ElideRight, inner.width())
-                                 : hint.start;
-        painter->drawText(inner, flags(Qt::AlignLeading), text);
+        const QString text =
+            width > area.width() ? metrics.elidedText(hint.start, Qt::ElideRight, area.width()) : hint.start;
+        painter->drawText(area, flags(Qt::AlignLeading), text);
     }
     width += 2 * metrics.averageCharWidth() + metrics.horizontalAdvance(hint.end);
-    if (!hint.end.isEmpty() && width <= inner.width())
-        painter->drawText(inner, flags(Qt::AlignTrailing), hint.end);
+    if (!hint.end.isEmpty() && width <= area.width())
+        painter->drawText(area, flags(Qt::AlignTrailing), hint.end);
 }
 
 void CellHints::updateSpokenText(int row) const
@@ -139,9 +161,10 @@ void CellHints::updateSpokenText(int row) const
     const QString cell = value->text();
     const Hint hint = hintOf(*value);
     setSpoken(value, Qt::AccessibleTextRole, hint.start);
-    setSpoken(value, Qt::AccessibleDescriptionRole, hint.end);
+    const QString end = hint.conditions > 0 ? textOf(texts::ChosenTimes).arg(hint.conditions) : hint.end;
+    setSpoken(value, Qt::AccessibleDescriptionRole, end);
     // The current cell is that of the name.
-    QStringList spoken = {cell + hint.start, hint.end};
+    QStringList spoken = {cell + hint.start, end};
     spoken.removeAll(QString());
     setSpoken(m_table->item(row, AttributeTable::NameColumn), Qt::AccessibleDescriptionRole,
               spoken.join(QStringLiteral(", ")));

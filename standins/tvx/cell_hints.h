@@ -15,6 +15,7 @@ namespace tvx
 
 class AttributeFacts;
 class AttributeTable;
+class ChosenCounts;
 
 /// The hints in the value column: what an attribute takes. Painted over the cells in a muted colour, so that copies,
 /// sorting and result lines have none of it. Owned by the table, which calls paint() after it has painted its cells.
@@ -31,6 +32,8 @@ public:
 
     /// Sets the units of values whose cells are empty.
     void setDisplayUnits(int units) { m_displayUnits = units; }
+    /// Marks attributes that have chosen conditions. The counts must outlive the object.
+    void setChosenCounts(ChosenCounts *counts) { m_counts = counts; }
     /// Returns what is said of the attribute in a row, which must have a value item.
     AttributeFacts factsOf(int row) const;
 
@@ -42,18 +45,22 @@ private:
     Q_DISABLE_COPY(CellHints)
 
     struct Hint {
-        QString start; ///< Replaces the text of an empty cell.
-        QString end;   ///< At the far edge of the cell, if there is room.
+        QString start;      ///< Replaces the text of an empty cell.
+        QString end;        ///< At the far edge of the cell, if there is room.
+        int conditions = 0; ///< Number of chosen conditions, which the far edge shows in place of `end`.
     };
 
     void accessibilityActiveChanged(bool active) override;
     Hint hintOf(const QTableWidgetItem &value) const;
     QString emptyChosenText(const QTableWidgetItem &value, const AttributeFacts &facts) const;
     void paintRow(QPainter *painter, int row) const;
+    QRect paintMark(QPainter *painter, QRect area, int conditions) const;
+    int flags(Qt::Alignment side) const;
     void paintHint(QPainter *painter, const QRect &area, const QString &cell, const Hint &hint) const;
 
     AttributeTable *m_table;
     Kind m_kind;
+    ChosenCounts *m_counts = nullptr;
     int m_displayUnits = -1;
     bool m_hasScreenReader;
 };

@@ -12,14 +12,6 @@ namespace Zudunmaf
 namespace tvx
 {
 
-namespace
-{
-
-/// Between the text and the button.
-constexpr int Margin = 6;
-
-} // namespace
-
 EmptyTableText::EmptyTableText(AttributeTable *table)
     : m_table(table)
 {
@@ -48,7 +40,7 @@ void EmptyTableText::place() const
     const QRect viewport = m_table->viewport()->rect();
     QRect area(QPoint(), m_button->sizeHint().boundedTo(viewport.size()));
     area.moveCenter(viewport.center());
-    area.moveTop(textArea().bottom() + Margin);
+    area.moveTop(textArea().bottom() + m_table->fontMetrics().height());
     m_button->setGeometry(area);
 }
 
@@ -59,7 +51,7 @@ QRect EmptyTableText::textArea() const
     const QRect room = m_table->viewport()->rect().adjusted(side, 0, -side, 0);
     QRect area = m_table->fontMetrics().boundingRect(room, Qt::AlignCenter | Qt::TextWordWrap, m_text);
     if (m_button && !m_button->isHidden()) {
-        const int height = area.height() + Margin + m_button->sizeHint().height();
+        const int height = area.height() + m_table->fontMetrics().height() + m_button->sizeHint().height();
         area.moveTop(std::max(0, room.center().y() - height / 2));
     }
     return area;

@@ -4,6 +4,7 @@
 #include "tvx/attribute_item.h"
 #include "tvx/batch_update.h"
 #include "tvx/change_history.h"
+#include "tvx/chosen_counts.h"
 #include "tvx/chosen_table.h"
 #include "tvx/history_steps.h"
 #include "tvx/tvx_texts.h"
@@ -73,7 +74,7 @@ void RowMover::addSelected()
     const std::vector<AvailableRow> selected = selectedAvailableRows();
     if (selected.empty())
         return;
-    const QHash<QString, QTableWidgetItem *> present = chosenValues();
+    const QHash<QString, QTableWidgetItem *> present = reusableRows();
     std::vector<ChosenRow> copies;
     std::vector<AvailableRow> added;
     QVector<QTableWidgetItem *> values;
@@ -256,6 +257,13 @@ bool RowMover::isOfDialogsKind(const QTableWidgetItem &item) const
     const QTableWidgetItem *chosen = m_chosen->rowItem(0);
     const QTableWidgetItem *known = chosen ? chosen : m_available->rowItem(0);
     return !known || nameOf(*known).isEmpty() || isCondition(*known) == isCondition(item);
+}
+
+/// Returns the chosen rows that an addition selects instead of adding another one.
+QHash<QString, QTableWidgetItem *> RowMover::reusableRows() const
+{
+    const QTableWidgetItem *first = m_chosen->rowItem(0);
+    return first && isCondition(*first) ? newestUnsetConditions(*m_chosen) : chosenValues();
 }
 
 /// Returns the chosen values by attribute; none in a dialog of conditions. All rows of a dialog are of one kind.

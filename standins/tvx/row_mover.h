@@ -34,7 +34,7 @@ public:
              ChangeHistory *history, QObject *parent);
 
     /// Adds a row for each selected available attribute, calls the add hook for each, and selects the rows. For an
-    /// attribute that has a value already, selects its row instead.
+    /// attribute that has a value already, or whose newest condition is not set, selects that row instead.
     void addSelected();
     /// Appends a row with copies of `item` and calls the add hook. Selects nothing. Returns false, and adds nothing, if
     /// the item has no attribute or is of another kind than those of the dialog, or if the attribute has a value
@@ -77,6 +77,7 @@ private:
     void callAddHook(const QString &name);
     void finishEditing();
     bool isOfDialogsKind(const QTableWidgetItem &item) const;
+    QHash<QString, QTableWidgetItem *> reusableRows() const;
     QHash<QString, QTableWidgetItem *> chosenValues() const;
     void rememberValues(const std::vector<ChosenRow> &rows);
 

@@ -3,6 +3,7 @@
 #include "gdm/dialogs/tvx_attributes_selection_dialog.h"
 #include "tvx/batch_update.h"
 #include "tvx/change_history.h"
+#include "tvx/chosen_counts.h"
 #include "tvx/chosen_table.h"
 #include "tvx/empty_table_guide.h"
 #include "tvx/filter_line_keys.h"
@@ -94,6 +95,12 @@ void SelectionController::connectTables()
     connect(top, &AvailableTable::rowsDropped, m_mover, &RowMover::removeSelected);
     connect(chosen->menu(), &RowMenu::triggered, this, &SelectionController::refresh);
 
+    auto *counts = new ChosenCounts(chosen);
+    top->hints().setChosenCounts(counts);
+    connect(m_mover, &RowMover::rowsMoved, top->viewport(), [top, counts] {
+        counts->invalidate();
+        top->viewport()->update();
+    });
     NameColumnWidth::link(top->nameColumnWidth(), chosen->nameColumnWidth());
     connect(top, &AvailableTable::rowsHiddenOrShown, this, &SelectionController::refresh);
     connect(top, &AvailableTable::itemSelectionChanged, this, &SelectionController::refresh);

@@ -92,6 +92,7 @@ constexpr char EnterShowsFirst[] = "@$@#tvx@$@#GENERAL@$@#66@$@#Press Enter to s
 constexpr char Widen[] = "@$@#tvx@$@#GENERAL@$@#67@$@#&Widen to all entities and groups";
 constexpr char WidenHint[] = "@$@#tvx@$@#GENERAL@$@#68@$@#Show attributes that the criteria hide";
 constexpr char ShowFirst[] = "@$@#tvx@$@#GENERAL@$@#69@$@#Sho&w %1";
+constexpr char ChosenTimes[] = "@$@#tvx@$@#GENERAL@$@#70@$@#chosen, conditions: %1";
 
 } // namespace texts
 

@@ -98,6 +98,28 @@ private Q_SLOTS:
                  QString("depth\nAllowed: -100.000 to 2000.000 mm  \u00b7  float  \u00b7  default 0.5 mm"));
     }
 
+    void chosenConditionsAreMarked()
+    {
+        if (!inFilter())
+            QSKIP("a chosen value has no available row");
+        choose({"width", "plated", "width", "plated"});
+        QCOMPARE(visibleNames(chosenList), QStringList({"width", "plated"}));
+        QCOMPARE(selectedNames(chosenList), QStringList("width"));
+        QCOMPARE(spoken(topView, "width"), QString("1 to 100 | chosen, conditions: 1"));
+        enter("width", "5\t9");
+        clickHeader(chosenList, Name);
+        choose({"width", "depth", "width"});
+        QCOMPARE(visibleNames(chosenList), QStringList({"depth", "plated", "width", "width"}));
+        QCOMPARE(spoken(topView, "width"), QString("1 to 100 | chosen, conditions: 2"));
+        const QRect cell = cellRect(topView, "width", Value);
+        const QRect mark(cell.right() - 40, cell.top(), 40, cell.height());
+        QVERIFY(contrastIn(mark) > 3);
+        topView->clearSelection();
+        click(clearButton);
+        QCOMPARE(spoken(topView, "width"), QString("1 to 100"));
+        QCOMPARE(contrastIn(mark), 1.0);
+    }
+
     void searchWithoutResultLeadsOn_data()
     {
         QTest::addColumn<QString>("group");

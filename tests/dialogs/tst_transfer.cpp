@@ -137,7 +137,7 @@ private Q_SLOTS:
         events.clear();
         topView->selectAll();
         click(addButton);
-        QCOMPARE(int(events.filter("+").size()), inFilter() ? 49 : 47);
+        QCOMPARE(int(events.filter("+").size()), inFilter() ? 48 : 47);
     }
 
     void hostAddsRows()

@@ -1,0 +1,54 @@
+#include "tvx/chosen_counts.h"
+
+#include "tvx/attribute_item.h"
+#include "tvx/attribute_table.h"
+#include "tvx/row_sorter.h"
+
+#include <numeric>
+
+namespace Zudunmaf
+{
+namespace tvx
+{
+
+ChosenCounts::ChosenCounts(AttributeTable *chosen)
+    : QObject(chosen)
+    , m_chosen(chosen)
+{
+    connect(chosen->model(), &QAbstractItemModel::rowsInserted, this, &ChosenCounts::invalidate);
+    connect(chosen->model(), &QAbstractItemModel::rowsRemoved, this, &ChosenCounts::invalidate);
+}
+
+int ChosenCounts::countOf(const QString &name)
+{
+    if (!m_isCounted) {
+        m_counts.clear();
+        const QList<QTableWidgetItem *> items = m_chosen->rowItems(false);
+        for (const QTableWidgetItem *item : items)
+            ++m_counts[nameOf(*item)];
+        m_isCounted = true;
+    }
+    return m_counts.value(name);
+}
+
+QHash<QString, QTableWidgetItem *> newestUnsetConditions(const AttributeTable &chosen)
+{
+    QVector<int> rows(chosen.rowCount());
+    std::iota(rows.begin(), rows.end(), 0);
+    const QVector<int> arrivalIndexes = chosen.sorter()->order().arrivalIndexesOf(rows);
+    QVector<QTableWidgetItem *> inOrderOfArrival(rows.size());
+    for (int row : rows)
+        inOrderOfArrival[arrivalIndexes[row]] = chosen.rowItem(row);
+
+    QHash<QString, QTableWidgetItem *> unset;
+    for (QTableWidgetItem *item : inOrderOfArrival) {
+        if (isCondition(*item) && !item->data(DmlAttrValueRole).isValid())
+            unset.insert(nameOf(*item), item);
+        else
+            unset.remove(nameOf(*item));
+    }
+    return unset;
+}
+
+} // namespace tvx
+} // namespace Zudunmaf
