@@ -212,12 +212,24 @@ QStyleOptionViewItem AttributeTable::viewOptions() const
         muteSelection(&option);
     return option;
 }
+
+QStyleOptionViewItem AttributeTable::cellOption() const
+{
+    return viewOptions();
+}
 #else
 void AttributeTable::initViewItemOption(QStyleOptionViewItem *option) const
 {
     QTableWidget::initViewItemOption(option);
     if (!hasKeyboard())
         muteSelection(option);
+}
+
+QStyleOptionViewItem AttributeTable::cellOption() const
+{
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    return option;
 }
 #endif
 

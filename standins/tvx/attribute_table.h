@@ -41,6 +41,8 @@ public:
     const CellHints &hints() const { return m_hints; }
     NameColumnWidth *nameColumnWidth() const { return m_nameColumnWidth; }
     RowSorter *sorter() const { return m_sorter; }
+    /// Returns the colours and the state that the cells are painted with.
+    QStyleOptionViewItem cellOption() const;
 
     int visibleRowCount() const;
     bool hasVisibleSelection() const;

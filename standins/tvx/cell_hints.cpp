@@ -87,34 +87,35 @@ void CellHints::paint() const
     int row = m_table->rowAt(0);
     if (row < 0)
         return;
+    const QStyleOptionViewItem cell = m_table->cellOption();
     QPainter painter(m_table->viewport());
     // A range of numbers keeps its order in a layout from right to left.
     painter.setLayoutDirection(Qt::LayoutDirectionAuto);
     // By position, because any number of hidden rows may lie between two visible ones.
     for (int y = m_table->rowViewportPosition(row); row >= 0 && y < height; row = m_table->rowAt(y)) {
-        paintRow(&painter, row);
+        paintRow(&painter, row, cell);
         updateSpokenText(row);
         y += std::max(1, m_table->rowHeight(row));
     }
 }
 
-void CellHints::paintRow(QPainter *painter, int row) const
+void CellHints::paintRow(QPainter *painter, int row, const QStyleOptionViewItem &cell) const
 {
     const QTableWidgetItem *value = m_table->rowItem(row);
     const QModelIndex index = m_table->model()->index(row, AttributeTable::ValueColumn);
     if (!value || m_table->indexWidget(index))
         return;
     const bool isSelected = m_table->selectionModel()->isSelected(index);
-    const QPalette::ColorGroup group = m_table->isActiveWindow() ? QPalette::Active : QPalette::Inactive;
+    const bool isActive = cell.state & QStyle::State_Active;
+    const QPalette::ColorGroup group = isActive ? QPalette::Active : QPalette::Inactive;
     const int margin = m_table->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, m_table) + 1;
     QRect area = m_table->visualRect(index).adjusted(margin, 0, -margin, 0);
     const Hint hint = hintOf(*value);
     if (hint.conditions > 0) {
-        painter->setPen(
-            m_table->palette().color(group, isSelected ? QPalette::HighlightedText : QPalette::Text));
+        painter->setPen(cell.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text));
         area = paintMark(painter, area, hint.conditions);
     }
-    painter->setPen(mutedColour(m_table->palette(), group, isSelected));
+    painter->setPen(mutedColour(cell.palette, group, isSelected));
     paintHint(painter, area, value->text(), hint);
 }
 

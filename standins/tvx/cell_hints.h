@@ -53,7 +53,7 @@ private:
     void accessibilityActiveChanged(bool active) override;
     Hint hintOf(const QTableWidgetItem &value) const;
     QString emptyChosenText(const QTableWidgetItem &value, const AttributeFacts &facts) const;
-    void paintRow(QPainter *painter, int row) const;
+    void paintRow(QPainter *painter, int row, const QStyleOptionViewItem &cell) const;
     QRect paintMark(QPainter *painter, QRect area, int conditions) const;
     int flags(Qt::Alignment side) const;
     void paintHint(QPainter *painter, const QRect &area, const QString &cell, const Hint &hint) const;

@@ -1,5 +1,7 @@
 #include "tvx/muted_colour.h"
 
+#include "tvx/mixed_colour.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -34,13 +36,6 @@ double contrast(const QColor &a, const QColor &b)
     return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
 }
 
-QColor mixed(const QColor &front, const QColor &back, double share)
-{
-    const auto part = [share](double a, double b) { return a * share + b * (1 - share); };
-    return QColor::fromRgbF(part(front.redF(), back.redF()), part(front.greenF(), back.greenF()),
-                            part(front.blueF(), back.blueF()));
-}
-
 } // namespace
 
 QColor mutedColour(const QPalette &palette, QPalette::ColorGroup group, bool isSelected)
@@ -49,7 +44,7 @@ QColor mutedColour(const QPalette &palette, QPalette::ColorGroup group, bool isS
     const QColor back = palette.color(group, isSelected ? QPalette::Highlight : QPalette::Base);
     const QColor otherBack = isSelected ? back : palette.color(group, QPalette::AlternateBase);
     for (double share = FirstShare; share < 1; share += ShareStep) {
-        const QColor colour = mixed(text, back, share);
+        const QColor colour = mixedColour(text, back, share);
         if (std::min(contrast(colour, back), contrast(colour, otherBack)) >= LeastContrast)
             return colour;
     }
