@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QStandardItemModel>
 
@@ -210,7 +211,8 @@ private Q_SLOTS:
 
     void rangeInPlainView_data()
     {
-        QTest::addColumn<QList<int>>("keys");    // after F2 on the cell; 0 is a click on a button
+        // Keys after F2 in column 1; 0 is a click on a button, 1 a click on the label of To.
+        QTest::addColumn<QList<int>>("keys");
         QTest::addColumn<QPoint>("stored");      // low and high bound; null if no condition is set
         QTest::addColumn<QString>("focusOwner"); // afterwards
 
@@ -220,8 +222,10 @@ private Q_SLOTS:
                                      << "table";
         QTest::newRow("Escape in To") << QList<int>{five, tab, nine, Qt::Key_Escape} << QPoint() << "table";
         QTest::newRow("back to From") << QList<int>{tab, nine, back, five, 0} << QPoint(5, 9) << "button";
-        QTest::newRow("Tab from To") << QList<int>{five, tab, nine, tab} << QPoint(5, 9) << "an editor";
-        QTest::newRow("Backtab from From") << QList<int>{five, back} << QPoint(5, 99) << "an editor";
+        QTest::newRow("Tab from To") << QList<int>{five, tab, nine, tab} << QPoint(5, 9)
+                                     << "editor of column 0";
+        QTest::newRow("Backtab from From") << QList<int>{five, back} << QPoint(5, 99) << "editor of column 0";
+        QTest::newRow("label") << QList<int>{five, tab, nine, 1} << QPoint() << "editor of column 1";
     }
 
     /// The simplest base that a host can have: a QTableWidget with the delegate in it.
@@ -229,27 +233,25 @@ private Q_SLOTS:
     {
         QFETCH(QList<int>, keys);
         const AttrFilterLWI *width = add<AttrFilterLWI>(integer("width", 1, 99, 7));
-        QTableWidget *table = host().chosen;
-        table->setItemDelegate(host().delegate);
         QPushButton button(m_dialog.get());
         button.move(300, 300);
-        m_dialog->resize(400, 400);
-        m_dialog->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
-        table->setFocus();
-        table->setCurrentCell(0, 1);
-
-        QTest::keyClick(table, Qt::Key_F2);
+        QTableWidget *table = openRange();
+        QVERIFY(table);
+        const QLabel *label = table->findChild<QLabel *>("label_To");
+        QVERIFY(label);
         for (int key : std::as_const(keys)) {
-            if (key)
-                QTest::keyClick(QApplication::focusWidget(), Qt::Key(key));
-            else
+            if (key == 0)
                 QTest::mouseClick(&button, Qt::LeftButton);
+            else if (key == 1) // through the window, which changes the focus as a user's click does
+                QTest::mouseClick(m_dialog->windowHandle(), Qt::LeftButton, {},
+                                  label->mapTo(m_dialog.get(), label->rect().center()));
+            else
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key(key));
             QCoreApplication::processEvents(); // the delegate ends an edit by a queued call on Enter
         }
         QTEST(width->data(DmlAttrValueRole).toPoint(), "stored");
         const QWidget *focus = QApplication::focusWidget();
-        QString owner = "an editor"; // Tab and Backtab open the next one
+        QString owner = QString("editor of column %1").arg(table->currentColumn());
         if (focus == &button)
             owner = "button";
         else if (focus == table)
@@ -257,7 +259,37 @@ private Q_SLOTS:
         QTEST(owner, "focusOwner");
     }
 
+    /// Boxes are deleted one after the other: the focus must have left the second before the first is deleted.
+    void rangeDeletedWhileInTo()
+    {
+        add<AttrFilterLWI>(integer("width", 1, 99, 7));
+        QTableWidget *table = openRange();
+        QVERIFY(table);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        const QPointer<QWidget> to = QApplication::focusWidget();
+        QCOMPARE(to->objectName(), QString("spinBox_To"));
+        table->setRowCount(0);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!to);
+    }
+
 private:
+    /// Shows the dialog with the delegate in its table, and presses F2 in column 1 of the first row. Returns null if the
+    /// dialog does not become the active window.
+    QTableWidget *openRange()
+    {
+        QTableWidget *table = host().chosen;
+        table->setItemDelegate(host().delegate);
+        table->resize(400, 200);
+        m_dialog->resize(400, 400);
+        m_dialog->show();
+        if (!QTest::qWaitForWindowActive(m_dialog.get()))
+            return nullptr;
+        table->setFocus();
+        table->setCurrentCell(0, 1);
+        QTest::keyClick(table, Qt::Key_F2);
+        return table;
+    }
     template <class Item>
     static Item *add(const DmlAttrDef &definition)
     {

@@ -28,27 +28,20 @@ bool RangeEditorFilter::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::KeyPress)
         return filterKey(watched, event, static_cast<QKeyEvent *>(event)->key());
-    if (event->type() == QEvent::FocusOut && !isFocusInside())
+    if (event->type() == QEvent::FocusIn)
+        m_editor->setFocusProxy(static_cast<QWidget *>(watched));
+    else if (event->type() == QEvent::FocusOut && !isFocusInside())
         passToDelegate(event);
     return false;
 }
 
 bool RangeEditorFilter::filterKey(const QObject *box, QEvent *event, int key)
 {
-    switch (key) {
-    case Qt::Key_Tab:
+    if (key == Qt::Key_Tab)
         return moveFocus(box, m_to, Qt::TabFocusReason, event);
-    case Qt::Key_Backtab:
+    if (key == Qt::Key_Backtab)
         return moveFocus(box, m_from, Qt::BacktabFocusReason, event);
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Escape:
-        // A view takes the focus back from the editor that it closes, but only from its focus proxy.
-        m_from->setFocus(Qt::OtherFocusReason);
-        return false;
-    default:
-        return false;
-    }
+    return false;
 }
 
 /// From the target itself, Tab ends the edit, as in an editor of one box.

@@ -14,10 +14,15 @@ namespace Zudunmaf
 ///
 /// A delegate filters the events of the editor itself, and these go to the boxes. Without this class a digit after F2 is
 /// lost, Tab never reaches the second box, and a click on OK closes the dialog without the range.
+///
+/// The focus proxy of the editor is its first box, then the box that has the focus. A view that closes an editor takes
+/// the focus back from its focus proxy only. From another box, hiding the editor moves the focus as Tab does, and the
+/// view goes one cell further. Deleting the editor would take the focus from a box after the other box is deleted.
 class RangeEditorFilter : public QObject
 {
 public:
-    /// Attaches a filter to the editor with these two boxes. Does nothing if it has one.
+    /// Attaches a filter to the editor with these two boxes. Does nothing if the editor has a focus proxy, as after the
+    /// first call.
     static void install(QWidget *editor, QAbstractSpinBox *from, QAbstractSpinBox *to);
 
 protected:
