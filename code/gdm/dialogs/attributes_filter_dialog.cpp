@@ -46,17 +46,17 @@ void AttributesFilterDialog::buildInitialLists()
 
 void AttributesFilterDialog::fillEntityList()
 {
-    TvxAttributesSelectionDialog::fillEntityList({
-        newEntity(keys::FilterEntityComponent, EntityComponent),
-        newEntity(keys::FilterEntityFeature, EntityFeature),
-        newEntity(keys::FilterEntityLayer, EntityLayer),
-        newEntity(keys::FilterEntityJob, EntityJob),
-        newEntity(keys::FilterEntityStep, EntityStep),
-        newEntity(keys::FilterEntityNet, EntityNet),
-        newEntity(keys::FilterEntitySymbol, EntitySymbol),
-        newEntity(keys::FilterEntityWheel, EntityWheel),
-        newEntity(keys::FilterEntityAll, EntityAll),
-    });
+    QList<TvxDataItem *> entities;
+    entities << newEntity(keys::FilterEntityComponent, EntityComponent);
+    entities << newEntity(keys::FilterEntityFeature, EntityFeature);
+    entities << newEntity(keys::FilterEntityLayer, EntityLayer);
+    entities << newEntity(keys::FilterEntityJob, EntityJob);
+    entities << newEntity(keys::FilterEntityStep, EntityStep);
+    entities << newEntity(keys::FilterEntityNet, EntityNet);
+    entities << newEntity(keys::FilterEntitySymbol, EntitySymbol);
+    entities << newEntity(keys::FilterEntityWheel, EntityWheel);
+    entities << newEntity(keys::FilterEntityAll, EntityAll);
+    TvxAttributesSelectionDialog::fillEntityList(entities);
 }
 
 void AttributesFilterDialog::fillGroupsList()

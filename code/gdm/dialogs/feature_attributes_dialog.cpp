@@ -12,15 +12,13 @@
 namespace Zudunmaf
 {
 
-constexpr DialogKind FeatureDialog = {
-    keys::FeatureAllGroupsRow,
-    keys::FeatureAllGroupsAtFill,
-    keys::FeatureAllGroupsAtFilter,
-    keys::FeatureEditValue,
-    keys::FeatureSetDefault,
-    EntityFeature,
-    HideChosenRows,
-};
+constexpr DialogKind FeatureDialog = {keys::FeatureAllGroupsRow,
+                                      keys::FeatureAllGroupsAtFill,
+                                      keys::FeatureAllGroupsAtFilter,
+                                      keys::FeatureEditValue,
+                                      keys::FeatureSetDefault,
+                                      EntityFeature,
+                                      HideChosenRows};
 
 FeatureAttributesDialog::FeatureAttributesDialog(int did, QWidget *parent, Qt::WindowFlags flags)
     : TvxAttributesSelectionDialog(did, parent, flags)
@@ -48,7 +46,9 @@ void FeatureAttributesDialog::buildInitialLists()
 
 void FeatureAttributesDialog::fillEntityList()
 {
-    TvxAttributesSelectionDialog::fillEntityList({newEntity(keys::FeatureEntityFeature, EntityFeature)});
+    QList<TvxDataItem *> entities;
+    entities << newEntity(keys::FeatureEntityFeature, EntityFeature);
+    TvxAttributesSelectionDialog::fillEntityList(entities);
 }
 
 void FeatureAttributesDialog::fillGroupsList()
