@@ -34,10 +34,12 @@ const char *const serviceNames[] = {
 /// A member function of TvxAttributesSelectionDialog in the encoding of the C++ ABI for symbol names. Pure
 /// virtual functions are the library's own, and those of Q_OBJECT are needed to load it.
 struct BaseFunction {
-    const char *qualifier; ///< "K" for a const function.
-    const char *name;      ///< With its length in front; C2 and D2 are constructor and destructor.
-    const char
-        *parameters; ///< "v" for none; "" for a const QStringList &, which varies with the version of Qt.
+    /// "K" for a const function.
+    const char *qualifier;
+    /// With its length in front; C2 and D2 are constructor and destructor.
+    const char *name;
+    /// "v" for none; "" for a const QStringList &, whose encoding depends on the version of Qt.
+    const char *parameters;
 };
 
 const BaseFunction baseFunctions[] = {
@@ -82,7 +84,7 @@ void addIfMissing(const char *symbol, QStringList *missing)
 {
     if (dlsym(RTLD_DEFAULT, symbol))
         return;
-    char *readable = abi::__cxa_demangle(symbol, 0, 0, 0);
+    char *readable = abi::__cxa_demangle(symbol, nullptr, nullptr, nullptr);
     missing->append(QString::fromLatin1(readable ? readable : symbol));
     std::free(readable);
 }

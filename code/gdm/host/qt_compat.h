@@ -5,7 +5,8 @@
 #include <QVariant>
 
 /// @file
-/// Differences between the versions of Qt. Nothing else in the library depends on the version. Internal: not installed.
+/// Differences between the versions of Qt. Nothing else in the library depends on the version, but for the check of the
+/// major version in gdm_qt.h. Internal: not installed.
 
 /// 1 if Qt has JSON. If not, the functions of gdm/conditions/attr_documents.h are not defined.
 #if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
