@@ -6,7 +6,8 @@
 namespace Zudunmaf
 {
 
-/// Number of decimals of a float in cells, lines and editors. Tool tips show all digits. Internal: not installed.
+/// Number of decimals of a float in cells, lines and editors. Tool tips show six significant digits. Internal: not
+/// installed.
 constexpr int FloatDecimals = 3;
 
 /// Returns the number as it is read back from a text with that many decimals.
