@@ -1,5 +1,7 @@
-// A minimal base dialog: two tables, two buttons, combo boxes for entity and group, a line edit for the filter text.
+// A minimal base dialog: two tables, two buttons, combo boxes for entity and group, a line edit for the filter text, OK and
+// Cancel.
 #include "gdm/dialogs/tvx_attributes_selection_dialog.h"
+#include "gdm/items/attr_roles.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -23,6 +25,7 @@ class TvxAttributesSelectionDialog::Private
 public:
     int did;
     int units = -1;
+    bool isNarrowed = false; // the top table was filled under a filter and lacks rows
     QComboBox *entities = new QComboBox;
     QComboBox *groups = new QComboBox;
     QLineEdit *filter = new QLineEdit;
@@ -40,12 +43,40 @@ public:
         table->setItem(row, 1, item->clone());
     }
 
-    static QList<QTableWidgetItem *> items(const QTableWidget *table)
+    static QList<QTableWidgetItem *> items(const QTableWidget *table, bool visibleOnly = false)
     {
         QList<QTableWidgetItem *> result;
-        for (int row = 0; row < table->rowCount(); ++row)
-            result << table->item(row, 1);
+        for (int row = 0; row < table->rowCount(); ++row) {
+            if (!visibleOnly || !table->isRowHidden(row))
+                result << table->item(row, 1);
+        }
         return result;
+    }
+
+    static QList<QTableWidgetItem *> selectedItems(const QTableWidget *table)
+    {
+        QList<QTableWidgetItem *> result;
+        for (QTableWidgetItem *item : items(table, true)) {
+            if (item->isSelected())
+                result << item;
+        }
+        return result;
+    }
+
+    static QTableWidgetItem *itemWithName(const QTableWidget *table, const QString &name)
+    {
+        for (QTableWidgetItem *item : items(table)) {
+            if (item->data(Zudunmaf::DmlAttrNameRole).toString() == name)
+                return item;
+        }
+        return nullptr;
+    }
+
+    // An attribute takes several conditions, but one value. Only items of conditions answer this role.
+    bool canBeAdded(const QTableWidgetItem *item) const
+    {
+        return item->data(Zudunmaf::DmlAttrFilterTextRole).isValid() ||
+               !itemWithName(chosen, item->data(Zudunmaf::DmlAttrNameRole).toString());
     }
 };
 
@@ -64,26 +95,40 @@ TvxAttributesSelectionDialog::TvxAttributesSelectionDialog(int did, QWidget *par
     d->top->setEditTriggers(QAbstractItemView::NoEditTriggers);
     for (QTableWidget *table : {d->top, d->chosen})
         table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    // Wide enough for the two boxes of a range.
+    d->chosen->horizontalHeader()->setStretchLastSection(true);
+    d->chosen->setContextMenuPolicy(Qt::CustomContextMenu);
 }
 
 void TvxAttributesSelectionDialog::connectSignal2Slots()
 {
-    const auto filter = [this] { filterAttributeList(); };
+    const auto filter = [this] {
+        // filterAttributeList() shows and hides rows, and cannot bring back one that a fill has left out.
+        if (d->isNarrowed)
+            setDisplayUnits(d->units);
+        filterAttributeList();
+    };
     connect(d->entities, QOverload<int>::of(&QComboBox::currentIndexChanged), this, filter);
     connect(d->groups, QOverload<int>::of(&QComboBox::currentIndexChanged), this, filter);
     connect(d->filter, &QLineEdit::textChanged, this, filter);
     connect(d->add, &QPushButton::clicked, this, [this] {
-        if (QTableWidgetItem *item = d->top->item(d->top->currentRow(), 1)) {
-            Private::append(d->chosen, item);
-            addButtonClickedCB(item);
+        // Collected first: the hook changes the selection.
+        for (QTableWidgetItem *item : Private::selectedItems(d->top)) {
+            if (d->canBeAdded(item)) {
+                Private::append(d->chosen, item);
+                addButtonClickedCB(item);
+            }
         }
     });
     connect(d->remove, &QPushButton::clicked, this, [this] {
-        const int row = d->chosen->currentRow();
-        if (QTableWidgetItem *item = d->chosen->item(row, 1)) {
-            removeButtonClickedCB(item);
-            d->chosen->removeRow(row);
+        for (QTableWidgetItem *item : Private::selectedItems(d->chosen)) {
+            removeButtonClickedCB(item); // reads the item
+            d->chosen->removeRow(item->row());
         }
+    });
+    connect(d->chosen, &QWidget::customContextMenuRequested, this, [this](const QPoint &position) {
+        if (d->menu && d->chosen->currentRow() >= 0)
+            d->menu->popup(d->chosen->viewport()->mapToGlobal(position));
     });
 }
 
@@ -98,9 +143,11 @@ void TvxAttributesSelectionDialog::fillEntityList(const QList<TvxDataItem *> &it
 
 void TvxAttributesSelectionDialog::fillAttributeList(const QList<QTableWidgetItem *> &items)
 {
-    d->top->setRowCount(0);
+    d->top->setRowCount(0); // a row that is used again would stay hidden
     for (const QTableWidgetItem *item : items)
         Private::append(d->top, item);
+    d->isNarrowed = d->entities->currentIndex() + 1 < d->entities->count() || d->groups->currentIndex() > 0 ||
+                    !d->filter->text().isEmpty();
 }
 
 // clang-format off
@@ -114,7 +161,7 @@ int TvxAttributesSelectionDialog::getEntityDID() const { return d->did; }
 int TvxAttributesSelectionDialog::getSelectedEntityMask() const { return int(d->entities->currentData().toUInt()); }
 QString TvxAttributesSelectionDialog::getSelectedGroupName() const { return d->groups->currentText(); }
 QString TvxAttributesSelectionDialog::getUserFilterText() { return d->filter->text(); }
-QList<QTableWidgetItem *> TvxAttributesSelectionDialog::getTopListItems(bool) const { return Private::items(d->top); }
+QList<QTableWidgetItem *> TvxAttributesSelectionDialog::getTopListItems(bool visibleOnly) const { return Private::items(d->top, visibleOnly); }
 QList<QTableWidgetItem *> TvxAttributesSelectionDialog::getChosenList() const { return Private::items(d->chosen); }
 void TvxAttributesSelectionDialog::setTopViewRowsVisiblity(int row, bool visible) { d->top->setRowHidden(row, !visible); }
 void TvxAttributesSelectionDialog::setTopViewCurrentItem(QTableWidgetItem *item) { d->top->setCurrentItem(item); }
@@ -141,15 +188,10 @@ void TvxAttributesSelectionDialog::setFirstVisibleItemAsCurrent()
 
 QTableWidgetItem *TvxAttributesSelectionDialog::findItemByAttrName(const QString &name)
 {
-    for (QTableWidgetItem *item : Private::items(d->top)) {
-        if (item->data(137).toString() == name)
-            return item;
-    }
-    return nullptr;
+    return Private::itemWithName(d->top, name);
 }
 
 QList<QTableWidgetItem *> TvxAttributesSelectionDialog::getItemsForContextMenuCallback()
 {
-    QTableWidgetItem *item = d->chosen->item(d->chosen->currentRow(), 1);
-    return item ? QList<QTableWidgetItem *>{item} : QList<QTableWidgetItem *>();
+    return Private::selectedItems(d->chosen);
 }
