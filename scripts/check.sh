@@ -51,6 +51,7 @@ check_format() {
 
 # Quoted includes that each folder may have, as a regular expression. Angle brackets are for system headers.
 contract='gdm/host/[^/]*|gdm/items/attr_(records|roles)\.h|gdm/dialogs/tvx_attributes_selection_dialog\.h'
+installed='gdm/host/(gen_services|dml_dictionary|(message|config)_keys)\.h|gdm/items/attr_(records|roles)\.h|gdm/gdm_qt\.h'
 allowed() {
     case "$1" in
         code/gdm) echo 'gdm/(items|conditions|dialogs)/[^/]*|gdm/host/missing_host_functions\.h|gdm/zudunmaf_qt\.h' ;;
@@ -63,6 +64,8 @@ allowed() {
         standins/gen) echo "(common|gen)/[^/]*|$contract" ;;
         standins/dml) echo "(common|dml)/[^/]*|gen/gen_control\.h|$contract" ;;
         standins/tvx) echo "(common|tvx)/[^/]*|$contract" ;;
+        host_check) echo "[^/]*|$installed" ;;
+        host_check/base) echo "base/[^/]*|(check|walk)\.h|$installed" ;;
         demo) echo '[^/]*|(tvx|gen|dml)/[a-z]*_control\.h|gdm/(host|items|conditions|dialogs)/[^/]*|gdm/gdm_qt\.h' ;;
         demo/walk) echo "[^/]*|demo/(host|options)\.h|$contract" ;;
     esac
@@ -80,7 +83,8 @@ check_includes() {
         tracked ":(glob)$folder/*.h" ":(glob)$folder/*.cpp" | xargs -r grep -nHE '^ *# *include' |
             without "include +(\"($pattern)\"|<[^/>]*>)|include +<sys/[^/>]*>" |
             none "$folder must not include this" || status=1
-    done < <(tracked 'code/*.h' 'code/*.cpp' 'standins/*.h' 'standins/*.cpp' 'demo/*.h' 'demo/*.cpp' |
+    done < <(tracked 'code/*.h' 'code/*.cpp' 'standins/*.h' 'standins/*.cpp' 'demo/*.h' 'demo/*.cpp' \
+        'host_check/*.h' 'host_check/*.cpp' |
         xargs -r -n 1 dirname | sort -u)
     return $status
 }
@@ -151,7 +155,7 @@ check_tidy() {
     install_packages clang-tidy
     prepare_lint_tree || return 1
     local status=0
-    tracked 'code/*.cpp' 'standins/*.cpp' 'demo/*.cpp' | run_tidy || status=1
+    tracked 'code/*.cpp' 'standins/*.cpp' 'demo/*.cpp' 'host_check/*.cpp' | run_tidy || status=1
     # In tests, only the length of functions. Clang has warnings of its own about Qt Test.
     tracked 'tests/*.cpp' | without '^tests/package/' |
         run_tidy --checks='-*,readability-function-size' --extra-arg=-w || status=1
@@ -163,7 +167,7 @@ check_clazy() {
     prepare_lint_tree || return 1
     local checks=level0,level1,detaching-member,qt-keywords,reserve-candidates
     checks+=,no-connect-3arg-lambda,no-range-loop-reference,no-overloaded-signal,no-fully-qualified-moc-types
-    tracked 'code/*.cpp' 'standins/*.cpp' 'demo/*.cpp' |
+    tracked 'code/*.cpp' 'standins/*.cpp' 'demo/*.cpp' 'host_check/*.cpp' |
         xargs -r -P 2 -n 2 clazy-standalone -p "$lint_tree" -checks="$checks" -extra-arg=-Werror 2>&1 |
         without "^[0-9]+ warnings? generated\.$|internal error: couldn't find method from pmf"
 }

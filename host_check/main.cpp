@@ -1,0 +1,160 @@
+#include "runner.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <getopt.h>
+
+using namespace Zudunmaf::hostcheck;
+
+namespace
+{
+
+constexpr char Usage[] = R"(Usage: zudunmaf-host-check [OPTION]... LIBRARY...
+Loads the libraries of a host in the order given, then libzudunmaf.so, and checks what the library relies on: services,
+dictionary and base dialog. Prints one line for each promise:
+
+  kept           the host keeps it
+  broken         the host does not keep it: what was expected, and what came
+  advice         the contract leaves it open, and the dialogs work better with it
+  not checkable  something else is missing that the check needs
+
+  --dictionary ID  dictionary to walk (default 0)
+  --units CODE,... units to check besides those of the attributes
+  --setup FUNCTION extern "C" int FUNCTION(void) of the host, called before the first check, such as one that
+                   opens the dictionary; 0 is success
+  --strict         advice counts like broken
+  --json           print JSON
+  --timeout SEC    longest time for one check (default 60)
+  --help           print this text
+
+What the host prints goes to standard error. A check that the host crashes is broken. Without QT_QPA_PLATFORM in the
+environment, the dialogs are checked offscreen.
+
+Exit status: 0 if nothing is broken, 1 if something is, 2 for wrong arguments.
+)";
+
+std::string jsonText(const std::string &text)
+{
+    std::string result;
+    for (const char character : text) {
+        if (character == '"' || character == '\\')
+            result += '\\';
+        // A detail has no line breaks, but may quote anything else that the host returned.
+        result += static_cast<unsigned char>(character) < ' ' ? '?' : character;
+    }
+    return '"' + result + '"';
+}
+
+const char *wordFor(Verdict verdict)
+{
+    switch (verdict) {
+    case Verdict::Kept:
+        return "kept";
+    case Verdict::Broken:
+        return "broken";
+    case Verdict::Advice:
+        return "advice";
+    case Verdict::NotCheckable:
+        break;
+    }
+    return "not checkable";
+}
+
+void printLine(const Finding &finding)
+{
+    std::printf("%-13s %s: %s%s%s\n", wordFor(finding.outcome.verdict), finding.group.c_str(),
+                finding.promise.c_str(), finding.outcome.detail.empty() ? "" : ": ",
+                finding.outcome.detail.c_str());
+    std::fflush(stdout);
+}
+
+void printJson(const std::vector<Finding> &findings)
+{
+    std::printf("{\"checks\": [");
+    const char *separator = "\n";
+    for (const Finding &finding : findings) {
+        std::printf("%s  {\"group\": %s, \"promise\": %s, \"outcome\": %s, \"detail\": %s}", separator,
+                    jsonText(finding.group).c_str(), jsonText(finding.promise).c_str(),
+                    jsonText(wordFor(finding.outcome.verdict)).c_str(),
+                    jsonText(finding.outcome.detail).c_str());
+        separator = ",\n";
+    }
+    std::printf("\n]}\n");
+}
+
+[[noreturn]] void refuse(const std::string &reason)
+{
+    std::fprintf(stderr, "zudunmaf-host-check: %s\nTry --help.\n", reason.c_str());
+    std::exit(2);
+}
+
+int numberIn(const std::string &text)
+{
+    char *end = nullptr;
+    const long number = std::strtol(text.c_str(), &end, 10);
+    if (text.empty() || *end != '\0' || number != int(number))
+        refuse("\"" + text + "\" is not a whole number");
+    return int(number);
+}
+
+Settings settingsFrom(int argc, char *argv[])
+{
+    const option options[] = {{"dictionary", required_argument, nullptr, 'd'},
+                              {"units", required_argument, nullptr, 'u'},
+                              {"setup", required_argument, nullptr, 'c'},
+                              {"strict", no_argument, nullptr, 's'},
+                              {"json", no_argument, nullptr, 'j'},
+                              {"timeout", required_argument, nullptr, 't'},
+                              {"help", no_argument, nullptr, 'h'},
+                              {nullptr, 0, nullptr, 0}};
+    Settings settings;
+    for (int option = 0; (option = getopt_long(argc, argv, "", options, nullptr)) != -1;) {
+        if (option == 'd') {
+            settings.dictionary = numberIn(optarg);
+        } else if (option == 'u') {
+            std::istringstream codes(optarg);
+            for (std::string code; std::getline(codes, code, ',');)
+                settings.units.push_back(numberIn(code));
+        } else if (option == 'c') {
+            settings.setup = optarg;
+        } else if (option == 's') {
+            settings.strict = true;
+        } else if (option == 'j') {
+            settings.json = true;
+        } else if (option == 't') {
+            settings.timeout = std::max(1, numberIn(optarg));
+        } else if (option == 'h') {
+            std::fputs(Usage, stdout);
+            std::exit(0);
+        } else {
+            refuse("unknown or incomplete option");
+        }
+    }
+    settings.libraries.assign(argv + optind, argv + argc);
+    if (settings.libraries.empty())
+        refuse("no library is given");
+    return settings;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const Settings settings = settingsFrom(argc, argv);
+    setenv("QT_QPA_PLATFORM", "offscreen", 0);
+    std::vector<Finding> findings;
+    runChecks(settings, [&](const Finding &finding) {
+        findings.push_back(finding);
+        if (!settings.json)
+            printLine(finding);
+    });
+    if (settings.json)
+        printJson(findings);
+    const bool isFine = std::none_of(findings.begin(), findings.end(), [&settings](const Finding &finding) {
+        const Verdict verdict = finding.outcome.verdict;
+        return verdict == Verdict::Broken || (settings.strict && verdict == Verdict::Advice);
+    });
+    return isFine ? 0 : 1;
+}
