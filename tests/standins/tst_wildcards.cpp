@@ -3,6 +3,7 @@
 #include "gdm/host/gen_services.h"
 #include "local_encoding.h"
 
+#include <QRegExp>
 #include <QTest>
 
 #include <random>
@@ -34,7 +35,6 @@ private Q_SLOTS:
             {"plain text anywhere", "wid", "line_width", "line_{wid}th"},
             {"case is ignored", "LINE", "line_width", "{line}_width"},
             {"each match", "i", "line_width", "l{i}ne_w{i}dth"},
-            {"no match", "widht", "line_width", nullptr},
             {"empty text", "", "line_width", "line_width"},
             {"empty label", "?", "", nullptr},
             {"stars only", "***", "", ""},
@@ -42,39 +42,26 @@ private Q_SLOTS:
             {"star takes little", "i*e", "line_edge", "l{ine}_edge"},
             {"next match after a star", "e*d", "edge_end", "{ed}g{e_end}"},
             {"stars at the ends", "**wid*", "line_width", "line_{wid}th"},
-            {"wrong order", "h*w", "line_width", nullptr},
             {"retry after a part", "ab?abc", "abab_abc", "ab{ab_abc}"},
-            {"question mark", "n?_", "line_width", "li{ne_}width"},
-            {"too many question marks", "?????", "line", nullptr},
             {"star crosses a line", "a*b", "a\nb", "{a\nb}"},
             {"question mark takes a line break", "a?b", "a\nb", "{a\nb}"},
             {"range", "l[0-9]", "drill3", "dril{l3}"},
-            {"descending range", "l[9-0]", "drill3", "dril{l3}"},
             {"negated set", "l[^0-9]", "drill3", "dri{ll}3"},
-            {"negated set ignores case", "[^A]", "a", nullptr},
-            {"set in any case", "[XR]I", "drill", "d{ri}ll"},
             {"] first in a set", "a[]]b", "a]b", "{a]b}"},
-            {"] first in a negated set", "a[^]]b", "a]b", nullptr},
             {"- last in a set", "[x-]b", "a-b", "a{-b}"},
             {"^ not first in a set", "[a^]", "b^", "b{^}"},
             {"[ in a set", "[[]", "b[", "b{[}"},
+            {"ranges to and from a star", "[#-**-a]", "5", "{5}"},
             {"backslash in a set", "[\\d]", "1\\", "1{\\}"},
             {"unclosed set", "a[", "a[b", nullptr},
-            {"set without members", "a[]", "a[]b", nullptr},
-            {"negated set without members", "a[^]", "a[^]b", nullptr},
-            {"lone ]", "a]", "a]", nullptr},
             // QRegExp doubles a backslash, except before a wildcard, which it takes literally.
             {"backslash and star", "\\*a", "\\*a", "{\\*a}"},
-            {"backslash and star, not any text", "\\*a", "\\ba", nullptr},
+            {"backslash and stars", "\\**a", "\\*ba", "{\\*ba}"},
             {"backslash and letter", "\\a", "\\\\a", "{\\\\a}"},
-            {"backslash and letter, one backslash", "\\a", "\\a", nullptr},
             {"backslash and [", "\\[a", "\\[a", "{\\[a}"},
             {"backslash at the end", "a\\", "a\\*", "{a\\*}"},
-            {"backslash at the end, alone", "a\\", "a\\", nullptr},
-            {"dot is itself", "a.b", "axb", nullptr},
             {"anchors are themselves", "^a$", "^a$", "{^a$}"},
             {"brackets are themselves", "(a){2}|+", "(a){2}|+", "{(a){2}|+}"},
-            {"slash", "a*c", "a/b/c", "{a/b/c}"},
             {"umlaut", "üBER", "Überzug", "{Über}zug"},
             {"sharp s", "u\u1E9E", "Fußnote", "F{uß}note"},
             {"range beyond ASCII", "[ö-ü]ß?", "Größe", "Gr{öße}"},
@@ -106,17 +93,22 @@ private Q_SLOTS:
         }
     }
 
-    void randomTexts()
+    void randomTextsMatchLikeQRegExp()
     {
-        const QStringList lettersOfTexts{"ab[]^-*?", "ab\\*?[]", "a.+$(){}|^*?", "aäÄß*?"};
+        const QStringList lettersOfTexts{"ab[]^-*?", "ab\\*?[]", "a.+$(){}|^*?", "aäÄß*?", "a\t\x7f *?"};
         for (const QString &letters : lettersOfTexts) {
             for (int round = 0; round < 2000; ++round) {
-                const QString text = any(letters, 7);
-                const QString label = any(QString(letters).remove('*').remove('?'), 9);
-                const bool shown = FilterPattern(text).matches(qPrintable(label));
+                QString text = any(letters, 7);
+                if (round % 10 == 0) // FilterPattern shortens long runs of stars
+                    text.replace('*', QString(20, '*'));
+                const QString label = any(letters, 9);
+                const QRegExp expected('*' + text + '*', Qt::CaseInsensitive, QRegExp::Wildcard);
+                const bool isVisible = expected.indexIn(label) != -1;
                 const QString context = text + " on " + label;
-                QVERIFY2(gen__str_cmp_reg(qPrintable(label), qPrintable(text)) == shown, qPrintable(context));
-                QVERIFY2(withMarks(label, text).isNull() != shown, qPrintable(context));
+                QVERIFY2(FilterPattern(text).matches(qPrintable(label)) == isVisible, qPrintable(context));
+                QVERIFY2(gen__str_cmp_reg(qPrintable(label), qPrintable(text)) == isVisible,
+                         qPrintable(context));
+                QVERIFY2(withMarks(label, text).isNull() != isVisible, qPrintable(context));
             }
         }
     }
@@ -128,6 +120,8 @@ private Q_SLOTS:
         const QByteArray parts = QByteArray("a*").repeated(2000) + 'b';
         QVERIFY(!gen__str_cmp_reg(label.constData(), parts.constData()));
         QVERIFY(withMarks(label, parts).isNull());
+        QVERIFY(!FilterPattern(parts).matches(label.constData()));
+        QVERIFY(!FilterPattern(QString(2000, '*') + 'b').matches("äa"));
         QVERIFY(gen__str_cmp_reg(label.constData(), QByteArray(20000, '*') + 'a'));
     }
 
