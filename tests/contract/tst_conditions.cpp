@@ -191,22 +191,6 @@ private Q_SLOTS:
         QVERIFY(matches(AttrCondition(), values[6].value)); // an attribute without a text still has a value
     }
 
-    void chosenConditions()
-    {
-        host().dictionary = eachType();
-        AttributesFilterDialog dialog(3);
-        AttrCondition width;
-        width.name = "width";
-        width.type = DmlAttrInteger;
-        width.isSet = true;
-        width.low = 6;
-        width.high = 8;
-        QCOMPARE(dialog.restoreConditions({width}, refuse).first().status, RestoreNotAdded);
-        dialog.restoreConditions({width, width}, addToBase);
-        QVERIFY(dialog.conditions() == QList<AttrCondition>({width, width}));
-        QCOMPARE(dialog.getFiltersAsStringList(), QStringList({"6 <= width <= 8", "6 <= width <= 8"}));
-    }
-
     void chosenValues()
     {
         host().dictionary = eachType();
@@ -293,7 +277,6 @@ private:
         };
     }
 
-    static bool refuse(const QTableWidgetItem &) { return false; }
     static bool addToBase(const QTableWidgetItem &item) { return appendRow(host().chosen, item) != nullptr; }
 
     /// Reads the document and writes what was read; empty if it is refused.

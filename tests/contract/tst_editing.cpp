@@ -162,6 +162,22 @@ private Q_SLOTS:
         QCOMPARE(host().called("conv"), QStringList());
     }
 
+    void listsThatAreMissingOrOfNegativeSize()
+    {
+        DmlAttrDef &missing = option("colour", 1), &negative = option("colour", 0);
+        DmlAttrDef &choices = text("note", nullptr, 5);
+        missing.optionList = choices.optionList = nullptr;
+        negative.optionCount = -5;
+        for (const DmlAttrDef *attribute : {&missing, &negative, &choices}) {
+            const FeatureAttrLWI *value = add<FeatureAttrLWI>(*attribute);
+            const QVariant held = value->attrValue();
+            const auto box = edit<QComboBox>();
+            QCOMPARE(box->count(), 0);
+            commit(box.get());
+            QCOMPARE(value->attrValue(), held);
+        }
+    }
+
     void floatInDisplayUnits()
     {
         FeatureAttrLWI *item = add<FeatureAttrLWI>(real("depth", -1, 9, 2));
