@@ -66,6 +66,8 @@ void AvailableTable::fill(const QList<QTableWidgetItem *> &items)
     const BatchUpdate batch(this);
 
     ++m_fillCount;
+    // The items are deleted below, and slots can ask for them before insertClones().
+    m_cache.reset({});
     // Rows that are reused would stay hidden.
     setRowCount(0);
     sorter()->order().rowsReplaced();
