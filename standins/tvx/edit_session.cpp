@@ -61,6 +61,7 @@ void EditSession::end()
     m_editor = nullptr;
     m_content = nullptr;
     m_filter = nullptr;
+    m_isTableHidden = false;
     if (m_note)
         m_note->hide();
     Q_EMIT ended();

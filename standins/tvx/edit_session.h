@@ -32,7 +32,6 @@ public:
     EditSession(QWidget *viewport, QObject *parent);
 
     /// Begins with an editor that has been loaded from `value`, the value item at `index`. `name` is the attribute.
-    /// Gives the focus to the first widget of the editor.
     void begin(QWidget *editor, const QModelIndex &index, const QTableWidgetItem &value, const QString &name);
     /// Ends the edit. The sentence on a refused entry stays if the entry was refused in the event that is being
     /// delivered.
