@@ -13,8 +13,8 @@
 namespace
 {
 
-/// In the locale "C" gettext translates nothing, whatever language is asked for.
-void leaveUntranslatedLocale()
+/// Sets another locale if that of messages is "C", in which gettext ignores LANGUAGE and translates nothing.
+void replaceUntranslatedLocale()
 {
     const char *locale = std::setlocale(LC_MESSAGES, nullptr);
     if (locale && std::strcmp(locale, "C") != 0 && std::strcmp(locale, "POSIX") != 0)
@@ -25,23 +25,22 @@ void leaveUntranslatedLocale()
     }
 }
 
-/// gettext keeps the translations that it has found until it is told that the language may be another.
-void forgetFoundTranslations()
+/// Clears the cache of translations. gettext does so in textdomain() and not when LANGUAGE changes.
+void clearCachedTranslations()
 {
     textdomain(textdomain(nullptr));
 }
 
-bool isLanguageChosen = false;
+bool isLanguageSet = false;
 
-void makeChoiceCount()
+void applyLanguage()
 {
-    if (isLanguageChosen)
-        leaveUntranslatedLocale();
+    if (isLanguageSet)
+        replaceUntranslatedLocale();
 }
 
-/// The text, which is UTF-8, in the local 8-bit encoding of the running Qt. Catalogues give UTF-8, since the
-/// C library's locale and Qt's codec can differ. The pool is keyed by the encoded bytes, so that an earlier
-/// answer stays valid after a change of language or codec.
+/// Returns a UTF-8 text in the local 8-bit encoding of Qt, whose codec can differ from the locale of the C library.
+/// Keeps each encoded text, so that earlier results stay valid after a change of language or codec.
 const char *localTextOf(const char *text)
 {
     const QByteArray encoded = QString::fromUtf8(text).toLocal8Bit();
@@ -56,22 +55,22 @@ const char *localTextOf(const char *text)
 void Zudunmaf::gen::setLanguage(const QString &language)
 {
     static const QByteArray languageOfUser = qgetenv("LANGUAGE");
-    // An application object that is made later sets the whole locale anew.
-    static const bool isHooked = (qAddPreRoutine(makeChoiceCount), true);
+    // The constructor of QCoreApplication sets the locale again.
+    static const bool isHooked = (qAddPreRoutine(applyLanguage), true);
     Q_UNUSED(isHooked)
 
-    isLanguageChosen = !language.isEmpty();
-    qputenv("LANGUAGE", isLanguageChosen ? language.toLatin1() : languageOfUser);
-    if (!isLanguageChosen)
+    isLanguageSet = !language.isEmpty();
+    qputenv("LANGUAGE", isLanguageSet ? language.toLatin1() : languageOfUser);
+    if (!isLanguageSet)
         std::setlocale(LC_MESSAGES, "");
-    makeChoiceCount();
-    forgetFoundTranslations();
+    applyLanguage();
+    clearCachedTranslations();
 }
 
 void Zudunmaf::gen::setCatalogueDirectory(const QString &directory)
 {
     Zudunmaf::standins::bindCatalogues(directory);
-    forgetFoundTranslations();
+    clearCachedTranslations();
 }
 
 const char *gen__nls_nlst(const char *key)
@@ -79,7 +78,7 @@ const char *gen__nls_nlst(const char *key)
     return localTextOf(Zudunmaf::standins::messageOf(key));
 }
 
-// In UTF-8 like the dictionary's own texts, which gen__str_cmp_reg() reads in the same way.
+// Returns UTF-8, as the texts of the dictionary are, because gen__str_cmp_reg() reads both.
 const char *gen__nls_nlsa_get_att_prompt(const char *name, const char *prompt)
 {
     if (prompt && *prompt)
