@@ -29,6 +29,7 @@ private Q_SLOTS:
         }
         QVERIFY(satisfied > 5000);
         QVERIFY(satisfied < 15000);
+        QVERIFY(matches(AttrCondition(), QString())); // an attribute without a text still has a value
     }
 
     void boundsAreIncluded()

@@ -1,6 +1,7 @@
 #include "common/wildcards.h"
 #include "gdm/dialogs/filter_pattern.h"
 #include "gdm/host/gen_services.h"
+#include "json_table.h"
 #include "local_encoding.h"
 
 #include <QRegExp>
@@ -20,56 +21,17 @@ class TestWildcards : public QObject
 private Q_SLOTS:
     void init() { setLocalEncoding("UTF-8"); }
 
+    /// "marked" is the label with each match in braces; null if nothing matches. QRegExp takes a wildcard after a backslash
+    /// literally, and doubles a backslash before any other character.
     void textsAndLabels_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("label");
         QTest::addColumn<QString>("marked");
-        struct Row {
-            const char *name;
-            const char *text;
-            const char *label;
-            const char *marked; ///< the label with each match in braces; null if nothing matches
-        };
-        const Row rows[] = {
-            {"plain text anywhere", "wid", "line_width", "line_{wid}th"},
-            {"case is ignored", "LINE", "line_width", "{line}_width"},
-            {"each match", "i", "line_width", "l{i}ne_w{i}dth"},
-            {"empty text", "", "line_width", "line_width"},
-            {"empty label", "?", "", nullptr},
-            {"stars only", "***", "", ""},
-            {"star", "l*w*h", "line_width", "{line_width}"},
-            {"star takes little", "i*e", "line_edge", "l{ine}_edge"},
-            {"next match after a star", "e*d", "edge_end", "{ed}g{e_end}"},
-            {"stars at the ends", "**wid*", "line_width", "line_{wid}th"},
-            {"retry after a part", "ab?abc", "abab_abc", "ab{ab_abc}"},
-            {"star crosses a line", "a*b", "a\nb", "{a\nb}"},
-            {"question mark takes a line break", "a?b", "a\nb", "{a\nb}"},
-            {"range", "l[0-9]", "drill3", "dril{l3}"},
-            {"negated set", "l[^0-9]", "drill3", "dri{ll}3"},
-            {"] first in a set", "a[]]b", "a]b", "{a]b}"},
-            {"- last in a set", "[x-]b", "a-b", "a{-b}"},
-            {"^ not first in a set", "[a^]", "b^", "b{^}"},
-            {"[ in a set", "[[]", "b[", "b{[}"},
-            {"ranges to and from a star", "[#-**-a]", "5", "{5}"},
-            {"backslash in a set", "[\\d]", "1\\", "1{\\}"},
-            {"unclosed set", "a[", "a[b", nullptr},
-            // QRegExp doubles a backslash, except before a wildcard, which it takes literally.
-            {"backslash and star", "\\*a", "\\*a", "{\\*a}"},
-            {"backslash and stars", "\\**a", "\\*ba", "{\\*ba}"},
-            {"backslash and letter", "\\a", "\\\\a", "{\\\\a}"},
-            {"backslash and [", "\\[a", "\\[a", "{\\[a}"},
-            {"backslash at the end", "a\\", "a\\*", "{a\\*}"},
-            {"anchors are themselves", "^a$", "^a$", "{^a$}"},
-            {"brackets are themselves", "(a){2}|+", "(a){2}|+", "{(a){2}|+}"},
-            {"umlaut", "üBER", "Überzug", "{Über}zug"},
-            {"sharp s", "u\u1E9E", "Fußnote", "F{uß}note"},
-            {"range beyond ASCII", "[ö-ü]ß?", "Größe", "Gr{öße}"},
-            {"Cyrillic", "*РОЖ", "Дорожка", "До{рож}ка"},
-            {"above U+FFFF", "\U0001F527", "a\U0001F527b", "a{\U0001F527}b"},
-        };
-        for (const Row &row : rows)
-            QTest::newRow(row.name) << QString(row.text) << QString(row.label) << QString(row.marked);
+        const QJsonArray rows = jsonTable("wildcards.json")["labels"].toArray();
+        for (const QJsonValue row : rows)
+            QTest::newRow(qPrintable(row["case"].toString()))
+                << row["text"].toString() << row["label"].toString() << row["marked"].toString();
     }
     void textsAndLabels()
     {
