@@ -9,7 +9,7 @@ namespace standins
 {
 
 /// Returns the expression that finds a filter text anywhere in a label, ignoring case. Each match is as short as
-/// possible. The services select attributes with it, and the top table marks names with it.
+/// possible. The services select attributes with it, and the available table marks names with it.
 ///
 /// "*", "?", sets and backslashes mean what they mean to QRegExp::Wildcard, which decides the rows that are visible.
 /// An empty text, or one of stars only, gives an empty pattern, which matches everywhere. A text that QRegExp cannot
