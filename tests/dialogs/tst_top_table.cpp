@@ -3,9 +3,22 @@
 #include "dml/dml_control.h"
 #include "gen/gen_control.h"
 
+#include <QAbstractEventDispatcher>
 #include <QScrollBar>
 
 using namespace Zudunmaf;
+
+class PaintCounter : public QObject
+{
+public:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == QEvent::Paint;
+        return false;
+    }
+
+    int count = 0;
+};
 
 /// The upper half of the dialog: finding attributes and adding them.
 class TopTableTest : public DialogTest
@@ -196,6 +209,22 @@ private Q_SLOTS:
         QVERIFY(!isRed(Value));
         filterText->clear();
         QVERIFY(!isRed(Name));
+    }
+
+    /// All texts match more rows than fit, so that the scroll bar stays.
+    void eachKeyPaintsTheRowsOnce()
+    {
+        PaintCounter paints;
+        topView->viewport()->installEventFilter(&paints);
+        for (const char *text : {"p", "pa", "pad", ""}) {
+            while (QCoreApplication::eventDispatcher()->processEvents(QEventLoop::AllEvents)) {
+            }
+            paints.count = 0;
+            filterText->setText(text);
+            while (QCoreApplication::eventDispatcher()->processEvents(QEventLoop::AllEvents)) {
+            }
+            QCOMPARE(paints.count, 1);
+        }
     }
 
     void typingSelectsARow_data() { addWays({"pl plated", "pad_2 pad_20", "ppp pad_01"}); }
