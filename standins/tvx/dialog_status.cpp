@@ -4,10 +4,12 @@
 #include "tvx/available_table.h"
 #include "tvx/change_history.h"
 #include "tvx/chosen_table.h"
+#include "tvx/description_label.h"
 #include "tvx/live_preview.h"
 #include "tvx/selection_widgets.h"
 #include "tvx/tvx_texts.h"
 
+#include <QAccessible>
 #include <QLabel>
 #include <QPushButton>
 
@@ -57,6 +59,16 @@ void DialogStatus::update() const
     updateTexts();
 }
 
+void DialogStatus::setWarning(const QString &warning)
+{
+    m_warning = warning;
+    updateTexts();
+    describe(m_widgets.description, warning);
+    QAccessibleEvent alert(m_widgets.description, QAccessible::Alert);
+    if (!warning.isEmpty())
+        QAccessible::updateAccessibility(&alert);
+}
+
 void DialogStatus::updateCounts() const
 {
     const QString shown = textOf(texts::ShownOfTotal)
@@ -86,7 +98,10 @@ void DialogStatus::updateTexts() const
     describe(chosen,
              chosen->lastRefusal().isEmpty() ? chosen->emptyText().shownText() : chosen->lastRefusal());
 
-    m_description.show();
+    if (m_warning.isEmpty())
+        m_description.show();
+    else
+        m_widgets.description->setLines(m_warning, QString(), QString());
     const QString line = currentResultLine(*chosen);
     setText(m_widgets.preview, line.isEmpty() ? QString() : textOf(texts::PreviewLine).arg(line));
 }

@@ -20,6 +20,8 @@ public:
     DialogStatus(const SelectionWidgets &widgets, const ChangeHistory &history);
 
     void update() const;
+    /// Shows a warning in place of the description, until it is empty again, and alerts a screen reader to it.
+    void setWarning(const QString &warning);
 
 private:
     void updateCounts() const;
@@ -29,6 +31,7 @@ private:
     const SelectionWidgets &m_widgets;
     const ChangeHistory &m_history;
     CurrentDescription m_description;
+    QString m_warning;
 };
 
 } // namespace tvx

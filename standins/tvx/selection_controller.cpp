@@ -6,6 +6,7 @@
 #include "tvx/chosen_counts.h"
 #include "tvx/chosen_table.h"
 #include "tvx/empty_table_guide.h"
+#include "tvx/escape_guard.h"
 #include "tvx/filter_line_keys.h"
 #include "tvx/name_column_width.h"
 #include "tvx/quick_entry.h"
@@ -35,6 +36,7 @@ SelectionController::SelectionController(int did, TvxAttributesSelectionDialog *
     , m_history(new ChangeHistory(m_widgets.chosenList, this))
     , m_mover(new RowMover(dialog, m_widgets.topView, m_widgets.chosenList, m_history, this))
     , m_guide(new EmptyTableGuide(m_widgets, m_criteria, this))
+    , m_escapeGuard(new EscapeGuard(*m_widgets.chosenList, this))
     , m_status(m_widgets, *m_history)
 {
     dialog->installEventFilter(this);
@@ -110,6 +112,8 @@ void SelectionController::connectTables()
     connect(chosen, &ChosenTable::editingStarted, this, &SelectionController::refresh);
     connect(chosen, &ChosenTable::editorChanged, this, &SelectionController::refresh);
     connect(chosen, &ChosenTable::editingEnded, this, &SelectionController::refresh);
+    connect(m_escapeGuard, &EscapeGuard::warningChanged, this,
+            [this] { m_status.setWarning(m_escapeGuard->warning()); });
     connect(m_mover, &RowMover::rowsMoved, this, &SelectionController::refresh);
 }
 
@@ -214,9 +218,13 @@ bool SelectionController::eventFilter(QObject *watched, QEvent *event)
     switch (event->type()) {
     case QEvent::KeyPress: {
         // QDialog would click the default button after an Enter that no widget has accepted.
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        return key == Qt::Key_Return || key == Qt::Key_Enter;
+        const auto *key = static_cast<QKeyEvent *>(event);
+        return key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter || m_escapeGuard->holdsBack(*key);
     }
+    case QEvent::Show:
+        if (!event->spontaneous())
+            m_escapeGuard->rememberRows();
+        break;
     case QEvent::FontChange:
         fitToFont();
         break;

@@ -17,6 +17,7 @@ namespace tvx
 
 class ChangeHistory;
 class EmptyTableGuide;
+class EscapeGuard;
 class RowMover;
 
 /// Connects the parts of the base dialog, and runs the dialog's virtual functions when the criteria change. Owned by
@@ -70,6 +71,7 @@ private:
     ChangeHistory *m_history;
     RowMover *m_mover;
     EmptyTableGuide *m_guide;
+    EscapeGuard *m_escapeGuard;
     DialogStatus m_status;
     int m_displayUnits = -1;
     bool m_isConnected = false;

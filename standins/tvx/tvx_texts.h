@@ -37,6 +37,8 @@ constexpr char StepAddSeveral[] = "@$@#tvx@$@#GENERAL@$@#83@$@#add %1 attributes
 constexpr char StepRemove[] = "@$@#tvx@$@#GENERAL@$@#84@$@#remove %1";
 constexpr char StepRemoveSeveral[] = "@$@#tvx@$@#GENERAL@$@#85@$@#remove %1 attributes";
 constexpr char StepEdit[] = "@$@#tvx@$@#GENERAL@$@#86@$@#edit %1";
+constexpr char EscapeWarning[] =
+    "@$@#tvx@$@#GENERAL@$@#88@$@#Escape again discards the changes of the chosen attributes.";
 constexpr char ChosenHint[] = "@$@#tvx@$@#GENERAL@$@#87@$@#Edit the current row (F2)";
 constexpr char ClearAll[] = "@$@#tvx@$@#GENERAL@$@#16@$@#Clear a&ll";
 constexpr char ClearAllHint[] =

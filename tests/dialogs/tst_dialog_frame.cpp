@@ -1,6 +1,7 @@
 #include "dialog_test.h"
 
 #include "gen/gen_control.h"
+#include "tvx/tvx_control.h"
 
 #include <QAccessible>
 #include <QHeaderView>
@@ -86,6 +87,41 @@ private Q_SLOTS:
         click(chosenList, edited);
         press({Qt::Key_F2, Qt::Key_Return});
         QVERIFY(chosenList->hasFocus());
+    }
+
+    void escapeWarnsBeforeItDiscards()
+    {
+        const QString warning = "Escape again discards the changes of the chosen attributes.";
+        create();
+        QVERIFY(tvx::addChosen(*dialog, *dialog->findItemByAttrName("width")));
+        QVERIFY(show());
+        click(chosenList, "width");
+        press({Qt::Key_F2, Qt::Key_Escape, Qt::Key_Escape});
+        QVERIFY(!dialog->isVisible()); // nothing has changed
+        QVERIFY(open());
+        choose({"width"});
+        enter("width", "5");
+        press(Qt::Key_F2);
+        type("6");
+        press(Qt::Key_Escape);
+        QVERIFY(!description->text().contains(warning));
+        for (const auto &takeBack : std::initializer_list<std::function<void()>>{
+                 [this] { press(Qt::Key_Down); }, [this] { click(topView, "note"); }}) {
+            press(Qt::Key_Escape);
+            QVERIFY(description->text().contains(warning));
+            takeBack();
+            QVERIFY(!description->text().contains(warning));
+        }
+        QKeyEvent held(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, QString(), true);
+        press(Qt::Key_Escape);
+        QCoreApplication::sendEvent(topView, &held);
+        QVERIFY(dialog->isVisible());
+        press(Qt::Key_Escape);
+        QVERIFY(!dialog->isVisible());
+        QVERIFY(open());
+        choose({"note"});
+        click(cancelButton);
+        QVERIFY(!dialog->isVisible());
     }
 
     void autoRepeatDoesNothing()

@@ -1,0 +1,85 @@
+#include "tvx/escape_guard.h"
+
+#include "tvx/attribute_item.h"
+#include "tvx/chosen_table.h"
+#include "tvx/tvx_texts.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+
+namespace Zudunmaf
+{
+namespace tvx
+{
+
+EscapeGuard::EscapeGuard(const ChosenTable &chosen, QObject *parent)
+    : QObject(parent)
+    , m_chosen(chosen)
+{
+}
+
+EscapeGuard::~EscapeGuard() = default;
+
+void EscapeGuard::rememberRows()
+{
+    m_rowsAtOpening = rows();
+    setWarning(false);
+}
+
+/// Returns the content of each row, whatever their order.
+QStringList EscapeGuard::rows() const
+{
+    QStringList rows;
+    const QList<QTableWidgetItem *> items = m_chosen.rowItems(false);
+    rows.reserve(items.size());
+    for (const QTableWidgetItem *item : items) {
+        const QVariant value = item->data(DmlAttrValueRole);
+        // The value of a range is only in its line.
+        const QStringList parts = {nameOf(*item), QLatin1String(value.typeName()), value.toString(),
+                                   item->data(DmlAttrFilterTextRole).toString()};
+        rows.append(parts.join(QLatin1Char('\n')));
+    }
+    rows.sort();
+    return rows;
+}
+
+bool EscapeGuard::holdsBack(const QKeyEvent &key)
+{
+    if (!key.matches(QKeySequence::Cancel))
+        return false;
+    // The repeated key would confirm its own warning.
+    if (m_isWarning)
+        return key.isAutoRepeat();
+    setWarning(rows() != m_rowsAtOpening);
+    return m_isWarning;
+}
+
+QString EscapeGuard::warning() const
+{
+    return m_isWarning ? textOf(texts::EscapeWarning) : QString();
+}
+
+void EscapeGuard::setWarning(bool isWarning)
+{
+    if (m_isWarning == isWarning)
+        return;
+    m_isWarning = isWarning;
+    // Of the whole application: the dialog itself gets only keys that no widget has used.
+    if (isWarning)
+        QCoreApplication::instance()->installEventFilter(this);
+    else
+        QCoreApplication::instance()->removeEventFilter(this);
+    Q_EMIT warningChanged();
+}
+
+bool EscapeGuard::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isKey = event->type() == QEvent::KeyPress;
+    const bool isEscape = isKey && static_cast<QKeyEvent *>(event)->matches(QKeySequence::Cancel);
+    if (watched->isWidgetType() && !isEscape && (isKey || event->type() == QEvent::MouseButtonPress))
+        setWarning(false);
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace tvx
+} // namespace Zudunmaf
