@@ -51,6 +51,8 @@ AttributeTable::AttributeTable(QWidget *parent, CellHints::Kind hints)
     setAlternatingRowColors(true);
     setShowGrid(false);
     setWordWrap(false);
+    // Long names often differ only at the end.
+    setTextElideMode(Qt::ElideMiddle);
     setDragEnabled(true);
     setAcceptDrops(true);
     setDropIndicatorShown(false);

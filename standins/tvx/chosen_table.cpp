@@ -67,17 +67,19 @@ bool ChosenTable::edit(const QModelIndex &index, EditTrigger trigger, QEvent *ev
         return false;
     QWidget *editor = indexWidget(value);
     if (editor && editor != openEditor())
-        beginSession(editor, value);
+        beginSession(editor, value, trigger);
     return true;
 }
 
-void ChosenTable::beginSession(QWidget *editor, const QModelIndex &index)
+void ChosenTable::beginSession(QWidget *editor, const QModelIndex &index, EditTrigger trigger)
 {
     // Two spin boxes with wide limits need more width than the column has.
     nameColumnWidth()->setEditorWidth(editor->minimumSizeHint().width() + width() - viewport()->width());
     updateEditorGeometries();
     const QTableWidgetItem *name = item(index.row(), NameColumn);
     m_session->begin(editor, index, *rowItem(index.row()), name ? name->text() : QString());
+    if (trigger == DoubleClicked)
+        m_session->openPopupAfterClick();
     Q_EMIT editingStarted();
 }
 

@@ -78,7 +78,7 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
-    void beginSession(QWidget *editor, const QModelIndex &index);
+    void beginSession(QWidget *editor, const QModelIndex &index, EditTrigger trigger);
     void endSession();
     void finishEntered();
     void followFocus(const QWidget *old, const QWidget *now);

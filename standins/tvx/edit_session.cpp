@@ -4,6 +4,7 @@
 #include "tvx/editor_content.h"
 #include "tvx/editor_note.h"
 #include "tvx/number_entry.h"
+#include "tvx/option_popup.h"
 #include "tvx/text_choices.h"
 
 #include <QAbstractSpinBox>
@@ -48,11 +49,20 @@ void EditSession::begin(QWidget *editor, const QModelIndex &index, const QTableW
     prepareSpinBoxes(editor);
     if (const auto *choices = TextChoices::attach(editor, value))
         connect(this, &EditSession::ended, choices, &QWidget::hide);
+    m_popup = OptionPopup::attach(editor);
+    if (m_popup)
+        connect(m_popup, &OptionPopup::picked, this, &EditSession::entered);
     m_content = new EditorContent(editor, value);
     connect(m_content, &EditorContent::edited, this, &EditSession::noteEdit);
     m_filter = new CellEditorFilter(editor, name);
     connect(m_filter, &CellEditorFilter::entered, this, &EditSession::entered);
     connect(m_filter, &CellEditorFilter::left, this, &EditSession::left);
+}
+
+void EditSession::openPopupAfterClick()
+{
+    if (m_popup)
+        m_popup->openAfterRelease(m_viewport);
 }
 
 void EditSession::end()

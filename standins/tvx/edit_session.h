@@ -17,6 +17,7 @@ namespace tvx
 class CellEditorFilter;
 class EditorContent;
 class EditorNote;
+class OptionPopup;
 
 /// The open cell editor of the chosen table: whether its content is to be stored, the note on an entry that the limits
 /// refuse, and the sentence that says so afterwards. Owned by the table, which opens, commits and closes the editor.
@@ -33,6 +34,8 @@ public:
 
     /// Begins with an editor that has been loaded from `value`, the value item at `index`. `name` is the attribute.
     void begin(QWidget *editor, const QModelIndex &index, const QTableWidgetItem &value, const QString &name);
+    /// Opens the popup of an option when the double-click that began the edit is over.
+    void openPopupAfterClick();
     /// Ends the edit. The sentence on a refused entry stays if the entry was refused in the event that is being
     /// delivered.
     void end();
@@ -95,6 +98,7 @@ private:
     /// Children of the editor.
     QPointer<EditorContent> m_content;
     QPointer<CellEditorFilter> m_filter;
+    QPointer<OptionPopup> m_popup;
     QPointer<EditorNote> m_note;
     QString m_lastRefusal;
     /// The entry was refused in the event that is being delivered, which may also change the current row.

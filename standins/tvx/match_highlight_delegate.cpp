@@ -50,14 +50,29 @@ QRect textArea(const QStyleOptionViewItem &cell, const QStyle &style)
     return hasPicture ? style.subElementRect(QStyle::SE_ItemViewItemText, &cell, cell.widget) : cell.rect;
 }
 
-QVector<QTextLayout::FormatRange> marksWithin(QVector<QTextLayout::FormatRange> marks, qsizetype length)
+/// Returns the marks of a text for its elided form. A match in the part that was left out marks the ellipsis.
+QVector<QTextLayout::FormatRange> marksIn(const QString &elided, const QString &text,
+                                          const QVector<QTextLayout::FormatRange> &marks)
 {
-    marks.erase(std::remove_if(marks.begin(), marks.end(),
-                               [length](const QTextLayout::FormatRange &mark) {
-                                   return mark.start + mark.length > length;
-                               }),
-                marks.end());
-    return marks;
+    const int length = static_cast<int>(elided.size());
+    const int cut = static_cast<int>(text.size()) - length;
+    const int start = static_cast<int>(
+        std::mismatch(elided.begin(), elided.end(), text.begin(), text.end()).first - elided.begin());
+    int end = length;
+    while (end > start && elided[end - 1] == text[end - 1 + cut])
+        --end;
+    const auto placeOf = [=](int position, int ifHidden) {
+        if (position <= start)
+            return position;
+        return position >= end + cut ? position - cut : ifHidden;
+    };
+    QVector<QTextLayout::FormatRange> found;
+    found.reserve(marks.size());
+    for (const QTextLayout::FormatRange &mark : marks) {
+        const int from = placeOf(mark.start, start);
+        found.append({from, placeOf(mark.start + mark.length, end) - from, mark.format});
+    }
+    return found;
 }
 
 QTextLine layOut(QTextLayout *layout, int width)
@@ -134,7 +149,7 @@ void MatchHighlightDelegate::paintText(QPainter *painter, const QStyleOptionView
     QTextLine line = layOut(&layout, inner.width());
     if (line.naturalTextWidth() > inner.width()) {
         layout.setText(cell.fontMetrics.elidedText(cell.text, cell.textElideMode, inner.width()));
-        layout.setFormats(marksWithin(marks, layout.text().size()));
+        layout.setFormats(marksIn(layout.text(), cell.text, marks));
         line = layOut(&layout, inner.width());
     }
 

@@ -28,6 +28,17 @@ void NameColumnWidth::link(NameColumnWidth *one, NameColumnWidth *other)
 {
     connect(one, &NameColumnWidth::dragged, other, &NameColumnWidth::setUserWidth);
     connect(other, &NameColumnWidth::dragged, one, &NameColumnWidth::setUserWidth);
+    connect(one, &NameColumnWidth::editorWidthChanged, other, &NameColumnWidth::setEditorWidth);
+    connect(other, &NameColumnWidth::editorWidthChanged, one, &NameColumnWidth::setEditorWidth);
+}
+
+void NameColumnWidth::setEditorWidth(int width)
+{
+    if (m_editorWidth == width)
+        return;
+    m_editorWidth = width;
+    apply();
+    Q_EMIT editorWidthChanged(width);
 }
 
 void NameColumnWidth::fit(int width)
@@ -48,12 +59,6 @@ void NameColumnWidth::setUserWidth(int width)
 void NameColumnWidth::setMinimumValueWidth(int width)
 {
     m_minimumValueWidth = width;
-    apply();
-}
-
-void NameColumnWidth::setEditorWidth(int width)
-{
-    m_editorWidth = width;
     apply();
 }
 

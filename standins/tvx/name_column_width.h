@@ -20,7 +20,8 @@ class NameColumnWidth : public QObject
 public:
     explicit NameColumnWidth(QTableWidget *table);
 
-    /// Gives both columns the width to which the user drags one of them.
+    /// Gives both columns the width to which the user drags one of them, and the room that an editor in one of them
+    /// needs: the columns stay in line.
     static void link(NameColumnWidth *one, NameColumnWidth *other);
 
     /// Sets the width that the names need. Does nothing after the user has dragged the border.
@@ -35,6 +36,8 @@ public:
 Q_SIGNALS:
     /// Emitted when the user has dragged the border.
     void dragged(int width);
+    /// Emitted when setEditorWidth() has changed the width.
+    void editorWidthChanged(int width);
 
 private:
     void setUserWidth(int width);

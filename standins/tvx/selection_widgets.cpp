@@ -6,6 +6,7 @@
 #include "tvx/chosen_table.h"
 #include "tvx/description_label.h"
 #include "tvx/name_column_width.h"
+#include "tvx/picture_button.h"
 #include "tvx/text_lines.h"
 #include "tvx/tvx_texts.h"
 
@@ -42,7 +43,7 @@ Widget *named(Widget *widget, const char *objectName, const char *spokenName)
 /// it.
 QPushButton *button(QDialog *dialog, const char *objectName, const char *text, const char *hint)
 {
-    QPushButton *button = named(new QPushButton(textOf(text), dialog), objectName, text);
+    QPushButton *button = named(new PictureButton(textOf(text), dialog), objectName, text);
     button->setToolTip(textOf(hint));
     button->setFocusPolicy(Qt::TabFocus);
     button->setEnabled(false);
@@ -120,15 +121,19 @@ void SelectionWidgets::createButtons(QDialog *dialog)
     buttonBox->button(QDialogButtonBox::Ok)->setText(textOf(texts::Ok));
     buttonBox->button(QDialogButtonBox::Cancel)->setText(textOf(texts::Cancel));
     const auto ends = buttonBox->buttons();
-    for (QAbstractButton *end : ends)
+    for (QAbstractButton *end : ends) {
         end->setFocusPolicy(Qt::TabFocus);
+        // Some platforms set pictures, which PictureButton could not place here.
+        end->setIcon(QIcon());
+    }
 }
 
 void SelectionWidgets::createTexts(QDialog *dialog)
 {
     description = named(new DescriptionLabel(dialog), "description", texts::Description);
-    preview = named(new TextLines(dialog), "preview", texts::Preview);
-    preview->setAlignment(Qt::AlignLeading | Qt::AlignVCenter);
+    auto *result = named(new TextLines(dialog), "preview", texts::Preview);
+    result->setLeadingAlignment(Qt::AlignVCenter);
+    preview = result;
     availableLabel = label(texts::Available, topView);
     availableLabel->setObjectName(QLatin1String("availableLabel"));
     chosenLabel = label(texts::Chosen, chosenList);

@@ -1,5 +1,8 @@
 #include "tvx/text_lines.h"
 
+#include <QEvent>
+#include <QStyle>
+
 namespace Zudunmaf
 {
 namespace tvx
@@ -11,8 +14,21 @@ TextLines::TextLines(QWidget *parent)
     setTextFormat(Qt::PlainText);
     setTextInteractionFlags(Qt::TextSelectableByMouse);
     setWordWrap(true);
-    setAlignment(Qt::AlignLeading | Qt::AlignTop);
+    setLeadingAlignment(Qt::AlignTop);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+}
+
+void TextLines::setLeadingAlignment(Qt::Alignment vertical)
+{
+    m_vertical = vertical;
+    setAlignment(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeading) | Qt::AlignAbsolute | vertical);
+}
+
+bool TextLines::event(QEvent *event)
+{
+    if (event->type() == QEvent::LayoutDirectionChange)
+        setLeadingAlignment(m_vertical);
+    return QLabel::event(event);
 }
 
 } // namespace tvx

@@ -18,9 +18,19 @@ class TextLines : public QLabel
 public:
     explicit TextLines(QWidget *parent);
 
+    /// Aligns the text with the layout. QLabel goes by the direction of the text, so that a text from left to right would
+    /// not begin at the edge in a layout from right to left.
+    void setLeadingAlignment(Qt::Alignment vertical);
+
     QSize sizeHint() const override { return QSize(0, maximumHeight()); }
     QSize minimumSizeHint() const override { return sizeHint(); }
     int heightForWidth(int) const override { return maximumHeight(); }
+
+protected:
+    bool event(QEvent *event) override;
+
+private:
+    Qt::Alignment m_vertical = Qt::AlignTop;
 };
 
 } // namespace tvx

@@ -3,6 +3,7 @@
 #include "gen/gen_control.h"
 #include "tvx/tvx_control.h"
 
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QHeaderView>
 #include <QHelpEvent>
@@ -87,6 +88,37 @@ private Q_SLOTS:
         click(chosenList, edited);
         press({Qt::Key_F2, Qt::Key_Return});
         QVERIFY(chosenList->hasFocus());
+    }
+
+    void pickingAnOptionEndsTheEdit_data() { addWays({"double-click", "key"}); }
+    void pickingAnOptionEndsTheEdit()
+    {
+        choose({"finish"});
+        if (way() == "key")
+            press({Qt::Key_F2, Qt::Key_F4});
+        else
+            doubleClick(chosenList, "finish", 1);
+        QCoreApplication::processEvents();
+        QVERIFY(QApplication::activePopupWidget());
+        auto *list = QApplication::activePopupWidget()->findChild<QAbstractItemView *>();
+        for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Return})
+            QTest::keyClick(list, key);
+        QTRY_VERIFY(!editor());
+        QCOMPARE(resultOf("finish"), pick("finish = gloss", "gloss"));
+        QVERIFY(chosenList->hasFocus());
+        press({Qt::Key_F2, Qt::Key_Up});
+        QVERIFY(editor()); // an arrow key picks nothing
+    }
+
+    void openEditorKeepsTheColumnsInLine()
+    {
+        dialog->resize(400, 480);
+        choose({LongName});
+        const int width = chosenList->columnWidth(Name);
+        press(Qt::Key_F2);
+        QCOMPARE(topView->columnWidth(Name), chosenList->columnWidth(Name));
+        press(Qt::Key_Escape);
+        QCOMPARE(topView->columnWidth(Name), width);
     }
 
     void escapeWarnsBeforeItDiscards()
@@ -191,20 +223,25 @@ private Q_SLOTS:
         table->scrollToItem(table->item(row, Name));
         table->clearSelection();
         table->setCurrentItem(nullptr);
-        // The place above the dots of an ellipsis is blank, and the end of a text that is only clipped is not.
+        // The place above the dots of an ellipsis is blank, and that of a letter is not.
         const QRect cell = cellRect(table, LongName, Name);
-        const int ellipsis = table->fontMetrics().horizontalAdvance(QChar(0x2026));
-        QRect area(0, 0, ellipsis, table->fontMetrics().ascent() / 2);
-        area.moveBottomRight(cell.center());
-        area.moveRight(cell.right() - 2);
-        const QImage end = table->viewport()->grab(area).toImage();
-        QImage blank(end.size(), end.format());
-        blank.fill(end.pixelColor(end.width() - 1, 0));
-        QCOMPARE(end, blank);
+        const QFontMetrics metrics = table->fontMetrics();
+        const QString elided = metrics.elidedText(LongName, Qt::ElideMiddle, cell.width() - 6);
+        const QString begin = elided.section(QChar(0x2026), 0, 0);
+        QVERIFY(begin.size() < elided.size() - 1);
+        QRect area(cell.left() + 4 + metrics.horizontalAdvance(begin), cell.top() + 2,
+                   metrics.horizontalAdvance(QChar(0x2026)) - 2, metrics.ascent() / 2);
+        const QImage dots = table->viewport()->grab(area).toImage();
+        QImage blank(dots.size(), dots.format());
+        blank.fill(dots.pixelColor(0, 0));
+        QCOMPARE(dots, blank);
         QHelpEvent help(QEvent::ToolTip, cell.center(), table->viewport()->mapToGlobal(cell.center()));
         QCoreApplication::sendEvent(table->viewport(), &help);
         QVERIFY2(QToolTip::text().contains(LongName), qPrintable(QToolTip::text()));
         QToolTip::hideText();
+        setFilter("name_of_sixty");
+        if (inFilter())
+            QVERIFY(table->viewport()->grab(area).toImage() != dots); // a match in what was left out
     }
 
     void everyFocusWidgetHasAnAccessibleName()

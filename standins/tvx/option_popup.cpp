@@ -1,0 +1,79 @@
+#include "tvx/option_popup.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QEvent>
+#include <QProxyStyle>
+#include <QTimer>
+
+namespace Zudunmaf
+{
+namespace tvx
+{
+
+namespace
+{
+
+constexpr int MostVisibleEntries = 15;
+
+/// With the popup of Fusion, which covers the box as a menu does, QComboBox ignores the number of visible entries.
+class ListStyle : public QProxyStyle
+{
+public:
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *data) const override
+    {
+        return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
+
+} // namespace
+
+OptionPopup *OptionPopup::attach(QWidget *editor)
+{
+    auto *box = qobject_cast<QComboBox *>(editor);
+    return box && !box->isEditable() ? new OptionPopup(box) : nullptr;
+}
+
+OptionPopup::OptionPopup(QComboBox *box)
+    : QObject(box)
+    , m_box(box)
+{
+    auto *style = new ListStyle;
+    style->setParent(box);
+    box->setStyle(style);
+    box->setMaxVisibleItems(MostVisibleEntries);
+    box->view()->parentWidget()->installEventFilter(this);
+    connect(box, QOverload<int>::of(&QComboBox::activated), this, &OptionPopup::reportPick);
+}
+
+void OptionPopup::openAfterRelease(QWidget *viewport)
+{
+    viewport->installEventFilter(this);
+}
+
+bool OptionPopup::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::MouseButtonRelease && watched != m_box->view()->parentWidget()) {
+        watched->removeEventFilter(this);
+        QTimer::singleShot(0, m_box, &QComboBox::showPopup);
+    } else if (event->type() == QEvent::Hide && watched == m_box->view()->parentWidget()) {
+        m_isJustHidden = true;
+        QTimer::singleShot(0, this, [this] { m_isJustHidden = false; });
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void OptionPopup::reportPick()
+{
+    if (!m_isJustHidden && !m_box->view()->isVisible())
+        return;
+    // Queued: the slot closes the editor, and with it the box that is reporting the choice.
+    QTimer::singleShot(0, this, [this] {
+        if (m_box->isVisible())
+            Q_EMIT picked();
+    });
+}
+
+} // namespace tvx
+} // namespace Zudunmaf
