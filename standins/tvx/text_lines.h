@@ -18,7 +18,7 @@ class TextLines : public QLabel
 public:
     explicit TextLines(QWidget *parent);
 
-    /// Aligns the text with the layout. QLabel goes by the direction of the text, so that a text from left to right would
+    /// Aligns the text with the layout. QLabel aligns by the direction of the text, so that a text from left to right would
     /// not begin at the edge in a layout from right to left.
     void setLeadingAlignment(Qt::Alignment vertical);
 
