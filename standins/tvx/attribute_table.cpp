@@ -12,6 +12,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLocale>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -249,6 +250,13 @@ void AttributeTable::currentChanged(const QModelIndex &current, const QModelInde
     // The view tells a screen reader of the new row, which may not have been painted yet.
     m_hints.updateSpokenText(current.row());
     QTableWidget::currentChanged(current, previous);
+}
+
+void AttributeTable::focusInEvent(QFocusEvent *event)
+{
+    QTableWidget::focusInEvent(event);
+    // After QWidget::setFocus() has announced the table.
+    QTimer::singleShot(0, this, [this] { m_hints.announceCurrentRow(); });
 }
 
 void AttributeTable::keyPressEvent(QKeyEvent *event)

@@ -26,12 +26,6 @@ bool isBoolean(const QTableWidgetItem &item)
     return item.data(DmlAttrTypeRole).toInt() == DmlAttrBoolean;
 }
 
-void setSpoken(QTableWidgetItem *item, int role, const QString &text)
-{
-    if (item && item->data(role).toString() != text)
-        item->setData(role, text.isEmpty() ? QVariant() : QVariant(text));
-}
-
 } // namespace
 
 CellHints::CellHints(AttributeTable *table, Kind kind)
@@ -158,17 +152,54 @@ void CellHints::updateSpokenText(int row) const
     QTableWidgetItem *value = m_hasScreenReader ? m_table->rowItem(row) : nullptr;
     if (!value)
         return;
-    const QSignalBlocker blocker(m_table->model());
     const QString cell = value->text();
     const Hint hint = hintOf(*value);
-    setSpoken(value, Qt::AccessibleTextRole, hint.start);
+    setSpoken(row, AttributeTable::ValueColumn, Qt::AccessibleTextRole, hint.start);
     const QString end = hint.conditions > 0 ? textOf(texts::ChosenTimes).arg(hint.conditions) : hint.end;
-    setSpoken(value, Qt::AccessibleDescriptionRole, end);
+    setSpoken(row, AttributeTable::ValueColumn, Qt::AccessibleDescriptionRole, end);
     // The current cell is that of the name.
     QStringList spoken = {cell + hint.start, end};
     spoken.removeAll(QString());
-    setSpoken(m_table->item(row, AttributeTable::NameColumn), Qt::AccessibleDescriptionRole,
+    setSpoken(row, AttributeTable::NameColumn, Qt::AccessibleDescriptionRole,
               spoken.join(QStringLiteral(", ")));
+}
+
+void CellHints::announceCurrentRow() const
+{
+    const QModelIndex current = m_table->currentIndex();
+    if (!m_hasScreenReader || !m_table->hasFocus() || !current.isValid())
+        return;
+    updateSpokenText(current.row());
+    if (QAccessibleInterface *cell = accessibleCell(current.row(), current.column())) {
+        QAccessibleEvent event(cell, QAccessible::Focus);
+        QAccessible::updateAccessibility(&event);
+    }
+}
+
+QAccessibleInterface *CellHints::accessibleCell(int row, int column) const
+{
+    QAccessibleInterface *table = QAccessible::queryAccessibleInterface(m_table);
+    QAccessibleTableInterface *cells = table ? table->tableInterface() : nullptr;
+    return cells ? cells->cellAt(row, column) : nullptr;
+}
+
+/// Sets what is read of a cell. Announces a text that replaces another one, because screen readers cache texts.
+void CellHints::setSpoken(int row, int column, int role, const QString &text) const
+{
+    QTableWidgetItem *item = m_table->item(row, column);
+    const QString old = item ? item->data(role).toString() : text;
+    if (old == text)
+        return;
+    {
+        const QSignalBlocker blocker(m_table->model());
+        item->setData(role, text.isEmpty() ? QVariant() : QVariant(text));
+    }
+    QAccessibleInterface *cell = old.isEmpty() ? nullptr : accessibleCell(row, column);
+    if (!cell)
+        return;
+    const bool isName = role == Qt::AccessibleTextRole;
+    QAccessibleEvent event(cell, isName ? QAccessible::NameChanged : QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&event);
 }
 
 } // namespace tvx

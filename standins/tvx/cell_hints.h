@@ -40,6 +40,8 @@ public:
     void paint() const;
     /// Updates what a screen reader reads of a row. Does nothing if none runs, or if the row is out of range.
     void updateSpokenText(int row) const;
+    /// Makes a screen reader read the current row, as the view does only when the row changes.
+    void announceCurrentRow() const;
 
 private:
     Q_DISABLE_COPY(CellHints)
@@ -52,6 +54,8 @@ private:
 
     void accessibilityActiveChanged(bool active) override;
     Hint hintOf(const QTableWidgetItem &value) const;
+    void setSpoken(int row, int column, int role, const QString &text) const;
+    QAccessibleInterface *accessibleCell(int row, int column) const;
     QString emptyChosenText(const QTableWidgetItem &value, const AttributeFacts &facts) const;
     void paintRow(QPainter *painter, int row, const QStyleOptionViewItem &cell) const;
     QRect paintMark(QPainter *painter, QRect area, int conditions) const;

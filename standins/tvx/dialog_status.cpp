@@ -11,6 +11,7 @@
 
 #include <QAccessible>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 
 namespace Zudunmaf
@@ -98,6 +99,7 @@ void DialogStatus::updateTexts() const
     describe(chosen,
              chosen->lastRefusal().isEmpty() ? chosen->emptyText().shownText() : chosen->lastRefusal());
 
+    describe(m_widgets.filterText, top->emptyText().shownText());
     if (m_warning.isEmpty())
         m_description.show();
     else

@@ -60,9 +60,11 @@ EditorContent::EditorContent(QWidget *editor, const QTableWidgetItem &item)
     : QObject(editor)
     , m_parts(partsOf(editor))
     , m_units(AttributeFacts(item, -1).units())
+    , m_taken(AttributeFacts(item, -1).taken())
 {
     restart(item);
     connectParts();
+    describeRefused(QString());
 }
 
 void EditorContent::restart(const QTableWidgetItem &item)
@@ -200,10 +202,22 @@ void EditorContent::describeRefused(const QString &message) const
 {
     const QWidget *refused = refusedBox();
     for (QWidget *part : m_parts) {
-        const QString description = refused && part == refused ? message : QString();
+        const bool hasMessage = refused && part == refused && !message.isEmpty();
+        const QString description = hasMessage ? message : spokenLimits(part);
         if (part->accessibleDescription() != description)
             part->setAccessibleDescription(description);
     }
+}
+
+/// Returns the limits of a box with their units; for another part, what the attribute takes.
+QString EditorContent::spokenLimits(const QWidget *part) const
+{
+    const auto *box = qobject_cast<const QAbstractSpinBox *>(part);
+    if (!box)
+        return m_taken;
+    const NumberEntry entry(*box);
+    const QString limits = tvx::textOf(texts::Range).arg(entry.minimum(), entry.maximum());
+    return m_units.isEmpty() ? limits : limits + QLatin1Char(' ') + m_units;
 }
 
 void EditorContent::announceRefused() const

@@ -45,7 +45,7 @@ public:
     QString refusalSentences() const;
     /// Gives the focus to the box with the refused entry and selects it.
     void selectRefused() const;
-    /// Makes `message` the accessible description of the box with the refused entry, and clears that of the others.
+    /// Makes `message` the accessible description of the box with the refused entry. The others say what they take.
     void describeRefused(const QString &message) const;
     /// Makes a screen reader read that description again.
     void announceRefused() const;
@@ -63,6 +63,7 @@ Q_SIGNALS:
 
 private:
     void connectParts();
+    QString spokenLimits(const QWidget *part) const;
     void noteEdit();
     QStringList texts() const;
     QStringList content() const;
@@ -73,6 +74,8 @@ private:
     QVector<QWidget *> m_parts;
     QStringList m_loaded;
     QString m_units;
+    /// What the attribute takes.
+    QString m_taken;
     bool m_isUnset = false;
     bool m_showsValue = true;
     bool m_isTouched = false;

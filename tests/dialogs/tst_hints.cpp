@@ -98,6 +98,17 @@ private Q_SLOTS:
                  QString("depth\nAllowed: -100.000 to 2000.000 mm  \u00b7  float  \u00b7  default 0.5 mm"));
     }
 
+    void editorsAreDescribed()
+    {
+        choose({"depth", "note"});
+        press(Qt::Key_F2);
+        QCOMPARE(QApplication::focusWidget()->accessibleDescription(), QString("-100.000 to 2000.000 mm"));
+        type("3000");
+        QCOMPARE(QApplication::focusWidget()->accessibleDescription(), QString("At most 2000.000 mm"));
+        press({Qt::Key_Escape, Qt::Key_Down, Qt::Key_F2});
+        QCOMPARE(QApplication::focusWidget()->accessibleDescription(), QString("text"));
+    }
+
     void chosenConditionsAreMarked()
     {
         if (!inFilter())
