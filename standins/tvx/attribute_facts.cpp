@@ -56,10 +56,15 @@ QString shortened(const QStringList &entries)
 
 } // namespace
 
+QString factSeparator()
+{
+    return QStringLiteral("  \u00b7  "); // a middle dot
+}
+
 QString joinedFacts(QStringList parts)
 {
     parts.removeAll(QString());
-    return parts.join(QStringLiteral("  \u00b7  ")); // a middle dot
+    return parts.join(factSeparator());
 }
 
 AttributeFacts::AttributeFacts(const QTableWidgetItem &item, int displayUnits)

@@ -48,6 +48,8 @@ private:
     int m_units;
 };
 
+/// Returns what separates the parts of a description.
+QString factSeparator();
 /// Joins parts of a description; leaves out empty ones.
 QString joinedFacts(QStringList parts);
 

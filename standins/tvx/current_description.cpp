@@ -30,18 +30,14 @@ void CurrentDescription::show() const
         table = m_widgets.topView;
     const QString notice = chosen->lastRefusal();
     if (!table->rowItem(table->currentRow())) {
-        m_widgets.description->setLines(QString(), notice, QString());
+        m_widgets.description->setLines(notice, QString(), false);
         return;
     }
     const AttributeFacts facts = table->hints().factsOf(table->currentRow());
-    QStringList title = facts.title();
-    if (!notice.isEmpty()) {
-        m_widgets.description->setLines(QString(), notice, joinedFacts(title << details(facts)));
-        return;
-    }
-    const QString names = joinedFacts(title);
-    const auto emphasized = title.value(0).size();
-    m_widgets.description->setLines(names.left(emphasized), names.mid(emphasized), details(facts));
+    if (notice.isEmpty())
+        m_widgets.description->setLines(joinedFacts(facts.title()), details(facts), true);
+    else
+        m_widgets.description->setLines(notice, joinedFacts(facts.title() << details(facts)), false);
 }
 
 QString CurrentDescription::details(const AttributeFacts &facts) const

@@ -1,5 +1,7 @@
 #include "tvx/description_label.h"
 
+#include "tvx/attribute_facts.h"
+
 #include <QPainter>
 #include <QStyle>
 
@@ -24,6 +26,22 @@ QRect drawPart(QPainter *painter, const QRect &area, Qt::LayoutDirection directi
     return direction == Qt::RightToLeft ? area.adjusted(0, 0, -used, 0) : area.adjusted(used, 0, 0, 0);
 }
 
+/// Draws the parts of a line one by one: in a layout from right to left, each part keeps its own direction.
+void drawLine(QPainter *painter, QRect area, Qt::LayoutDirection direction, const QString &line, bool isTitle)
+{
+    const QFont plain = painter->font();
+    QFont bold = plain;
+    bold.setBold(isTitle);
+    painter->setFont(bold);
+    const QStringList parts = line.split(factSeparator());
+    for (int i = 0; i < parts.size() && area.width() > 0; ++i) {
+        if (i > 0)
+            area = drawPart(painter, area, direction, factSeparator());
+        area = drawPart(painter, area, direction, parts[i]);
+        painter->setFont(plain);
+    }
+}
+
 } // namespace
 
 DescriptionLabel::DescriptionLabel(QWidget *parent)
@@ -32,13 +50,12 @@ DescriptionLabel::DescriptionLabel(QWidget *parent)
     setWordWrap(false);
 }
 
-void DescriptionLabel::setLines(const QString &emphasized, const QString &rest, const QString &second)
+void DescriptionLabel::setLines(const QString &first, const QString &second, bool isTitle)
 {
-    const QString lines = emphasized + rest + (second.isEmpty() ? QString() : QLatin1Char('\n') + second);
-    const int length = static_cast<int>(emphasized.size());
-    if (lines == text() && length == m_emphasizedLength)
+    const QString lines = second.isEmpty() ? first : first + QLatin1Char('\n') + second;
+    if (lines == text() && isTitle == m_isTitle)
         return;
-    m_emphasizedLength = length;
+    m_isTitle = isTitle;
     setText(lines);
     setToolTip(lines);
     update();
@@ -54,16 +71,9 @@ void DescriptionLabel::paintEvent(QPaintEvent *event)
     painter.setPen(palette().color(foregroundRole()));
     painter.setLayoutDirection(Qt::LayoutDirectionAuto);
     const QRect area = contentsRect();
-    const QString first = text().section(QLatin1Char('\n'), 0, 0);
-    const QString second = text().section(QLatin1Char('\n'), 1);
-
-    QFont bold = font();
-    bold.setBold(true);
-    painter.setFont(bold);
-    const QRect beside = drawPart(&painter, area, layoutDirection(), first.left(m_emphasizedLength));
-    painter.setFont(font());
-    drawPart(&painter, beside, layoutDirection(), first.mid(m_emphasizedLength));
-    drawPart(&painter, area.adjusted(0, fontMetrics().lineSpacing(), 0, 0), layoutDirection(), second);
+    drawLine(&painter, area, layoutDirection(), text().section(QLatin1Char('\n'), 0, 0), m_isTitle);
+    drawLine(&painter, area.adjusted(0, fontMetrics().lineSpacing(), 0, 0), layoutDirection(),
+             text().section(QLatin1Char('\n'), 1), false);
 }
 
 } // namespace tvx

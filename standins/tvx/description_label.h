@@ -8,8 +8,8 @@ namespace Zudunmaf
 namespace tvx
 {
 
-/// Two lines about the current attribute, the first one beginning in bold. A line that is too long is elided on the
-/// screen only: text() is complete, and so is the tool tip. The user can select the text with the mouse.
+/// Two lines about the current attribute. A line that is too long is elided on the screen only: text() is complete, and
+/// so is the tool tip. The user can select the text with the mouse.
 class DescriptionLabel : public TextLines
 {
     Q_OBJECT
@@ -17,14 +17,14 @@ class DescriptionLabel : public TextLines
 public:
     explicit DescriptionLabel(QWidget *parent);
 
-    /// Sets the lines. `emphasized` is the start of the first line, and `rest` follows it.
-    void setLines(const QString &emphasized, const QString &rest, const QString &second);
+    /// Sets the lines, whose parts are joined by factSeparator(). With `isTitle`, the first part is in bold.
+    void setLines(const QString &first, const QString &second, bool isTitle);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    int m_emphasizedLength = 0;
+    bool m_isTitle = false;
 };
 
 } // namespace tvx

@@ -103,7 +103,7 @@ void DialogStatus::updateTexts() const
     if (m_warning.isEmpty())
         m_description.show();
     else
-        m_widgets.description->setLines(m_warning, QString(), QString());
+        m_widgets.description->setLines(m_warning, QString(), false);
     const QString line = currentResultLine(*chosen);
     setText(m_widgets.preview, line.isEmpty() ? QString() : textOf(texts::PreviewLine).arg(line));
 }
