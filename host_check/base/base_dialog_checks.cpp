@@ -37,6 +37,11 @@ bool isWideInteger(const DmlAttrDef &definition)
     return definition.type == DmlAttrInteger && double(definition.intMax) - double(definition.intMin) >= 3;
 }
 
+bool isOther(const DmlAttrDef &definition)
+{
+    return !isWideInteger(definition);
+}
+
 QString allGroups(Kind kind)
 {
     return messageText(kind == Kind::Filter ? keys::FilterAllGroupsRow : keys::FeatureAllGroupsRow);
@@ -300,7 +305,8 @@ public:
     explicit OpenRange(const Settings &settings)
         : dialog(openDialog(settings, Kind::Filter))
     {
-        dialog.add(dialog.topRowWhere(isAny, "attribute"));
+        // Another attribute: a base may select the row of one that is chosen already.
+        dialog.add(dialog.topRowWhere(isOther, "attribute of another type"));
         const int row = dialog.add(dialog.topRowWhere(isWideInteger, "integer attribute"));
         dialog.clickRow(dialog.chosenList(), row);
         dialog->editCurrentItem();
@@ -398,7 +404,7 @@ void openEditorIsKept(const Settings &settings)
                "another result");
         break;
     case Way::Add:
-        dialog.add(dialog.topRowWhere(isAny, "attribute"));
+        dialog.add(dialog.topRowWhere(isOther, "attribute of another type"));
         break;
     case Way::Remove:
         dialog.clickRow(dialog.chosenList(), 0);
