@@ -107,8 +107,11 @@ QStringList AttributeFacts::title() const
 QStringList AttributeFacts::facts() const
 {
     QStringList parts = factsWithoutLimits();
-    if (!parts.isEmpty())
-        parts.insert(1, isUnlimited() ? units() : limits());
+    if (parts.isEmpty())
+        return parts;
+    // Entries can fill the line.
+    const bool isNumber = m_definition->type == DmlAttrInteger || m_definition->type == DmlAttrFloat;
+    parts.insert(isNumber ? 1 : static_cast<int>(parts.size()), isUnlimited() ? units() : limits());
     parts.removeAll(QString());
     return parts;
 }

@@ -27,7 +27,7 @@ public:
     QString taken() const;
     /// Returns the prompt, the name and the group. Leaves out what is empty or said already.
     QStringList title() const;
-    /// Returns the type, the limits or entries, and the default. Leaves out what is empty.
+    /// Returns the type, the limits, the default and the entries. Leaves out what is empty.
     QStringList facts() const;
     /// Returns the type and the default.
     QStringList factsWithoutLimits() const;

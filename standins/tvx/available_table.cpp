@@ -159,8 +159,10 @@ void AvailableTable::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
         AttributeTable::keyPressEvent(event);
-    else if (!event->isAutoRepeat())
+    else if (!event->isAutoRepeat() && visibleRowCount() > 0)
         Q_EMIT rowsActivated();
+    else if (!event->isAutoRepeat())
+        Q_EMIT enteredWithoutRows();
 }
 
 /// QAbstractItemView takes two clicks of any button for a double-click.

@@ -50,6 +50,8 @@ public:
 Q_SIGNALS:
     /// Emitted when Enter is pressed or a row double-clicked.
     void rowsActivated();
+    /// Emitted when Enter is pressed while no row is visible.
+    void enteredWithoutRows();
     /// Emitted when rows were hidden or shown outside of a batch update: once for all of them, from the event loop.
     void rowsHiddenOrShown();
 

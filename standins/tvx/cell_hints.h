@@ -37,6 +37,9 @@ public:
     /// Returns what is said of the attribute in a row, which must have a value item.
     AttributeFacts factsOf(int row) const;
 
+    /// Returns the hint in an empty cell of the value column.
+    QString textOfEmptyCell(const QTableWidgetItem &value) const { return hintOf(value).start; }
+
     void paint() const;
     /// Updates what a screen reader reads of a row. Does nothing if none runs, or if the row is out of range.
     void updateSpokenText(int row) const;

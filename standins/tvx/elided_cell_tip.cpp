@@ -1,8 +1,9 @@
 #include "tvx/elided_cell_tip.h"
 
+#include "tvx/attribute_table.h"
+
 #include <QHelpEvent>
 #include <QStyle>
-#include <QTableWidget>
 #include <QToolTip>
 
 namespace Zudunmaf
@@ -10,7 +11,7 @@ namespace Zudunmaf
 namespace tvx
 {
 
-ElidedCellTip::ElidedCellTip(QTableWidget *table)
+ElidedCellTip::ElidedCellTip(AttributeTable *table)
     : QObject(table)
     , m_table(table)
 {
@@ -29,7 +30,9 @@ bool ElidedCellTip::showTip(const QHelpEvent &event) const
     const QTableWidgetItem *cell = m_table->itemAt(event.pos());
     if (!cell)
         return false;
-    const QString text = cell->text();
+    const bool isValue = cell->column() == AttributeTable::ValueColumn;
+    const QString text =
+        isValue && cell->text().isEmpty() ? m_table->hints().textOfEmptyCell(*cell) : cell->text();
     const int margin =
         2 * (m_table->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, m_table) + 1);
     if (m_table->fontMetrics().horizontalAdvance(text) + margin <= m_table->visualItemRect(cell).width())

@@ -4,20 +4,21 @@
 #include <QObject>
 
 class QHelpEvent;
-class QTableWidget;
 
 namespace Zudunmaf
 {
 namespace tvx
 {
 
-/// Shows the whole text of an elided cell as a tool tip, followed by the tool tip of the item. Owned by the table.
+class AttributeTable;
+
+/// Shows the whole text of an elided cell, or its hint, as a tool tip, followed by the tool tip of the item. Owned by the table.
 class ElidedCellTip : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit ElidedCellTip(QTableWidget *table);
+    explicit ElidedCellTip(AttributeTable *table);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -25,7 +26,7 @@ protected:
 private:
     bool showTip(const QHelpEvent &event) const;
 
-    QTableWidget *m_table;
+    AttributeTable *m_table;
 };
 
 } // namespace tvx

@@ -82,7 +82,8 @@ EmptyTableAdvice::Advice EmptyTableAdvice::computed() const
 EmptyTableAdvice::Advice EmptyTableAdvice::adviceOnMatches(const Matches &matches, const char *foundKey) const
 {
     Advice advice;
-    advice.canWiden = m_criteria.isNarrowedByList() && (matches.count > 0 || m_criteria.wasFillNarrowed());
+    advice.canWiden = m_criteria.isNarrowedByList() &&
+                      (matches.count > 0 ? matches.isShownLabel : m_criteria.wasFillNarrowed());
     QStringList sentences;
     if (matches.chosenCount == 1)
         sentences.append(textOf(texts::IsChosen).arg(matches.firstChosen));
@@ -104,6 +105,7 @@ EmptyTableAdvice::Advice EmptyTableAdvice::adviceOnMatches(const Matches &matche
 EmptyTableAdvice::Matches EmptyTableAdvice::matches(bool byPrompt, bool showsPrompt) const
 {
     Matches matches;
+    matches.isShownLabel = byPrompt == showsPrompt;
     const QRegularExpression expression = standins::wildcardExpression(m_criteria.text());
     const QSet<QString> chosen = hiddenAsChosen();
     const QList<QTableWidgetItem *> items = m_widgets.topView->allItems();
@@ -112,7 +114,7 @@ EmptyTableAdvice::Matches EmptyTableAdvice::matches(bool byPrompt, bool showsPro
         if (!definition || !expression.match(labelOf(*definition, byPrompt)).hasMatch())
             continue;
         const QString label = labelOf(*definition, showsPrompt);
-        const QString name = byPrompt == showsPrompt
+        const QString name = matches.isShownLabel
                                  ? label
                                  : label + QStringLiteral(" (%1)").arg(labelOf(*definition, byPrompt));
         if (chosen.contains(nameOf(*item))) {

@@ -38,6 +38,8 @@ public:
 
 private:
     struct Matches {
+        /// Whether the matching label is the shown one.
+        bool isShownLabel = false;
         int count = 0;
         int chosenCount = 0;
         /// The first few of those that are not chosen, and the first chosen one.

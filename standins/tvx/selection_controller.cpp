@@ -104,6 +104,7 @@ void SelectionController::connectTables()
         top->viewport()->update();
     });
     NameColumnWidth::link(top->nameColumnWidth(), chosen->nameColumnWidth());
+    connect(top, &AvailableTable::enteredWithoutRows, m_guide, &EmptyTableGuide::showFirstMatch);
     connect(top, &AvailableTable::rowsHiddenOrShown, this, &SelectionController::refresh);
     connect(top, &AvailableTable::itemSelectionChanged, this, &SelectionController::refresh);
     connect(top, &AvailableTable::currentItemChanged, this, &SelectionController::refresh);

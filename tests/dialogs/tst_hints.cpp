@@ -147,7 +147,7 @@ private Q_SLOTS:
             << "Holes"
             << "width of"
             << "By description: width (Width of it)." + enter << "width"
-            << "";
+            << "width";
         QTest::newRow("another group")
             << "Holes"
             << "note"
