@@ -2,7 +2,6 @@
 
 #include "tvx/button_glyph.h"
 
-#include <QFileInfo>
 #include <QIcon>
 #include <QPixmap>
 #include <QPushButton>
@@ -29,7 +28,7 @@ QIcon filePicture(const QString &name)
 {
     const QString path = QLatin1String("icons:") + name;
     // QIcon is not null for a file that is not a picture; QPixmap is.
-    if (name.isEmpty() || !QFileInfo(path).isFile() || QPixmap(path).isNull())
+    if (QPixmap(path).isNull())
         return QIcon();
     return QIcon(path);
 }

@@ -143,7 +143,6 @@ void RowOrder::rowsRestored(int rowCount, const QVector<int> &arrivalIndexes)
 
 void RowOrder::indexRows(int rowCount)
 {
-    m_arrivalIndexes.reserve(rowCount);
     while (m_arrivalIndexes.size() < rowCount)
         m_arrivalIndexes.append(static_cast<int>(m_arrivalIndexes.size()));
 }

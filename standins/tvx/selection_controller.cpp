@@ -229,8 +229,6 @@ bool SelectionController::eventFilter(QObject *watched, QEvent *event)
     case QEvent::FontChange:
         fitToFont();
         break;
-    case QEvent::Resize:
-        break;
     default:
         break;
     }

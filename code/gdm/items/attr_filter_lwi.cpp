@@ -17,16 +17,14 @@ namespace Zudunmaf
 namespace
 {
 
-const QLatin1Char Blank(' ');
-
 QString number(const QString &text, int value)
 {
-    return text.arg(value, 0, 10, Blank);
+    return text.arg(value);
 }
 
 QString number(const QString &text, double value)
 {
-    return text.arg(value, 0, 'f', FloatDecimals, Blank);
+    return text.arg(value, 0, 'f', FloatDecimals);
 }
 
 template <class Number>
@@ -39,7 +37,7 @@ QString rangeCell(Number low, Number high)
 template <class Number>
 QString rangeLine(Number low, const QString &label, Number high)
 {
-    return number(number(QString(QLatin1String("%1 <= %2 <= %3")), low).arg(label, 0, Blank), high);
+    return number(number(QString(QLatin1String("%1 <= %2 <= %3")), low).arg(label), high);
 }
 
 /// Returns the text or the option's entry of a condition that is set; empty if there is none.
@@ -68,7 +66,6 @@ AttrFilterLWI::AttrFilterLWI(const DmlAttrValue &condition)
     : DmlAttrLWI(ItemType_AttrFilter)
 {
     takeRecord(condition);
-    setFlags(flags() | Qt::ItemIsEditable);
 }
 
 AttrFilterLWI::AttrFilterLWI(const AttrFilterLWI &other)
@@ -216,7 +213,7 @@ QString AttrFilterLWI::filterLine(const DmlAttrDef &definition) const
     case DmlAttrText:
     case DmlAttrOption: {
         const QString chosen = chosenText(definition, *condition);
-        return chosen.isEmpty() ? label : QString(QLatin1String("%1 = ")).arg(label, 0, Blank) + chosen;
+        return chosen.isEmpty() ? label : QString(QLatin1String("%1 = ")).arg(label) + chosen;
     }
     case DmlAttrInteger:
         return rangeLine(condition->intLow, label, condition->intHigh);

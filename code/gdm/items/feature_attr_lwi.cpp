@@ -18,7 +18,6 @@ namespace Zudunmaf
 FeatureAttrLWI::FeatureAttrLWI()
     : DmlAttrLWI(ItemType_FeatureAttr)
 {
-    setFlags(flags() | Qt::ItemIsEditable | Qt::ItemIsSelectable | Qt::ItemIsEnabled);
 }
 
 FeatureAttrLWI::FeatureAttrLWI(const FeatureAttrLWI &other) = default;
