@@ -176,8 +176,8 @@ void ChosenTable::commitData(QWidget *editor)
     if (QTableWidgetItem *value = editedItem())
         Q_EMIT valueAboutToChange(value);
     AttributeTable::commitData(editor);
-    Q_EMIT valueChanged();
     hints().updateSpokenText(row);
+    Q_EMIT valueChanged();
     // The delegate's signals may have made the host close the editor or remove the row.
     const QTableWidgetItem *value = editor == openEditor() ? editedItem() : nullptr;
     if (value)

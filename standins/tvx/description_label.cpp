@@ -57,7 +57,7 @@ void DescriptionLabel::setLines(const QString &first, const QString &second, boo
         return;
     m_isTitle = isTitle;
     setText(lines);
-    setToolTip(lines);
+    setToolTip(plainToolTip(lines));
     update();
 }
 

@@ -7,6 +7,7 @@
 #include "tvx/description_label.h"
 #include "tvx/live_preview.h"
 #include "tvx/selection_widgets.h"
+#include "tvx/text_lines.h"
 #include "tvx/tvx_texts.h"
 
 #include <QAccessible>
@@ -41,7 +42,7 @@ void setText(QLabel *label, const QString &text)
 {
     if (label->text() != text)
         label->setText(text);
-    label->setToolTip(text);
+    label->setToolTip(plainToolTip(text));
 }
 
 } // namespace
@@ -87,7 +88,7 @@ void DialogStatus::updateButtons() const
     setEnabled(m_widgets.addButton, top->hasVisibleSelection(), top);
     setEnabled(m_widgets.removeButton, chosen->hasVisibleSelection(), chosen);
     setEnabled(m_widgets.undoButton, m_history.canUndo(), chosen);
-    m_widgets.undoButton->setToolTip(m_history.description());
+    m_widgets.undoButton->setToolTip(plainToolTip(m_history.description()));
     setEnabled(m_widgets.clearButton, chosen->rowCount() > 0, chosen);
 }
 

@@ -1,6 +1,7 @@
 #include "tvx/elided_cell_tip.h"
 
 #include "tvx/attribute_table.h"
+#include "tvx/text_lines.h"
 
 #include <QHelpEvent>
 #include <QStyle>
@@ -38,7 +39,7 @@ bool ElidedCellTip::showTip(const QHelpEvent &event) const
     if (m_table->fontMetrics().horizontalAdvance(text) + margin <= m_table->visualItemRect(cell).width())
         return false;
     const QString tip = cell->toolTip();
-    QToolTip::showText(event.globalPos(), tip.isEmpty() ? text : text + QLatin1Char('\n') + tip,
+    QToolTip::showText(event.globalPos(), plainToolTip(tip.isEmpty() ? text : text + QLatin1Char('\n') + tip),
                        m_table->viewport());
     return true;
 }

@@ -2,11 +2,17 @@
 
 #include <QEvent>
 #include <QStyle>
+#include <QTextDocument>
 
 namespace Zudunmaf
 {
 namespace tvx
 {
+
+QString plainToolTip(const QString &text)
+{
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
+}
 
 TextLines::TextLines(QWidget *parent)
     : QLabel(parent)

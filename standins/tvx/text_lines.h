@@ -8,6 +8,9 @@ namespace Zudunmaf
 namespace tvx
 {
 
+/// Returns a tool tip that shows the text as it is: QToolTip shows a text with a tag, such as "<b>", as rich text.
+QString plainToolTip(const QString &text);
+
 /// A label for several lines of plain text that the mouse can select. Its width is ignored and its height is fixed, so its
 /// hints do not measure the text: QLabel would lay it out several times for each new text, which takes 17 % more
 /// instructions for adding a row.

@@ -3,6 +3,7 @@
 #include <QClipboard>
 #include <QScreen>
 #include <QScrollBar>
+#include <QTextDocumentFragment>
 
 /// The lower half of the dialog: removing rows, the context menu, repainting, and the line of description.
 class ChosenTableTest : public DialogTest
@@ -142,6 +143,15 @@ private Q_SLOTS:
         press(Qt::Key_Escape);
     }
 
+    void tagsAreShownAsText()
+    {
+        choose({"note"});
+        enter("note", "<b>x");
+        for (const QLabel *label : dialog->findChildren<QLabel *>())
+            QVERIFY2(label->textFormat() == Qt::PlainText, qPrintable(label->objectName()));
+        QCOMPARE(QTextDocumentFragment::fromHtml(preview->toolTip()).toPlainText(), preview->text());
+    }
+
     void linesAreCopied()
     {
         choose({"note", "width", "finish"});
@@ -165,6 +175,13 @@ private Q_SLOTS:
         QVERIFY(!description->text().contains("Allowed"));
         press(Qt::Key_Down);
         QVERIFY(description->text().contains("Note"));
+        press(Qt::Key_Up, Qt::ControlModifier);
+        QCOMPARE(selectedNames(chosenList), QStringList("note"));
+        QVERIFY(description->text().contains("depth"));
+        topView->setFocus();
+        const QString before = description->text();
+        press(Qt::Key_Down, Qt::ControlModifier);
+        QVERIFY(description->text() != before);
     }
 
 private:
