@@ -197,7 +197,7 @@ private Q_SLOTS:
         DmlAttrDef &narrow = real("narrow", 0.0006, 0.0014, 0), &quirk = integer("a%1b", 0, 9, 0);
         host().dictionary = eachType();
         host().dictionary << &text("a", "") << &option("a = b", 0) << &narrow << &quirk
-                          << &integer("%3", 0, 9, 0) << &integer("%2", 0, 9, 0);
+                          << &integer("%3", 0, 9, 0) << &integer("%2", 0, 9, 0) << &integer("b%0", 0, 9, 0);
         const QJsonObject table = jsonTable("lines.json");
         const QStringList statuses{"read", "unknown", "ambiguous", "option gone", "out of range"};
         QCOMPARE(int(table.size()), int(statuses.size()));

@@ -177,6 +177,11 @@ private Q_SLOTS:
     {
         QVERIFY(dialog->width() <= 1366);
         QVERIFY(dialog->height() <= 768 - 40);
+        const int widest = chosenList->columnWidth(Name);
+        groupList->setCurrentText("Holes");
+        dialog->setDisplayUnits(1);
+        QVERIFY(topView->columnWidth(Name) < widest);
+        QCOMPARE(chosenList->columnWidth(Name), topView->columnWidth(Name));
         auto *splitter = dialog->findChild<QSplitter *>();
         for (const QList<int> &sizes : {QList<int>{0, 10000}, QList<int>{10000, 0}}) {
             splitter->setSizes(sizes);
@@ -208,6 +213,11 @@ private Q_SLOTS:
         press(Qt::Key_F2);
         QVERIFY(editor()->width() >= editor()->minimumSizeHint().width());
         setFilter("pad");
+        QCOMPARE(topView->columnWidth(Name), chosenList->columnWidth(Name));
+        for (const QTableWidget *table : {topView, chosenList}) {
+            table->horizontalHeader()->resizeSection(Name, table->columnWidth(Name) - 9);
+            QCOMPARE(topView->columnWidth(Name), chosenList->columnWidth(Name));
+        }
         dialog->setFont(QFont(font.family(), 40));
         filterText->clear();
         QCOMPARE(topView->rowHeight(rowOf(topView, "note")), topView->rowHeight(rowOf(topView, "pad_00")));
@@ -217,7 +227,7 @@ private Q_SLOTS:
     void longNameIsElidedAndInTheToolTip()
     {
         dialog->resize(640, 480);
-        choose({LongName});
+        choose({LongName, "depth"});
         QTableWidget *table = inFilter() ? topView : chosenList;
         const int row = rowOf(table, LongName);
         table->scrollToItem(table->item(row, Name));
@@ -235,8 +245,13 @@ private Q_SLOTS:
         QImage blank(dots.size(), dots.format());
         blank.fill(dots.pixelColor(0, 0));
         QCOMPARE(dots, blank);
-        QHelpEvent help(QEvent::ToolTip, cell.center(), table->viewport()->mapToGlobal(cell.center()));
-        QCoreApplication::sendEvent(table->viewport(), &help);
+        const auto pointAt = [table](const QPoint &place) {
+            QHelpEvent help(QEvent::ToolTip, place, table->viewport()->mapToGlobal(place));
+            QCoreApplication::sendEvent(table->viewport(), &help);
+        };
+        pointAt(cellRect(table, "depth", Name).center());
+        QVERIFY2(!QToolTip::text().startsWith("depth\n"), qPrintable(QToolTip::text()));
+        pointAt(cell.center());
         QVERIFY2(QToolTip::text().contains(LongName), qPrintable(QToolTip::text()));
         QToolTip::hideText();
         setFilter("name_of_sixty");
@@ -308,6 +323,8 @@ private Q_SLOTS:
             QCOMPARE(dialog->setButtonPixmap(TvxAttributesSelectionDialog::Buttons_Remove, name),
                      found[name]);
             QVERIFY(!removeButton->icon().isNull());
+            const QColor middle = removeButton->icon().pixmap(16).toImage().pixelColor(8, 8);
+            QCOMPARE(middle == QColor(Qt::blue), name == "tool.png");
             QVERIFY(!removeButton->text().isEmpty());
         }
         QDir::setSearchPaths("icons", {});

@@ -152,7 +152,9 @@ private:
         if (staysOpen)
             QVERIFY(qApp->focusWidget()->findChild<QLineEdit *>()->hasSelectedText());
         else if (end == Stores)
-            QVERIFY2(description->text().contains(refusal), qPrintable(description->text()));
+            QVERIFY2(description->text().contains(refusal) &&
+                         chosenList->accessibleDescription().contains(refusal),
+                     qPrintable(description->text()));
     }
 
     void pressOn(QComboBox *list, int key) const

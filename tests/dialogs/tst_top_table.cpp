@@ -54,6 +54,7 @@ private Q_SLOTS:
             QVERIFY(filterText->hasFocus());
             QCOMPARE(filterText->selectedText(), QString("pad"));
         }
+        QVERIFY(filterText->isClearButtonEnabled());
         press(Qt::Key_Escape);
         QCOMPARE(filterText->text(), QString());
         QVERIFY(dialog->isVisible());
@@ -104,6 +105,8 @@ private Q_SLOTS:
         click(topView, "note");
         press({Qt::Key_F2, Qt::Key_X, Qt::Key_Space});
         doubleClick(topView, "note", Value);
+        const QPoint place = cellRect(topView, "width", Name).center();
+        QTest::mouseDClick(topView->viewport(), Qt::RightButton, {}, place);
         QVERIFY(topView->findChildren<QLineEdit *>().isEmpty());
         QCOMPARE(results(), QStringList(pick("note", "none")));
     }
@@ -114,12 +117,17 @@ private Q_SLOTS:
         const auto verifyCounts = [&](int visible, int chosen) {
             QCOMPARE(availableLabel->text().section(' ', -3), QString("%1 of %2").arg(visible).arg(total));
             QCOMPARE(chosenLabel->text().section(' ', -1), QString::number(chosen));
+            QCOMPARE(int(dialog->getTopListItems(true).size()), visible);
             QCOMPARE(removeButton->isEnabled(), chosen > 0);
             QCOMPARE(clearButton->isEnabled(), chosen > 0);
         };
         verifyCounts(total, 0);
         QVERIFY(addButton->isEnabled());
         QVERIFY(!undoButton->isEnabled());
+        topView->clearSelection();
+        QVERIFY(!addButton->isEnabled());
+        dialog->setTopViewRowsVisiblity(0, false);
+        QTRY_VERIFY(availableLabel->text().contains(QString::number(total - 1)));
         setFilter("pad_1");
         press(Qt::Key_Return);
         verifyCounts(inFilter() ? 10 : 9, 1);
@@ -133,9 +141,9 @@ private Q_SLOTS:
         QVERIFY(!addButton->isEnabled());
         QVERIFY(removeButton->isEnabled());
         chosenList->clearSelection();
+        QVERIFY(!removeButton->isEnabled());
         filterText->clear();
         QVERIFY(addButton->isEnabled());
-        QVERIFY(!removeButton->isEnabled());
     }
 
     void emptyTablesGiveTheReason()
@@ -244,6 +252,8 @@ private Q_SLOTS:
         std::sort(sorted.begin(), sorted.end());
         click(topView, "width");
         clickHeader(topView, Name);
+        QCOMPARE(visibleNames(topView), sorted);
+        dialog->setDisplayUnits(1);
         QCOMPARE(visibleNames(topView), sorted);
         QCOMPARE(selectedNames(topView), QStringList("width"));
         for (int row = 0; row < topView->rowCount(); ++row)
