@@ -4,7 +4,6 @@
 #include <QComboBox>
 #include <QEvent>
 #include <QProxyStyle>
-#include <QTimer>
 
 namespace Zudunmaf
 {
@@ -44,7 +43,11 @@ OptionPopup::OptionPopup(QComboBox *box)
     box->setStyle(style);
     box->setMaxVisibleItems(MostVisibleEntries);
     box->view()->parentWidget()->installEventFilter(this);
-    connect(box, QOverload<int>::of(&QComboBox::activated), this, &OptionPopup::reportPick);
+    connect(box, QOverload<int>::of(&QComboBox::activated), this, &OptionPopup::noteChoice);
+    for (QTimer *timer : {&m_opening, &m_hiding, &m_picking})
+        timer->setSingleShot(true);
+    connect(&m_opening, &QTimer::timeout, box, &QComboBox::showPopup);
+    connect(&m_picking, &QTimer::timeout, this, &OptionPopup::reportPick);
 }
 
 void OptionPopup::openAfterRelease(QWidget *viewport)
@@ -56,23 +59,24 @@ bool OptionPopup::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::MouseButtonRelease && watched != m_box->view()->parentWidget()) {
         watched->removeEventFilter(this);
-        QTimer::singleShot(0, m_box, &QComboBox::showPopup);
+        m_opening.start();
     } else if (event->type() == QEvent::Hide && watched == m_box->view()->parentWidget()) {
-        m_isJustHidden = true;
-        QTimer::singleShot(0, this, [this] { m_isJustHidden = false; });
+        m_hiding.start();
     }
     return QObject::eventFilter(watched, event);
 }
 
+void OptionPopup::noteChoice()
+{
+    // Later, because picked() closes the editor, and with it the box that is reporting the choice.
+    if (m_hiding.isActive() || m_box->view()->isVisible())
+        m_picking.start();
+}
+
 void OptionPopup::reportPick()
 {
-    if (!m_isJustHidden && !m_box->view()->isVisible())
-        return;
-    // Queued: the slot closes the editor, and with it the box that is reporting the choice.
-    QTimer::singleShot(0, this, [this] {
-        if (m_box->isVisible())
-            Q_EMIT picked();
-    });
+    if (m_box->isVisible())
+        Q_EMIT picked();
 }
 
 } // namespace tvx

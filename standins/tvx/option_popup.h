@@ -2,6 +2,7 @@
 #define TVX_OPTION_POPUP_H
 
 #include <QObject>
+#include <QTimer>
 
 class QComboBox;
 class QWidget;
@@ -35,11 +36,15 @@ protected:
 
 private:
     explicit OptionPopup(QComboBox *box);
+    void noteChoice();
     void reportPick();
 
     QComboBox *m_box;
-    /// QComboBox hides its popup in the same event, before it reports the choice.
-    bool m_isJustHidden = false;
+    /// These three fire when the event that is being delivered is over.
+    QTimer m_opening;
+    /// Active after the popup was hidden: QComboBox hides it in the same event, before it reports the choice.
+    QTimer m_hiding;
+    QTimer m_picking;
 };
 
 } // namespace tvx

@@ -87,12 +87,11 @@ void RowMover::addSelected()
         added.push_back(row);
     }
     values += valuesOf(copies);
-    auto step = copies.empty() ? nullptr : additionStep(this, copies);
+    if (!copies.empty())
+        m_history->push(additionStep(this, copies));
     {
         const BatchUpdate batch(m_available);
         append(std::move(copies));
-        if (step)
-            m_history->push(std::move(step));
         callAddHooks(added);
     }
     m_chosen->rows().select(values);
