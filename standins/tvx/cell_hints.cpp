@@ -10,6 +10,7 @@
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QStyle>
+#include <QtMath>
 
 #include <algorithm>
 
@@ -83,68 +84,76 @@ void CellHints::paint() const
         return;
     const QStyleOptionViewItem cell = m_table->cellOption();
     QPainter painter(m_table->viewport());
-    // A range of numbers keeps its order in a layout from right to left.
-    painter.setLayoutDirection(Qt::LayoutDirectionAuto);
+    painter.setFont(m_table->font());
+    const bool isActive = cell.state & QStyle::State_Active;
+    const QPalette::ColorGroup group = isActive ? QPalette::Active : QPalette::Inactive;
+    const QPalette &palette = cell.palette;
+    const Colours colours = {palette.color(group, QPalette::Text), mutedColour(palette, group, false)};
+    const Colours selected = {palette.color(group, QPalette::HighlightedText),
+                              mutedColour(palette, group, true)};
     // By position, because any number of hidden rows may lie between two visible ones.
     for (int y = m_table->rowViewportPosition(row); row >= 0 && y < height; row = m_table->rowAt(y)) {
-        paintRow(&painter, row, cell);
+        const QModelIndex index = m_table->model()->index(row, AttributeTable::ValueColumn);
+        if (!m_table->indexWidget(index))
+            paintRow(&painter, index, m_table->selectionModel()->isSelected(index) ? selected : colours);
         updateSpokenText(row);
         y += std::max(1, m_table->rowHeight(row));
     }
 }
 
-void CellHints::paintRow(QPainter *painter, int row, const QStyleOptionViewItem &cell) const
+void CellHints::paintRow(QPainter *painter, const QModelIndex &index, const Colours &colours) const
 {
-    const QTableWidgetItem *value = m_table->rowItem(row);
-    const QModelIndex index = m_table->model()->index(row, AttributeTable::ValueColumn);
-    if (!value || m_table->indexWidget(index))
+    const QTableWidgetItem *value = m_table->rowItem(index.row());
+    if (!value)
         return;
-    const bool isSelected = m_table->selectionModel()->isSelected(index);
-    const bool isActive = cell.state & QStyle::State_Active;
-    const QPalette::ColorGroup group = isActive ? QPalette::Active : QPalette::Inactive;
     const int margin = m_table->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, m_table) + 1;
     QRect area = m_table->visualRect(index).adjusted(margin, 0, -margin, 0);
     const Hint hint = hintOf(*value);
     if (hint.conditions > 0) {
-        painter->setPen(cell.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text));
-        area = paintMark(painter, area, hint.conditions);
+        painter->setPen(colours.mark);
+        area = paintAtEnd(painter, area, QStringLiteral("\u2713 %1").arg(hint.conditions));
     }
-    painter->setPen(mutedColour(cell.palette, group, isSelected));
-    paintHint(painter, area, value->text(), hint);
+    painter->setPen(colours.hint);
+    area = paintAtStart(painter, area, value->text(), hint.start);
+    if (!hint.end.isEmpty())
+        paintAtEnd(painter, area, hint.end);
 }
 
-/// Paints a tick and the number at the far edge. Returns the area that is left.
-QRect CellHints::paintMark(QPainter *painter, QRect area, int conditions) const
-{
-    const QString mark = QStringLiteral("\u2713 %1").arg(conditions);
-    painter->drawText(area, flags(Qt::AlignTrailing), mark);
-    const int width = m_table->fontMetrics().horizontalAdvance(mark + QLatin1String("  "));
-    if (m_table->isRightToLeft())
-        area.setLeft(area.left() + width);
-    else
-        area.setRight(area.right() - width);
-    return area;
-}
-
-int CellHints::flags(Qt::Alignment side) const
-{
-    return int(QStyle::visualAlignment(m_table->layoutDirection(), side | Qt::AlignVCenter)) |
-           Qt::TextSingleLine;
-}
-
-void CellHints::paintHint(QPainter *painter, const QRect &area, const QString &cell, const Hint &hint) const
+/// Paints the hint, elided if necessary. Returns the area beside the hint, or beside the text of the cell.
+QRect CellHints::paintAtStart(QPainter *painter, QRect area, const QString &cell, const QString &hint) const
 {
     const QFontMetrics metrics = m_table->fontMetrics();
-    const QString shown = cell + hint.start;
-    int width = metrics.horizontalAdvance(shown);
-    if (!hint.start.isEmpty()) {
-        const QString text =
-            width > area.width() ? metrics.elidedText(hint.start, Qt::ElideRight, area.width()) : hint.start;
-        painter->drawText(area, flags(Qt::AlignLeading), text);
-    }
-    width += 2 * metrics.averageCharWidth() + metrics.horizontalAdvance(hint.end);
-    if (!hint.end.isEmpty() && width <= area.width())
-        painter->drawText(area, flags(Qt::AlignTrailing), hint.end);
+    QString text = cell.isEmpty() ? hint : cell;
+    if (widthOf(text) > area.width())
+        text = metrics.elidedText(text, Qt::ElideRight, area.width());
+    const int width = widthOf(text);
+    if (cell.isEmpty())
+        draw(painter, area, text, m_table->isRightToLeft() ? area.right() + 1 - width : area.left());
+    const int used = width + 2 * metrics.averageCharWidth();
+    return m_table->isRightToLeft() ? area.adjusted(0, 0, -used, 0) : area.adjusted(used, 0, 0, 0);
+}
+
+/// Paints a text at the far edge if there is room. Returns the area beside it.
+QRect CellHints::paintAtEnd(QPainter *painter, QRect area, const QString &text) const
+{
+    const int width = widthOf(text);
+    if (width > area.width())
+        return area;
+    draw(painter, area, text, m_table->isRightToLeft() ? area.left() : area.right() + 1 - width);
+    const int used = width + 2 * m_table->fontMetrics().averageCharWidth();
+    return m_table->isRightToLeft() ? area.adjusted(used, 0, 0, 0) : area.adjusted(0, 0, -used, 0);
+}
+
+int CellHints::widthOf(const QString &text) const
+{
+    return qCeil(m_texts.prepared(text, m_table->font()).size().width());
+}
+
+void CellHints::draw(QPainter *painter, const QRect &area, const QString &text, int left) const
+{
+    const QStaticText &prepared = m_texts.prepared(text, m_table->font());
+    painter->drawStaticText(QPointF(left, area.top() + (area.height() - prepared.size().height()) / 2),
+                            prepared);
 }
 
 void CellHints::updateSpokenText(int row) const

@@ -1,10 +1,14 @@
 #ifndef TVX_CELL_HINTS_H
 #define TVX_CELL_HINTS_H
 
+#include "tvx/prepared_texts.h"
+
 #include <QAccessible>
+#include <QColor>
 #include <QRect>
 #include <QString>
 
+class QModelIndex;
 class QPainter;
 class QTableWidgetItem;
 
@@ -55,21 +59,28 @@ private:
         int conditions = 0; ///< Number of chosen conditions, which the far edge shows in place of `end`.
     };
 
+    struct Colours {
+        QColor mark;
+        QColor hint;
+    };
+
     void accessibilityActiveChanged(bool active) override;
     Hint hintOf(const QTableWidgetItem &value) const;
     void setSpoken(int row, int column, int role, const QString &text) const;
     QAccessibleInterface *accessibleCell(int row, int column) const;
     QString emptyChosenText(const QTableWidgetItem &value, const AttributeFacts &facts) const;
-    void paintRow(QPainter *painter, int row, const QStyleOptionViewItem &cell) const;
-    QRect paintMark(QPainter *painter, QRect area, int conditions) const;
-    int flags(Qt::Alignment side) const;
-    void paintHint(QPainter *painter, const QRect &area, const QString &cell, const Hint &hint) const;
+    void paintRow(QPainter *painter, const QModelIndex &index, const Colours &colours) const;
+    QRect paintAtStart(QPainter *painter, QRect area, const QString &cell, const QString &hint) const;
+    QRect paintAtEnd(QPainter *painter, QRect area, const QString &text) const;
+    int widthOf(const QString &text) const;
+    void draw(QPainter *painter, const QRect &area, const QString &text, int left) const;
 
     AttributeTable *m_table;
     Kind m_kind;
     ChosenCounts *m_counts = nullptr;
     int m_displayUnits = -1;
     bool m_hasScreenReader;
+    mutable PreparedTexts m_texts;
 };
 
 } // namespace tvx
