@@ -234,21 +234,6 @@ private Q_SLOTS:
                       "setTopViewCurrentItem 1"}));
     }
 
-    void linesOfChosenConditions()
-    {
-        if (m_feature)
-            QSKIP("only the filter dialog has lines");
-        AttributesFilterDialog dialog;
-        const std::unique_ptr<DmlAttrLWI> condition(dialog.createNewItem());
-        const QVariant width = pointer(&integer("width", 5, 9, 7));
-        condition->setDmlAttribute(width);
-        record(*condition).isSet = 1;
-        appendRow(host().chosen, *newItem(false, pointer(&definition(9, "odd"))));
-        appendRow(host().chosen, *newItem(true, width));
-        appendRow(host().chosen, *condition);
-        QCOMPARE(dialog.getFiltersAsStringList(), QStringList({"", "5 <= width <= 9"}));
-    }
-
 private:
     /// Runs a step in which the k-th service call that can fail does. Returns true if one report with a source position was
     /// written, and adds this position.

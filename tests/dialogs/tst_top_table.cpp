@@ -271,16 +271,6 @@ private Q_SLOTS:
         const QStringList pads = visibleNames(topView).filter("pad_");
         QCOMPARE(pads.mid(0, 2), QStringList({"pad_00", pick("pad_01", "pad_03")}));
     }
-
-    void headerOfChosenTableSorts()
-    {
-        choose({"pad_02", "pad_01", "note"});
-        clickHeader(chosenList, Name);
-        QCOMPARE(visibleNames(chosenList), QStringList({"note", "pad_01", "pad_02"}));
-        enter("pad_02", "7");
-        QCOMPARE(resultOf("pad_02"), pick("7 <= pad_02 <= 9", "7"));
-        QCOMPARE(resultOf("pad_01"), pick("pad_01", "1"));
-    }
 };
 
 QTEST_MAIN(TopTableTest)
