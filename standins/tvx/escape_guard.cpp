@@ -74,7 +74,8 @@ void EscapeGuard::setWarning(bool isWarning)
 
 bool EscapeGuard::eventFilter(QObject *watched, QEvent *event)
 {
-    const bool isKey = event->type() == QEvent::KeyPress;
+    // A key that triggers a shortcut comes as an override only.
+    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
     const bool isEscape = isKey && static_cast<QKeyEvent *>(event)->matches(QKeySequence::Cancel);
     if (watched->isWidgetType() && !isEscape && (isKey || event->type() == QEvent::MouseButtonPress))
         setWarning(false);
