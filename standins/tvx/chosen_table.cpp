@@ -78,6 +78,8 @@ void ChosenTable::beginSession(QWidget *editor, const QModelIndex &index, EditTr
     updateEditorGeometries();
     const QTableWidgetItem *name = item(index.row(), NameColumn);
     m_session->begin(editor, index, *rowItem(index.row()), name ? name->text() : QString());
+    // The selection is no longer muted, and the view repaints no cell for an editor that gets the focus.
+    viewport()->update();
     if (trigger == DoubleClicked)
         m_session->openPopupAfterClick();
     Q_EMIT editingStarted();
