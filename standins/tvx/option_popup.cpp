@@ -19,6 +19,12 @@ constexpr int MostVisibleEntries = 15;
 class ListStyle : public QProxyStyle
 {
 public:
+    /// Without the name, the base would be the style of the desktop and not that of the application.
+    explicit ListStyle(const QStyle &style)
+        : QProxyStyle(style.objectName())
+    {
+    }
+
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                   QStyleHintReturn *data) const override
     {
@@ -38,7 +44,7 @@ OptionPopup::OptionPopup(QComboBox *box)
     : QObject(box)
     , m_box(box)
 {
-    auto *style = new ListStyle;
+    auto *style = new ListStyle(*box->style());
     style->setParent(box);
     box->setStyle(style);
     box->setMaxVisibleItems(MostVisibleEntries);
