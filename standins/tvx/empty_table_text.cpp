@@ -44,7 +44,7 @@ void EmptyTableText::place() const
     m_button->setGeometry(area);
 }
 
-/// Returns the rectangle of the text; the button, if it is shown, is below it.
+/// Returns the rows of pixels of the text, as wide as it may be; the button, if it is shown, is below it.
 QRect EmptyTableText::textArea() const
 {
     const int side = m_table->fontMetrics().height();
@@ -54,6 +54,8 @@ QRect EmptyTableText::textArea() const
         const int height = area.height() + m_table->fontMetrics().height() + m_button->sizeHint().height();
         area.moveTop(std::max(0, room.center().y() - height / 2));
     }
+    area.setLeft(room.left());
+    area.setRight(room.right());
     return area;
 }
 
@@ -68,6 +70,8 @@ void EmptyTableText::paint() const
     if (text.isEmpty())
         return;
     QPainter painter(m_table->viewport());
+    // The full stop of a sentence follows the sentence's own direction.
+    painter.setLayoutDirection(Qt::LayoutDirectionAuto);
     painter.setPen(mutedColour(m_table->palette(), QPalette::Active, false));
     painter.drawText(textArea(), Qt::AlignHCenter | Qt::TextWordWrap, text);
 }
