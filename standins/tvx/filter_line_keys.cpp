@@ -52,8 +52,7 @@ bool FilterLineKeys::filterKey(QKeyEvent *event)
                 m_mover->addSelected();
             else
                 Q_EMIT enteredWithoutRows();
-            // So that the next letter starts a new search.
-            m_line->selectAll();
+            endSearch(m_line);
         }
         return true;
     case Qt::Key_Escape:
@@ -64,6 +63,12 @@ bool FilterLineKeys::filterKey(QKeyEvent *event)
     default:
         return false;
     }
+}
+
+void endSearch(QLineEdit *filterText)
+{
+    filterText->setText(filterText->text());
+    filterText->selectAll();
 }
 
 } // namespace tvx

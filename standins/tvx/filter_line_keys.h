@@ -39,6 +39,10 @@ private:
     RowMover *m_mover;
 };
 
+/// Ends the search for attributes: selects the text, so that the next letter starts a new one, and forgets what was
+/// typed, so that Ctrl+Z undoes the last step of the chosen rows.
+void endSearch(QLineEdit *filterText);
+
 } // namespace tvx
 } // namespace Zudunmaf
 

@@ -2,6 +2,7 @@
 
 #include "tvx/available_table.h"
 #include "tvx/chosen_table.h"
+#include "tvx/filter_line_keys.h"
 #include "tvx/row_mover.h"
 #include "tvx/selection_widgets.h"
 
@@ -48,7 +49,7 @@ void QuickEntry::addAndEdit()
     if (!m_widgets.topView->hasVisibleSelection())
         return;
     m_mover->addSelected();
-    m_widgets.filterText->selectAll();
+    endSearch(m_widgets.filterText);
     const QVector<int> added = m_widgets.chosenList->selectedVisibleRows();
     if (added.isEmpty())
         return;
@@ -85,8 +86,7 @@ void QuickEntry::returnToOrigin()
     if (!m_origin)
         return;
     m_origin->setFocus();
-    // So that the next letter starts a new search.
-    m_widgets.filterText->selectAll();
+    endSearch(m_widgets.filterText);
 }
 
 } // namespace tvx

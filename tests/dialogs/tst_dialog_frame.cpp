@@ -85,6 +85,8 @@ private Q_SLOTS:
         QVERIFY(origin->hasFocus());
         QCOMPARE(filterText->selectedText(), QString("e"));
         QVERIFY(resultOf(edited).contains("55"));
+        press(Qt::Key_Z, Qt::ControlModifier);
+        QVERIFY(!resultOf(edited).contains("55"));
         click(chosenList, edited);
         press({Qt::Key_F2, Qt::Key_Return});
         QVERIFY(chosenList->hasFocus());
@@ -138,7 +140,8 @@ private Q_SLOTS:
         press(Qt::Key_Escape);
         QVERIFY(!description->text().contains(warning));
         for (const auto &takeBack : std::initializer_list<std::function<void()>>{
-                 [this] { press(Qt::Key_Down); }, [this] { click(topView, "note"); }}) {
+                 [this] { press(Qt::Key_Down); }, [this] { click(topView, "note"); },
+                 [this] { press(Qt::Key_F, Qt::ControlModifier); }}) {
             press(Qt::Key_Escape);
             QVERIFY(description->text().contains(warning));
             takeBack();
