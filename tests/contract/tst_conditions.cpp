@@ -167,6 +167,24 @@ private Q_SLOTS:
             QCOMPARE(kind == "conditions" ? added[0]->toString() : added[0]->valueAsString(), shown);
     }
 
+    void chosenConditions()
+    {
+        host().dictionary = eachType();
+        AttributesFilterDialog dialog(3);
+        AttrCondition width;
+        width.name = "width";
+        width.type = DmlAttrInteger;
+        width.isSet = true;
+        width.low = 6;
+        width.high = 8;
+        QCOMPARE(dialog.restoreConditions({width}, refuse).first().status, RestoreNotAdded);
+        dialog.restoreConditions({width, width}, addToBase);
+        QVERIFY(dialog.conditions() == QList<AttrCondition>({width, width}));
+        appendRow(host().chosen, *rowsOf<FeatureAttrLWI>(false)[3]);    // has no line
+        appendRow(host().chosen, *rowsOf<AttrFilterLWI>(false).back()); // has an unknown type
+        QCOMPARE(dialog.getFiltersAsStringList(), QStringList({"6 <= width <= 8", "6 <= width <= 8", ""}));
+    }
+
     void chosenValues()
     {
         host().dictionary = eachType();
@@ -253,6 +271,7 @@ private:
         };
     }
 
+    static bool refuse(const QTableWidgetItem &) { return false; }
     static bool addToBase(const QTableWidgetItem &item) { return appendRow(host().chosen, item) != nullptr; }
 
     /// Reads the document and writes what was read; empty if it is refused.
