@@ -52,11 +52,12 @@ void EditSession::begin(QWidget *editor, const QModelIndex &index, const QTableW
     m_popup = OptionPopup::attach(editor);
     if (m_popup)
         connect(m_popup, &OptionPopup::picked, this, &EditSession::entered);
-    m_content = new EditorContent(editor, value);
-    connect(m_content, &EditorContent::edited, this, &EditSession::noteEdit);
     m_filter = new CellEditorFilter(editor, name);
     connect(m_filter, &CellEditorFilter::entered, this, &EditSession::entered);
     connect(m_filter, &CellEditorFilter::left, this, &EditSession::left);
+    // After the filter, whose names for a screen reader are part of the descriptions.
+    m_content = new EditorContent(editor, value);
+    connect(m_content, &EditorContent::edited, this, &EditSession::noteEdit);
 }
 
 void EditSession::openPopupAfterClick()

@@ -213,6 +213,9 @@ void EditorContent::describeRefused(const QString &message) const
 QString EditorContent::spokenLimits(const QWidget *part) const
 {
     const auto *box = qobject_cast<const QAbstractSpinBox *>(part);
+    // Qt on Unix reads the current text of a combo box as its name.
+    if (qobject_cast<const QComboBox *>(part))
+        return part->accessibleName() + QLatin1String(": ") + m_taken;
     if (!box)
         return m_taken;
     const NumberEntry entry(*box);

@@ -100,13 +100,15 @@ private Q_SLOTS:
 
     void editorsAreDescribed()
     {
-        choose({"depth", "note"});
+        choose({"depth", "note", "grade"});
         press(Qt::Key_F2);
         QCOMPARE(QApplication::focusWidget()->accessibleDescription(), QString("-100.000 to 2000.000 mm"));
         type("3000");
         QCOMPARE(QApplication::focusWidget()->accessibleDescription(), QString("At most 2000.000 mm"));
         press({Qt::Key_Escape, Qt::Key_Down, Qt::Key_F2});
         QCOMPARE(QApplication::focusWidget()->accessibleDescription(), QString("text"));
+        press({Qt::Key_Escape, Qt::Key_Down, Qt::Key_F2});
+        QCOMPARE(QApplication::focusWidget()->accessibleDescription(), QString("grade: low, high"));
     }
 
     void chosenConditionsAreMarked()
