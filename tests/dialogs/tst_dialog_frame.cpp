@@ -141,7 +141,9 @@ private Q_SLOTS:
         QVERIFY(!description->text().contains(warning));
         for (const auto &takeBack : std::initializer_list<std::function<void()>>{
                  [this] { press(Qt::Key_Down); }, [this] { click(topView, "note"); },
-                 [this] { press(Qt::Key_F, Qt::ControlModifier); }}) {
+                 [this] {
+                     press({Qt::Key_F2, Qt::Key_Escape});
+                 }}) {
             press(Qt::Key_Escape);
             QVERIFY(description->text().contains(warning));
             takeBack();
