@@ -109,7 +109,8 @@ void virtualTableMatches(const Settings &)
                       "removeButtonClickedCB()"}};
     for (const auto &function : functions)
         expect(table[2 + function.slot] == dlsym(RTLD_DEFAULT, function.symbol),
-               text(function.name, " in slot ", function.slot), "another function");
+               text(function.name, " in slot ", function.slot),
+               "another function: the base was compiled with another declaration");
     auto *ofDialog = dlsym(RTLD_DEFAULT, "_ZTVN8Zudunmaf22AttributesFilterDialogE");
     expect(!ofDialog || sizeOfSymbol(table) == sizeOfSymbol(ofDialog),
            text(sizeOfSymbol(ofDialog), " bytes, as in the dialogs' tables"),
@@ -174,9 +175,13 @@ void fillCopies(const Settings &)
     qDeleteAll(items);
     expect(dialog.getTopListItems(false).size() == 3, "3 rows after 3 items were deleted by their owner",
            text(dialog.getTopListItems(false).size()));
-    for (const QTableWidgetItem *row : dialog.getTopListItems(false))
-        expect(dynamic_cast<const NamedItem *>(row), "an item of the caller's class for each row",
-               "another class");
+    for (const QTableWidgetItem *row : dialog.getTopListItems(false)) {
+        for (int column : {0, 1})
+            expect(row->tableWidget() &&
+                       dynamic_cast<const NamedItem *>(row->tableWidget()->item(row->row(), column)),
+                   text("an item of the caller's class in column ", column, " of each row"),
+                   "another class or no table");
+    }
 }
 
 void fillReplaces(const Settings &)

@@ -128,7 +128,7 @@ void hiddenRowsAreFound(const Settings &settings)
         dialog->setFirstVisibleItemAsCurrent();
         expect(dialog.availableNames(false) == names, "hidden rows in getTopListItems(false)",
                shown(dialog.availableNames(false)));
-        const QTableWidgetItem *found = dialog->findItemByAttrName(names.last());
+        QTableWidgetItem *found = dialog->findItemByAttrName(names.last());
         expect(found && found->data(DmlAttrNameRole).toString() == names.last(),
                "the hidden item from findItemByAttrName(\"" + names.last().toStdString() + "\")",
                found ? "another one" : "null");
@@ -137,6 +137,10 @@ void hiddenRowsAreFound(const Settings &settings)
         dialog->setTopViewRowsVisiblity(1, true);
         dialog->setFirstVisibleItemAsCurrent();
         expect(top->currentRow() == 1, "the first visible row current", text("row ", top->currentRow()));
+        dialog->setTopViewRowsVisiblity(found->row(), true);
+        dialog->setTopViewCurrentItem(found);
+        expect(top->currentRow() == found->row(), text("row ", found->row(), " current on request"),
+               text("row ", top->currentRow()));
     }
 }
 
