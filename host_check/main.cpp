@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
 #include <getopt.h>
 
 using namespace Zudunmaf::hostcheck;
@@ -132,7 +133,12 @@ Settings settingsFrom(int argc, char *argv[])
             refuse("unknown or incomplete option");
         }
     }
-    settings.libraries.assign(argv + optind, argv + argc);
+    // A path, because the loader searches its own directories for a name without a slash.
+    for (int index = optind; index < argc; ++index) {
+        if (!std::filesystem::is_regular_file(argv[index]))
+            refuse(std::string("there is no file \"") + argv[index] + '"');
+        settings.libraries.push_back(std::filesystem::absolute(argv[index]));
+    }
     if (settings.libraries.empty())
         refuse("no library is given");
     return settings;

@@ -83,7 +83,9 @@ void servicesAreFound(const Settings &)
 void libraryLoads(const Settings &)
 {
     std::string error;
-    expect(baseChecks(&error), "libzudunmaf.so loads after the host's libraries", error);
+    expect(baseChecks(&error),
+           "a base dialog library of the soname libzudunmaf_tvx.so.1, with which libzudunmaf.so loads",
+           error);
 }
 
 void oneBase(const Settings &settings)

@@ -31,7 +31,7 @@ Outcome outcomeOf(const Check &check, const Settings &settings)
 }
 
 /// Runs checks in the child and sends two lines to the parent for each: "begin", group and promise before it, "end",
-/// verdict and detail after it, separated by tabs.
+/// verdict and detail after it, separated by tabs. A last line, "done", shows that the host has not ended the process.
 class Sender
 {
 public:
@@ -55,6 +55,8 @@ public:
             send("end", std::to_string(int(outcome.verdict)), outcome.detail);
         }
     }
+
+    void sendDone() { send("done", {}, {}); }
 
 private:
     void send(const char *kind, const std::string &first, std::string second)
@@ -90,6 +92,7 @@ private:
         sender.run("base",
                    {{"All promises of the base dialog", Verdict::NotCheckable, "",
                      [](const Settings &) { notCheckable("no base dialog of the host is loaded"); }}});
+    sender.sendDone();
     // Destructors of the host's libraries are not under check.
     _exit(EXIT_SUCCESS);
 }
@@ -108,9 +111,11 @@ std::string ending(int status, int timeout)
 int runSome(int firstCheck, const Settings &settings, const std::function<void(const Finding &)> &report)
 {
     int ends[2];
-    if (pipe(ends) != 0)
-        return -1;
-    const pid_t child = fork();
+    const pid_t child = pipe(ends) == 0 ? fork() : -1;
+    if (child < 0) {
+        std::perror("zudunmaf-host-check: no process for the checks");
+        std::exit(2);
+    }
     if (child == 0) {
         close(ends[0]);
         runInChild(fdopen(ends[1], "w"), firstCheck, settings);
@@ -120,12 +125,15 @@ int runSome(int firstCheck, const Settings &settings, const std::function<void(c
     const Finding betweenChecks{"process", "The process goes on between two checks", {}};
     Finding finding = betweenChecks;
     int begun = 0;
+    bool isDone = false;
     std::ifstream lines(text("/proc/self/fd/", ends[0]));
     for (std::string kind, first, second; std::getline(lines, kind, '\t') &&
                                           std::getline(lines, first, '\t') && std::getline(lines, second);) {
         if (kind == "begin") {
             ++begun;
             finding = {first, second, {}};
+        } else if (kind == "done") {
+            isDone = true;
         } else {
             finding.outcome = {Verdict(std::stoi(first)), second};
             report(finding);
@@ -135,7 +143,7 @@ int runSome(int firstCheck, const Settings &settings, const std::function<void(c
     close(ends[0]);
     int status = 0;
     waitpid(child, &status, 0);
-    if (status == 0)
+    if (isDone)
         return -1;
     finding.outcome = {Verdict::Broken,
                        "expected a return from the host; came " + ending(status, settings.timeout)};

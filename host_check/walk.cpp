@@ -32,8 +32,7 @@ Walk walk(int dictionary, unsigned int mask)
     while (const DmlAttrDef *definition = nextAttribute(dictionary, mask, &cursor, &result.trouble)) {
         result.definitions.push_back(definition);
         if (result.definitions.size() >= MostAttributes) {
-            result.trouble = text("no end after ", MostAttributes, " attributes, the last of them ",
-                                  fieldText(definition->name));
+            result.trouble = "no end, the last attribute being " + fieldText(definition->name);
             break;
         }
     }

@@ -3,7 +3,7 @@
 set -u
 program=$1
 shift
-for wrong in "" "--no-such-option x.so" "--units 1,x x.so" "--dictionary"; do
+for wrong in "" "--no-such-option $1" "--units 1,x $1" "--dictionary" "no_such_library.so"; do
     # shellcheck disable=SC2086
     "$program" $wrong 2>/dev/null && exit 1
     [ $? -eq 2 ] || { echo "status 2 expected for: $wrong"; exit 1; }
