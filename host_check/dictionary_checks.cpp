@@ -149,7 +149,7 @@ void entriesAreTexts(const Settings &settings)
     }
 }
 
-void attributesAreListed(const Settings &settings)
+void attributesAreUsable(const Settings &settings)
 {
     for (const DmlAttrDef *definition : attributesOf(settings)) {
         const std::string name = fieldText(definition->name);
@@ -214,7 +214,7 @@ const std::vector<Check> &dictionaryChecks()
         {"A dictionary that does not exist is a failure", Should, Walk, unknownDictionaryFails},
         {"Names, prompts and groups end within their fields", Must, Walk, textsEnd},
         {"Each entry of a list is a text", Must, Walk, entriesAreTexts},
-        {"Each attribute can be listed", Should, Walk, attributesAreListed},
+        {"Each attribute has a name, a known type and an entity", Should, Walk, attributesAreUsable},
         {"Names are unique", Should, Walk, namesAreUnique},
         {"Limits are in order and hold the default", Should, Walk, limitsAreInOrder},
         {"The default of an option is one of its entries", Should, Walk, defaultsAreEntries},
