@@ -100,6 +100,14 @@ int numberIn(const std::string &text)
     return int(number);
 }
 
+/// Returns the absolute path of a file, because the loader searches its own directories for a name without a slash.
+std::string libraryPath(const char *file)
+{
+    if (!std::filesystem::is_regular_file(file))
+        refuse(std::string("there is no file \"") + file + '"');
+    return std::filesystem::absolute(file);
+}
+
 Settings settingsFrom(int argc, char *argv[])
 {
     const option options[] = {{"dictionary", required_argument, nullptr, 'd'},
@@ -133,12 +141,8 @@ Settings settingsFrom(int argc, char *argv[])
             refuse("unknown or incomplete option");
         }
     }
-    // A path, because the loader searches its own directories for a name without a slash.
-    for (int index = optind; index < argc; ++index) {
-        if (!std::filesystem::is_regular_file(argv[index]))
-            refuse(std::string("there is no file \"") + argv[index] + '"');
-        settings.libraries.push_back(std::filesystem::absolute(argv[index]));
-    }
+    for (int index = optind; index < argc; ++index)
+        settings.libraries.push_back(libraryPath(argv[index]));
     if (settings.libraries.empty())
         refuse("no library is given");
     return settings;

@@ -8,6 +8,7 @@
 #include <fstream>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 
 namespace Zudunmaf::hostcheck
 {
@@ -107,8 +108,8 @@ std::string ending(int status, int timeout)
                 ")");
 }
 
-/// Runs the checks from `firstCheck` on in one child. Returns the check to go on with, -1 if there is none.
-int runSome(int firstCheck, const Settings &settings, const std::function<void(const Finding &)> &report)
+/// Starts a child that runs the checks from `firstCheck` on. Returns its process, and the end of the pipe to read.
+std::pair<pid_t, int> startChild(int firstCheck, const Settings &settings)
 {
     int ends[2];
     const pid_t child = pipe(ends) == 0 ? fork() : -1;
@@ -121,12 +122,18 @@ int runSome(int firstCheck, const Settings &settings, const std::function<void(c
         runInChild(fdopen(ends[1], "w"), firstCheck, settings);
     }
     close(ends[1]);
+    return {child, ends[0]};
+}
 
+/// Runs the checks from `firstCheck` on in one child. Returns the check to go on with, -1 if there is none.
+int runSome(int firstCheck, const Settings &settings, const std::function<void(const Finding &)> &report)
+{
+    const auto [child, output] = startChild(firstCheck, settings);
     const Finding betweenChecks{"process", "The process goes on between two checks", {}};
     Finding finding = betweenChecks;
     int begun = 0;
     bool isDone = false;
-    std::ifstream lines(text("/proc/self/fd/", ends[0]));
+    std::ifstream lines(text("/proc/self/fd/", output));
     for (std::string kind, first, second; std::getline(lines, kind, '\t') &&
                                           std::getline(lines, first, '\t') && std::getline(lines, second);) {
         if (kind == "begin") {
@@ -140,7 +147,7 @@ int runSome(int firstCheck, const Settings &settings, const std::function<void(c
             finding = betweenChecks;
         }
     }
-    close(ends[0]);
+    close(output);
     int status = 0;
     waitpid(child, &status, 0);
     if (isDone)

@@ -12,7 +12,6 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLocale>
-#include <QTimer>
 
 #include <algorithm>
 
@@ -57,6 +56,8 @@ AttributeTable::AttributeTable(QWidget *parent, CellHints::Kind hints)
     setDragEnabled(true);
     setAcceptDrops(true);
     setDropIndicatorShown(false);
+    m_afterFocus.setSingleShot(true);
+    connect(&m_afterFocus, &QTimer::timeout, this, [this] { m_hints.announceCurrentRow(); });
     setUpHeaders();
     new ElidedCellTip(this);
     connect(m_drag, &RowDrag::rowsDropped, this, &AttributeTable::rowsDropped);
@@ -256,7 +257,7 @@ void AttributeTable::focusInEvent(QFocusEvent *event)
 {
     QTableWidget::focusInEvent(event);
     // After QWidget::setFocus() has announced the table.
-    QTimer::singleShot(0, this, [this] { m_hints.announceCurrentRow(); });
+    m_afterFocus.start();
 }
 
 void AttributeTable::keyPressEvent(QKeyEvent *event)

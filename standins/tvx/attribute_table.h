@@ -6,6 +6,7 @@
 #include "tvx/type_ahead.h"
 
 #include <QTableWidget>
+#include <QTimer>
 #include <QVector>
 
 namespace Zudunmaf
@@ -95,6 +96,8 @@ private:
     QString copyLine(int row) const;
 
     CellHints m_hints;
+    /// Fires when the event that gave the table the focus is over.
+    QTimer m_afterFocus;
     EmptyTableText m_emptyText;
     TypeAhead m_typeAhead;
     NameColumnWidth *m_nameColumnWidth;

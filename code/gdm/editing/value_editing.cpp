@@ -180,7 +180,9 @@ void storeValue(FeatureAttrLWI &item, const DmlAttrDef &definition, QWidget *edi
 void setDefaultValue(QTableWidgetItem *item)
 {
     FeatureAttrLWI *attribute = dynamic_cast<FeatureAttrLWI *>(item);
-    const DmlAttrDef *definition = attribute ? definitionIn(attribute->dmlAttribute()) : nullptr;
+    if (!attribute)
+        return;
+    const DmlAttrDef *definition = definitionIn(attribute->dmlAttribute());
     const QVariant value = definition ? defaultValue(*definition) : QVariant();
     if (value.isValid())
         attribute->setAttrValue(value);
