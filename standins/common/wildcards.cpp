@@ -70,6 +70,7 @@ QString backslashAt(const QString &text, int *position)
 QStringList piecesOf(const QString &text, bool *isReadable)
 {
     QStringList pieces{QString()};
+    pieces.reserve(text.count(QLatin1Char('*')) + 1);
     for (int i = 0; i < text.size(); ++i) {
         QString translated;
         switch (text[i].unicode()) {

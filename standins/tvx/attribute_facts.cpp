@@ -198,6 +198,7 @@ QStringList AttributeFacts::entries() const
     const bool hasEntries = isText ? m_definition->textChoiceCount >= 1 : m_definition->type == DmlAttrOption;
     if (!hasEntries || !m_definition->optionList)
         return entries;
+    entries.reserve(m_definition->optionCount);
     for (int index = 0; index < m_definition->optionCount; ++index)
         entries.append(QString(m_definition->optionList[index]));
     return entries;

@@ -54,8 +54,11 @@ QStringList EmptyTableAdvice::state() const
 {
     const AvailableTable *top = m_widgets.topView;
     QStringList parts = {m_criteria.text(), m_criteria.group()};
-    for (int number : {m_criteria.dictionary(), m_criteria.mask(), int(m_criteria.isFillMissing()),
-                       top->fillCount(), top->visibleRowCount(), m_widgets.chosenList->rowCount()})
+    const std::initializer_list<int> numbers = {
+        m_criteria.dictionary(), m_criteria.mask(),      int(m_criteria.isFillMissing()),
+        top->fillCount(),        top->visibleRowCount(), m_widgets.chosenList->rowCount()};
+    parts.reserve(parts.size() + static_cast<int>(numbers.size()));
+    for (int number : numbers)
         parts.append(QString::number(number));
     return parts;
 }

@@ -67,8 +67,9 @@ void EmptyTableGuide::showFirstMatch()
     if (label.isEmpty())
         return;
     // A special character of the label must match itself.
+    static const QRegularExpression special(QStringLiteral(R"([][*?\\])"));
     QString pattern = label;
-    pattern.replace(QRegularExpression(QStringLiteral(R"([][*?\\])")), QStringLiteral("?"));
+    pattern.replace(special, QStringLiteral("?"));
     m_widgets.filterText->setText(pattern);
     AvailableTable *top = m_widgets.topView;
     if (top->visibleRowCount() == 0)

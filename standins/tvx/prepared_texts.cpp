@@ -20,14 +20,13 @@ const QStaticText &PreparedTexts::prepared(const QString &text, const QFont &fon
         m_font = font;
         m_texts.clear();
     }
-    auto found = m_texts.find(text);
-    if (found == m_texts.end()) {
-        QStaticText made(text);
-        made.setTextFormat(Qt::PlainText);
-        made.prepare(QTransform(), font);
-        found = m_texts.insert(text, made);
-    }
-    return *found;
+    const auto found = m_texts.constFind(text);
+    if (found != m_texts.constEnd())
+        return *found;
+    QStaticText made(text);
+    made.setTextFormat(Qt::PlainText);
+    made.prepare(QTransform(), font);
+    return *m_texts.insert(text, made);
 }
 
 } // namespace tvx

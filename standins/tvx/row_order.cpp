@@ -117,7 +117,7 @@ void RowOrder::rowsRemoved(const QVector<int> &rows)
             ++next;
             continue;
         }
-        const int index = m_arrivalIndexes[row];
+        const int index = m_arrivalIndexes.at(row);
         const auto removedBefore = std::lower_bound(removed.begin(), removed.end(), index) - removed.begin();
         remaining.append(index - static_cast<int>(removedBefore));
     }
