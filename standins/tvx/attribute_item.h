@@ -4,6 +4,9 @@
 #include "gdm/items/attr_records.h"
 #include "gdm/items/attr_roles.h"
 
+#include <QLocale>
+#include <QPointF>
+#include <QStringList>
 #include <QTableWidgetItem>
 
 namespace Zudunmaf
@@ -30,6 +33,21 @@ inline const DmlAttrDef *definitionOf(const QTableWidgetItem &item)
 inline bool isCondition(const QTableWidgetItem &item)
 {
     return item.data(DmlAttrFilterTextRole).isValid();
+}
+
+/// Returns a text that is equal for two items exactly if they have the same attribute, and the same value or condition.
+inline QString contentOf(const QTableWidgetItem &item)
+{
+    const QVariant value = item.data(DmlAttrValueRole);
+    // The bounds of a range: a range has no text of its own, and its line is rounded.
+    const QPointF bounds = value.toPointF();
+    const auto exact = [](double number) {
+        return QString::number(number, 'g', QLocale::FloatingPointShortest);
+    };
+    const QStringList parts = {nameOf(item),      QLatin1String(value.typeName()),
+                               value.toString(),  item.data(DmlAttrFilterTextRole).toString(),
+                               exact(bounds.x()), exact(bounds.y())};
+    return parts.join(QLatin1Char('\n'));
 }
 
 } // namespace tvx

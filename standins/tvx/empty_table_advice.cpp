@@ -9,6 +9,8 @@
 #include "tvx/selection_widgets.h"
 #include "tvx/tvx_texts.h"
 
+#include <utility>
+
 namespace Zudunmaf
 {
 namespace tvx
@@ -42,25 +44,21 @@ EmptyTableAdvice::EmptyTableAdvice(const SelectionWidgets &widgets, const Filter
 
 const EmptyTableAdvice::Advice &EmptyTableAdvice::advice()
 {
-    const QStringList present = state();
+    State present = state();
     if (present != m_state) {
-        m_state = present;
+        m_state = std::move(present);
         m_advice = m_widgets.topView->visibleRowCount() > 0 ? Advice() : computed();
     }
     return m_advice;
 }
 
-QStringList EmptyTableAdvice::state() const
+EmptyTableAdvice::State EmptyTableAdvice::state() const
 {
     const AvailableTable *top = m_widgets.topView;
-    QStringList parts = {m_criteria.text(), m_criteria.group()};
-    const std::initializer_list<int> numbers = {
-        m_criteria.dictionary(), m_criteria.mask(),      int(m_criteria.isFillMissing()),
-        top->fillCount(),        top->visibleRowCount(), m_widgets.chosenList->rowCount()};
-    parts.reserve(parts.size() + static_cast<int>(numbers.size()));
-    for (int number : numbers)
-        parts.append(QString::number(number));
-    return parts;
+    return {m_criteria.text(),          m_criteria.group(),
+            m_criteria.dictionary(),    m_criteria.mask(),
+            m_criteria.isFillMissing(), top->fillCount(),
+            top->visibleRowCount(),     m_widgets.chosenList->rowCount()};
 }
 
 EmptyTableAdvice::Advice EmptyTableAdvice::computed() const

@@ -4,6 +4,9 @@
 #include <QSet>
 #include <QStringList>
 
+#include <optional>
+#include <tuple>
+
 namespace Zudunmaf
 {
 namespace tvx
@@ -48,16 +51,21 @@ private:
         QString firstChosen;
     };
 
+    /// All that the advice depends on: filter text, group, entity, mask, whether a fill is missing, number of fills, of
+    /// visible and of chosen rows.
+    using State = std::tuple<QString, QString, int, int, bool, int, int, int>;
+
     Advice computed() const;
     Advice adviceOnMatches(const Matches &matches, const char *foundKey) const;
     Matches matches(bool byPrompt, bool showsPrompt) const;
     bool showsPrompt() const;
     QSet<QString> hiddenAsChosen() const;
-    QStringList state() const;
+    State state() const;
 
     const SelectionWidgets &m_widgets;
     const FilterCriteria &m_criteria;
-    QStringList m_state;
+    /// That of the last advice.
+    std::optional<State> m_state;
     Advice m_advice;
 };
 

@@ -32,13 +32,8 @@ QStringList EscapeGuard::rows() const
     QStringList rows;
     const QList<QTableWidgetItem *> items = m_chosen.rowItems(false);
     rows.reserve(items.size());
-    for (const QTableWidgetItem *item : items) {
-        const QVariant value = item->data(DmlAttrValueRole);
-        // The value of a range is only in its line.
-        const QStringList parts = {nameOf(*item), QLatin1String(value.typeName()), value.toString(),
-                                   item->data(DmlAttrFilterTextRole).toString()};
-        rows.append(parts.join(QLatin1Char('\n')));
-    }
+    for (const QTableWidgetItem *item : items)
+        rows.append(contentOf(*item));
     rows.sort();
     return rows;
 }

@@ -1,10 +1,8 @@
 #include "tvx/history_steps.h"
 
-#include "gdm/items/attr_roles.h"
+#include "tvx/attribute_item.h"
 #include "tvx/chosen_table.h"
 #include "tvx/row_mover.h"
-
-#include <QVariant>
 
 #include <algorithm>
 #include <iterator>
@@ -33,15 +31,6 @@ std::unique_ptr<QTableWidgetItem> wholeClone(const QTableWidgetItem &item)
     std::unique_ptr<QTableWidgetItem> copy(item.clone());
     copy->QTableWidgetItem::operator=(item);
     return copy;
-}
-
-/// Compares the values, and the result lines: two numbers are equal for QPointF if they differ little.
-bool haveSameValue(const QTableWidgetItem &one, const QTableWidgetItem &other)
-{
-    const QVariant value = one.data(DmlAttrValueRole);
-    const QVariant otherValue = other.data(DmlAttrValueRole);
-    return value.userType() == otherValue.userType() && value == otherValue &&
-           one.data(DmlAttrFilterTextRole) == other.data(DmlAttrFilterTextRole);
 }
 
 } // namespace
@@ -110,7 +99,7 @@ int ValuesStep::dropUnchanged()
     const QHash<const QTableWidgetItem *, int> rows = m_table->rows().rowOfNames();
     const auto isUnchanged = [this, &rows](const Value &value) {
         const QTableWidgetItem *now = m_table->rowItem(rows.value(value.name, -1));
-        return !now || haveSameValue(*now, *value.other);
+        return !now || contentOf(*now) == contentOf(*value.other);
     };
     m_values.erase(std::remove_if(m_values.begin(), m_values.end(), isUnchanged), m_values.end());
     return static_cast<int>(m_values.size());
