@@ -68,7 +68,6 @@ void DescriptionLabel::paintEvent(QPaintEvent *event)
         return;
     }
     QPainter painter(this);
-    painter.setPen(palette().color(foregroundRole()));
     painter.setLayoutDirection(Qt::LayoutDirectionAuto);
     const QRect area = contentsRect();
     drawLine(&painter, area, layoutDirection(), text().section(QLatin1Char('\n'), 0, 0), m_isTitle);

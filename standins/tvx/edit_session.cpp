@@ -157,7 +157,7 @@ void EditSession::noteEdit()
 {
     if (!m_editor)
         return;
-    // A sign alone is refused only when it is entered.
+    // The beginning of a number within the limits is refused only when it is entered.
     showNote(m_content->isUnfinished() ? QString() : m_content->refusal());
     Q_EMIT edited();
 }

@@ -166,7 +166,7 @@ const QAbstractSpinBox *EditorContent::refusedBox() const
 bool EditorContent::isUnfinished() const
 {
     const QAbstractSpinBox *box = refusedBox();
-    return box && NumberEntry(*box).state() == NumberEntry::Unfinished;
+    return box && box->hasFocus() && NumberEntry(*box).isUnfinished();
 }
 
 QString EditorContent::refusal() const

@@ -35,7 +35,7 @@ public:
     bool isChanged() const;
     /// Returns true if the limits refuse the entry, which must not be stored then.
     bool isRefused() const { return refusedBox() != nullptr; }
-    /// Returns true if more typing can make the refused entry a number.
+    /// Returns true if the box with the refused entry has the focus, and more typing can make its entry accepted.
     bool isUnfinished() const;
     /// Returns the box with the refused entry, of two the one with the focus; null if none is refused.
     const QAbstractSpinBox *refusedBox() const;

@@ -9,6 +9,7 @@
 #include <QValidator>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace Zudunmaf
@@ -102,6 +103,39 @@ NumberEntry::State NumberEntry::state() const
     if (number < limits.first)
         return TooLow;
     return number > limits.second ? TooHigh : TooPrecise;
+}
+
+bool NumberEntry::isUnfinished() const
+{
+    switch (state()) {
+    case Unfinished:
+        return true;
+    case TooLow:
+        return canGrowToLimits(m_box.text().trimmed());
+    default:
+        return false;
+    }
+}
+
+/// Returns true if there is an accepted number that begins with these digits.
+bool NumberEntry::canGrowToLimits(const QString &digits) const
+{
+    const auto [minimum, maximum] = limitsOf(m_box);
+    double lowest = m_box.locale().toDouble(digits);
+    if (digits.startsWith(QLatin1Char('-')))
+        return false;
+    const int point = int(digits.indexOf(m_box.locale().decimalPoint()));
+    const int decimals = point < 0 ? 0 : int(digits.size()) - point - 1;
+    // More decimals lead from the number up to, but not to, the next one with as many decimals as it has.
+    double next = lowest + std::pow(10.0, -decimals);
+    if (decimals < decimalsOf(m_box) && next > minimum)
+        return true;
+    // More digits before a point multiply both.
+    while (point < 0 && lowest > 0 && next <= minimum) {
+        lowest *= 10;
+        next *= 10;
+    }
+    return point < 0 && next > minimum && lowest <= maximum;
 }
 
 QString NumberEntry::minimum() const

@@ -40,6 +40,9 @@ public:
     static QLineEdit *lineOf(const QAbstractSpinBox &box);
 
     State state() const;
+    /// Returns true if the entry is refused, but typing more at its end can make it accepted: a sign alone, or 0. for
+    /// 0.3.
+    bool isUnfinished() const;
     /// Return the limits with the decimals of the box, in the format of cells and result lines.
     QString minimum() const;
     QString maximum() const;
@@ -47,6 +50,7 @@ public:
     QString refusal(const QString &units) const;
 
 private:
+    bool canGrowToLimits(const QString &digits) const;
     QString written(double number) const;
 
     const QAbstractSpinBox &m_box;

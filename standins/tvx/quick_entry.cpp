@@ -10,8 +10,6 @@
 #include <QLineEdit>
 #include <QShortcut>
 
-#include <utility>
-
 namespace Zudunmaf
 {
 namespace tvx
@@ -24,7 +22,7 @@ QuickEntry::QuickEntry(const SelectionWidgets &widgets, RowMover *mover, QObject
 {
     widgets.filterText->installEventFilter(this);
     widgets.topView->installEventFilter(this);
-    connect(widgets.chosenList, &ChosenTable::editingStarted, this, &QuickEntry::rememberOrigin);
+    connect(widgets.chosenList, &ChosenTable::editingStarted, this, [this] { m_origin = nullptr; });
     connect(widgets.chosenList, &ChosenTable::entered, this, &QuickEntry::returnToOrigin);
     auto *edit = new QShortcut(Qt::Key_F2, widgets.chosenList->window());
     edit->setAutoRepeat(false);
@@ -68,17 +66,12 @@ void QuickEntry::editCurrentRow()
 
 void QuickEntry::editRow(int row, QWidget *origin)
 {
-    m_nextOrigin = origin;
     if (const QTableWidgetItem *item = m_widgets.chosenList->rowItem(row))
         m_widgets.chosenList->scrollToItem(item);
     m_widgets.chosenList->editRow(row);
     // A boolean has no editor.
-    m_nextOrigin = nullptr;
-}
-
-void QuickEntry::rememberOrigin()
-{
-    m_origin = std::exchange(m_nextOrigin, nullptr);
+    if (m_widgets.chosenList->openEditor())
+        m_origin = origin;
 }
 
 void QuickEntry::returnToOrigin()

@@ -32,13 +32,11 @@ private:
     void addAndEdit();
     void editCurrentRow();
     void editRow(int row, QWidget *origin);
-    void rememberOrigin();
     void returnToOrigin();
 
     const SelectionWidgets &m_widgets;
     RowMover *m_mover;
-    /// Where to return from the editor that is being opened, and from the open one.
-    QPointer<QWidget> m_nextOrigin;
+    /// Where to return from the open editor; null if it was opened in another way.
     QPointer<QWidget> m_origin;
 };
 

@@ -123,6 +123,30 @@ private Q_SLOTS:
         QCOMPARE(events.count("commit"), 1);
     }
 
+    void noteWaitsWhileANumberCanGrow()
+    {
+        loadDictionary(R"(
+            {"name": "ring", "type": "float", "entities": "all", "default": 0.3, "min": 0.05, "max": 6.5, "units": "mm"},
+            {"name": "pins", "type": "integer", "entities": "all", "default": 610, "min": 600, "max": 650})");
+        const QString lowRing = "At least 0.050 mm", lowPins = "At least 600";
+        const QMap<QString, QList<QStringList>> notes = {
+            {"ring", {{"0", ""}, {"0.0", ""}, {"0.01", lowRing}, {"0.049", lowRing}, {"-0", lowRing}}},
+            {"pins",
+             {{"6", ""}, {"64", ""}, {"5", lowPins}, {"66", lowPins}, {"0", lowPins}, {"-6", lowPins}}}};
+        for (const QString &attribute : notes.keys()) {
+            choose({attribute});
+            click(chosenList, attribute);
+            press(Qt::Key_F2);
+            for (const QStringList &typed : notes[attribute]) {
+                press(Qt::Key_A, Qt::ControlModifier);
+                type(typed[0]);
+                const auto *note = dialog->findChild<QLabel *>("editorNote");
+                QCOMPARE(note->isVisible() ? note->text() : QString(), typed[1]);
+            }
+            press(Qt::Key_Escape);
+        }
+    }
+
     void unfinishedEntryIsRefusedByEnter()
     {
         const int inch = 0;

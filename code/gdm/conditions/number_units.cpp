@@ -18,9 +18,10 @@ float narrowed(double number)
 {
     if (std::fabs(number) <= double(std::numeric_limits<float>::max()))
         return static_cast<float>(number);
-    return std::isnan(number)
-               ? std::numeric_limits<float>::quiet_NaN()
-               : std::copysign(std::numeric_limits<float>::infinity(), float(number < 0 ? -1 : 1));
+    if (std::isnan(number))
+        return std::numeric_limits<float>::quiet_NaN();
+    const float infinity = std::numeric_limits<float>::infinity();
+    return number < 0 ? -infinity : infinity;
 }
 
 } // namespace
