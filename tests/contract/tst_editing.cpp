@@ -113,6 +113,7 @@ private Q_SLOTS:
                 parts << (label ? label->text() : name.mid(name.indexOf('_')));
             }
             QCOMPARE(parts, expected);
+            QVERIFY(editor->autoFillBackground()); // the text of the cell must not shine through
         }
     }
 

@@ -36,6 +36,8 @@ private Q_SLOTS:
         QFETCH(QStringList, chosen);
         const QString name = QTest::currentDataTag();
         const int dialogIndex = inFilter() ? 0 : 1;
+        const QRect cell = cellRect(topView, name, Value);
+        QCOMPARE(contrastIn(topView->viewport(), endOf(cell)) > 3, available[dialogIndex].contains(" | "));
         click(topView, name);
         QCOMPARE(spoken(topView, name), available[dialogIndex]);
         press(Qt::Key_Return);
@@ -79,8 +81,8 @@ private Q_SLOTS:
         if (way().endsWith("selected"))
             click(topView, "plated");
         topView->setFocusPolicy(Qt::NoFocus);
-        const double hint = contrastIn(cellRect(topView, "plated", Value));
-        const double name = contrastIn(cellRect(topView, "plated", Name));
+        const double hint = contrastIn(topView->viewport(), cellRect(topView, "plated", Value));
+        const double name = contrastIn(topView->viewport(), cellRect(topView, "plated", Name));
         QVERIFY2(hint >= 4.5 && hint < 0.8 * name, qPrintable(QString("%1 %2").arg(hint).arg(name)));
     }
 
@@ -90,6 +92,11 @@ private Q_SLOTS:
         QCOMPARE(description->text(),
                  QString("Width of it  \u00b7  width\ninteger  \u00b7  1 to 100  \u00b7  default 7"));
         QCOMPARE(description->toolTip(), description->text());
+        const QString secondLine = description->text().section('\n', 1);
+        const int width = description->fontMetrics().horizontalAdvance(secondLine);
+        const QRect end(width - 20, description->fontMetrics().lineSpacing(), 24,
+                        description->fontMetrics().height());
+        QVERIFY(contrastIn(description, end) > 3);
         click(topView, "grade");
         QCOMPARE(description->text(), QString("grade  \u00b7  Board\noption  \u00b7  low, high"));
         choose({"depth"});
@@ -124,13 +131,12 @@ private Q_SLOTS:
         choose({"width", "depth", "width"});
         QCOMPARE(visibleNames(chosenList), QStringList({"depth", "plated", "width", "width"}));
         QCOMPARE(spoken(topView, "width"), QString("1 to 100 | chosen, conditions: 2"));
-        const QRect cell = cellRect(topView, "width", Value);
-        const QRect mark(cell.right() - 40, cell.top(), 40, cell.height());
-        QVERIFY(contrastIn(mark) > 3);
+        const QRect mark = endOf(cellRect(topView, "width", Value));
+        QVERIFY(contrastIn(topView->viewport(), mark) > 3);
         topView->clearSelection();
         click(clearButton);
         QCOMPARE(spoken(topView, "width"), QString("1 to 100"));
-        QCOMPARE(contrastIn(mark), 1.0);
+        QCOMPARE(contrastIn(topView->viewport(), mark), 1.0);
     }
 
     void searchWithoutResultLeadsOn_data()
@@ -230,8 +236,11 @@ private:
         return texts.join(" | ");
     }
 
+    /// The part of a cell where the second of two texts ends.
+    static QRect endOf(const QRect &cell) { return {cell.right() - 40, cell.top(), 40, cell.height()}; }
+
     /// The greatest contrast between a pixel of the area and its upper left corner, as WCAG 2 defines it.
-    double contrastIn(const QRect &area) const
+    static double contrastIn(QWidget *widget, const QRect &area)
     {
         const auto luminance = [](const QColor &colour) {
             const auto linear = [](double part) {
@@ -240,7 +249,7 @@ private:
             return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
                    0.0722 * linear(colour.blueF()) + 0.05;
         };
-        const QImage image = topView->viewport()->grab(area.adjusted(2, 2, -2, -2)).toImage();
+        const QImage image = widget->grab(area.adjusted(2, 2, -2, -2)).toImage();
         const double back = luminance(image.pixelColor(0, 0));
         double greatest = 1;
         for (int y = 0; y < image.height(); ++y) {

@@ -147,6 +147,27 @@ private Q_SLOTS:
         }
     }
 
+    void noteIsBesideTheEditor_data() { addWays({"left to right", "right to left"}); }
+    void noteIsBesideTheEditor()
+    {
+        const bool isMirrored = way() == "right to left";
+        dialog->setLayoutDirection(isMirrored ? Qt::RightToLeft : Qt::LeftToRight);
+        topView->selectAll();
+        click(addButton);
+        for (const char *attribute : {"width", "pad_39"}) {
+            click(chosenList, attribute);
+            press(Qt::Key_F2);
+            type("999");
+            const QWidget *box = QApplication::focusWidget();
+            const QRect entry(box->mapTo(chosenList->viewport(), QPoint()), box->size());
+            const QRect note = dialog->findChild<QLabel *>("editorNote")->geometry();
+            QVERIFY(chosenList->viewport()->rect().contains(note));
+            QVERIFY(!note.intersects(entry));
+            QCOMPARE(isMirrored ? note.right() : note.left(), isMirrored ? entry.right() : entry.left());
+            press(Qt::Key_Escape);
+        }
+    }
+
     void unfinishedEntryIsRefusedByEnter()
     {
         const int inch = 0;
@@ -259,6 +280,9 @@ private Q_SLOTS:
         press(Qt::Key_Return);
         QCOMPARE(results(), QStringList(way().section(' ', 1)));
         QVERIFY(!list || !list->isVisible());
+        press(Qt::Key_F2);
+        pressKeys("=wi");
+        QCOMPARE(dialog->findChild<QListWidget *>("textChoices")->count(), 1); // once, stored or not
     }
 
     void focusGoesFromEditorToTable()

@@ -76,6 +76,10 @@ private Q_SLOTS:
                  "Undo: edit depth (Ctrl+Z)\nRedo: remove 2 attributes (Ctrl+Shift+Z)");
         press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
         QCOMPARE(visibleNames(chosenList), QStringList({"note", "depth"}));
+        clickHeader(chosenList, Name);
+        while (undoButton->isEnabled())
+            press(Qt::Key_Z, Qt::ControlModifier);
+        QVERIFY(visibleNames(chosenList).isEmpty());
     }
 
     /// Each undo leads to the state before the step, and each redo to that after it.
@@ -136,6 +140,15 @@ private Q_SLOTS:
         topView->selectAll();
         click(addButton);
         QCOMPARE(int(events.filter("+").size()), inFilter() ? 48 : 47);
+    }
+
+    void cellsSelectedOneByOneAreOneRow()
+    {
+        topView->clearSelection();
+        for (const int column : {Name, Value})
+            topView->item(rowOf(topView, "note"), column)->setSelected(true);
+        click(addButton);
+        QCOMPARE(events, QStringList("+note"));
     }
 
     void hostAddsRows()

@@ -12,6 +12,8 @@ class TestGenMessages : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { qputenv("LANGUAGE", "de"); }
+
     void cleanup()
     {
         gen::setLanguage(QString());
@@ -62,6 +64,9 @@ private Q_SLOTS:
         char name[] = "tst", *argv[] = {name, nullptr};
         QCoreApplication application(argc, argv);
         QCOMPARE(gen__nls_nlst(keys::FilterHeaderCondition), "Bedingung");
+        // In the user's own locale "C", LANGUAGE has no effect.
+        gen::setLanguage(QString());
+        QCOMPARE(gen__nls_nlst(keys::FilterHeaderCondition), "Condition");
         qputenv("LC_ALL", "C.UTF-8");
     }
 

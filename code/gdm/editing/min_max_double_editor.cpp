@@ -23,7 +23,6 @@ MinMaxDoubleEditor::MinMaxDoubleEditor(QWidget *parent)
     doubleSpinBox_To = rangeParts::newSpinBox<QDoubleSpinBox>(this, "doubleSpinBox_To");
     doubleSpinBox_To->setDecimals(FloatDecimals);
     horizontalLayout->addWidget(doubleSpinBox_To);
-    setAutoFillBackground(true);
 }
 
 MinMaxDoubleEditor::~MinMaxDoubleEditor() = default;

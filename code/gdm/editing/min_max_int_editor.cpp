@@ -19,7 +19,6 @@ MinMaxIntEditor::MinMaxIntEditor(QWidget *parent)
     label_To = rangeParts::addLabel(this, horizontalLayout, "label_To", keys::IntRangeTo);
     spinBox_To = rangeParts::newSpinBox<QSpinBox>(this, "spinBox_To");
     horizontalLayout->addWidget(spinBox_To);
-    setAutoFillBackground(true);
 }
 
 MinMaxIntEditor::~MinMaxIntEditor() = default;

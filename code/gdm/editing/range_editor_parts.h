@@ -16,8 +16,10 @@ namespace Zudunmaf
 namespace rangeParts
 {
 
+/// Creates the layout of an editor, which then covers the text of its cell.
 inline QHBoxLayout *newRow(QWidget *editor)
 {
+    editor->setAutoFillBackground(true);
     QHBoxLayout *row = new QHBoxLayout(editor);
     row->setContentsMargins(0, 0, 0, 0);
     return row;
