@@ -32,6 +32,8 @@ void FilterCriteria::setEntities(const QList<TvxDataItem *> &items)
         m_entityList->addItem(item->text());
     }
     m_entityList->setCurrentIndex(m_entityList->count() - 1);
+    // The lists are built when the dictionary may have changed.
+    m_isFillMissing = true;
 }
 
 void FilterCriteria::setGroups(const QStringList &groups)
@@ -86,12 +88,15 @@ void FilterCriteria::rememberFill()
 {
     m_stateAtFill = state();
     m_wasNarrowedAtFill = isNarrowed();
-    m_isFillMissing = false;
+    // Without "All Groups", the walk that lists the groups has failed.
+    m_isFillMissing = m_groupList->count() == 0;
 }
 
 bool FilterCriteria::needsRefill() const
 {
-    return m_isFillMissing || (m_wasNarrowedAtFill && !(state() == m_stateAtFill));
+    const State now = state();
+    return m_isFillMissing || now.dictionary != m_stateAtFill.dictionary ||
+           (m_wasNarrowedAtFill && !(now == m_stateAtFill));
 }
 
 FilterCriteria::State FilterCriteria::state() const

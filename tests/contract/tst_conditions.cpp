@@ -137,6 +137,7 @@ private Q_SLOTS:
         QFETCH(QString, shown);
         host().dictionary = eachType();
         host().dictionary << &real("huge", -1e300, 1e300, 0) << &integer("other", 0, 9, 11);
+        host().dictionary << &real("narrowed", 871.4845, 871.4855, 900);
         const QByteArray json = QJsonDocument({{"version", 1}, {kind, QJsonArray{saved}}}).toJson();
         RowSet added;
         RestoreResult result;
@@ -178,6 +179,9 @@ private Q_SLOTS:
         QCOMPARE(dialog.restoreConditions({width}, refuse).first().status, RestoreNotAdded);
         dialog.restoreConditions({width, width}, addToBase);
         QVERIFY(dialog.conditions() == QList<AttrCondition>({width, width}));
+        AttrCondition wider = width;
+        wider.high = 9;
+        QVERIFY(wider != width);
         appendRow(host().chosen, *rowsOf<FeatureAttrLWI>(false)[3]);    // has no line
         appendRow(host().chosen, *rowsOf<AttrFilterLWI>(false).back()); // has an unknown type
         QCOMPARE(dialog.getFiltersAsStringList(), QStringList({"6 <= width <= 8", "6 <= width <= 8", ""}));

@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QScrollBar>
+#include <QSizeGrip>
 #include <QSplitter>
 #include <QTemporaryDir>
 #include <QToolTip>
@@ -261,6 +262,22 @@ private Q_SLOTS:
         setFilter("name_of_sixty");
         if (inFilter())
             QVERIFY(table->viewport()->grab(area).toImage() != dots); // a match in what was left out
+    }
+
+    void widgetsOfALayoutDoNotOverlap()
+    {
+        QList<QWidget *> parents = dialog->findChildren<QWidget *>();
+        parents << dialog.get();
+        for (const QWidget *parent : parents) {
+            QRegion used;
+            for (const QWidget *child :
+                 parent->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
+                if (!parent->layout() || !child->isVisible() || qobject_cast<const QSizeGrip *>(child))
+                    continue;
+                QVERIFY2(!used.intersects(child->geometry()), qPrintable(child->objectName()));
+                used += child->geometry();
+            }
+        }
     }
 
     void everyFocusWidgetHasAnAccessibleName()

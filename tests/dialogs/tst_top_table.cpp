@@ -6,7 +6,18 @@
 #include <QAbstractEventDispatcher>
 #include <QScrollBar>
 
+#include <dlfcn.h>
+
 using namespace Zudunmaf;
+
+static int walksUntilFailure = -1;
+
+/// The service of the stand-in, whose chosen call fails.
+int dml__atr_next(int did, int one, unsigned int entityMask, int *cursor, DmlAttrDef **definition)
+{
+    static const auto next = reinterpret_cast<decltype(&dml__atr_next)>(dlsym(RTLD_NEXT, "dml__atr_next"));
+    return walksUntilFailure-- == 0 ? 1 : next(did, one, entityMask, cursor, definition);
+}
 
 class PaintCounter : public QObject
 {
@@ -195,6 +206,16 @@ private Q_SLOTS:
         QCOMPARE(entityList->currentIndex(), 0);
         QCOMPARE(visibleNames(topView).first(), QString(way() == "configuration" ? "plated" : "axis"));
         QVERIFY(groupList->findText(way() == "configuration" ? "Holes" : "Tools") > 0);
+    }
+
+    void failedWalkForTheGroupsIsRepeated()
+    {
+        walksUntilFailure = 0;
+        QVERIFY(open());
+        QCOMPARE(groupList->count(), 0);
+        setFilter("width");
+        QCOMPARE(visibleNames(topView), QStringList("width"));
+        QVERIFY(groupList->findText("Holes") > 0);
     }
 
     void matchesAreHighlighted_data() { addWays({"AD_11", "p*?1", "pad_[12]1", "**"}); }

@@ -18,16 +18,14 @@ namespace
 double enteredNumber(double bound)
 {
     const double entered = roundedToDecimals(bound);
-    const bool isNarrowed = std::fabs(entered) < double(std::numeric_limits<float>::max()) &&
-                            double(static_cast<float>(entered)) == bound;
-    return isNarrowed ? entered : bound;
+    return double(narrowedNumber(entered)) == bound ? entered : bound;
 }
 
 /// Returns the 32-bit float nearest to the bound; the bound itself if it is out of range.
-double narrowedNumber(double bound)
+double narrowedBound(double bound)
 {
-    return std::fabs(bound) <= double(std::numeric_limits<float>::max()) ? double(static_cast<float>(bound))
-                                                                         : bound;
+    const float narrowed = narrowedNumber(bound);
+    return std::isfinite(narrowed) ? double(narrowed) : bound;
 }
 
 /// Returns the possible error of a converted bound. If units differ by an offset, as degrees do, the resolution of the
@@ -95,9 +93,8 @@ ConditionMatcher::ConditionMatcher(const AttrCondition &condition, int valueUnit
 
 void ConditionMatcher::setBounds(const AttrCondition &condition, int valueUnits)
 {
-    m_low = std::min(std::min(condition.low, enteredNumber(condition.low)), narrowedNumber(condition.low));
-    m_high =
-        std::max(std::max(condition.high, enteredNumber(condition.high)), narrowedNumber(condition.high));
+    m_low = std::min(std::min(condition.low, enteredNumber(condition.low)), narrowedBound(condition.low));
+    m_high = std::max(std::max(condition.high, enteredNumber(condition.high)), narrowedBound(condition.high));
     if (valueUnits == -1)
         return;
     const NumberUnits units(condition.units, condition.unitsText, valueUnits);

@@ -12,7 +12,7 @@ namespace Zudunmaf
 /// millions of features.
 ///
 /// A value satisfies a condition as the line of the condition says:
-/// - Any value satisfies a condition that is not set, or is on a boolean, or has an empty text.
+/// - Any value satisfies a condition that is not set, or is on a boolean or an unknown type, or has an empty text.
 /// - A text or an option must be equal to the text, case-sensitively.
 /// - An integer or a float must be between the bounds, inclusive.
 ///

@@ -18,7 +18,7 @@ enum LineStatus {
     LineUnknown,     ///< No attribute of the dictionary gives this line.
     LineAmbiguous,   ///< Several attributes give this line, or could have given it.
     LineOptionGone,  ///< The option has no entry of this text.
-    LineOutOfRange,  ///< A number is beyond the limits, or the bounds are out of order.
+    LineOutOfRange,  ///< A number is beyond the limits, the bounds are out of order, or the text is too long.
     LineNoDictionary ///< The dictionary could not be walked.
 };
 
@@ -42,9 +42,9 @@ enum LineLabels {
 /// limit that rounding has moved out of range as the limit, and -0.000 as the negative number nearest to zero. A label
 /// with a placeholder such as %1 is recognised as it appears in the line.
 ///
-/// Not read are the empty line of an attribute of an unknown type, and a number that a placeholder such as %L1 has
-/// printed with separators of the locale. The dictionary is walked once for all lines; if the walk fails, this is
-/// reported, and no line is read.
+/// Not read are the empty line of an attribute of an unknown type, a number that a placeholder such as %L1 has printed
+/// with separators of the locale, and a text that was cut at 199 bytes inside of a character. The dictionary is walked
+/// once for all lines; if the walk fails, this is reported, and no line is read.
 GDM_EXPORT QList<LineResult> conditionsFromLines(const QStringList &lines, int did, LineLabels labels);
 
 } // namespace Zudunmaf

@@ -31,14 +31,6 @@ double rounded(double limit)
     return std::isfinite(number) ? number : limit;
 }
 
-/// Returns the limit as an editor has it: infinite beyond the range of a 32-bit float.
-double editorLimit(double limit)
-{
-    return std::fabs(limit) > double(std::numeric_limits<float>::max())
-               ? std::copysign(std::numeric_limits<double>::infinity(), limit)
-               : limit;
-}
-
 double slackOf(double limit)
 {
     const double slack = 4.0 * double(std::numeric_limits<float>::epsilon()) * std::fabs(limit);
@@ -65,10 +57,11 @@ QString problemOfFloat(double number, const DmlAttrDef &definition, int displayU
     if (displayUnits != -1)
         units = NumberUnits(definition.unitsClass, QString(), displayUnits);
     const double shown = units.converted(number);
-    const double minimum = editorLimit(units.converted(definition.floatMin));
-    const double maximum = editorLimit(units.converted(definition.floatMax));
-    const double least = std::min(minimum, rounded(minimum)) - slackOf(minimum);
-    const double greatest = std::max(maximum, rounded(maximum)) + slackOf(maximum);
+    // An editor rounds its limits, with some units after it has narrowed them to a 32-bit float.
+    const double minimum = units.converted(definition.floatMin), low = double(narrowedNumber(minimum));
+    const double maximum = units.converted(definition.floatMax), high = double(narrowedNumber(maximum));
+    const double least = std::min(std::min(low, rounded(low)), rounded(minimum)) - slackOf(low);
+    const double greatest = std::max(std::max(high, rounded(high)), rounded(maximum)) + slackOf(high);
     if (shown >= least && shown <= greatest)
         return QString();
     return outsideLimits(number, definition.floatMin, definition.floatMax);

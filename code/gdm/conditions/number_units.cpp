@@ -10,11 +10,7 @@
 namespace Zudunmaf
 {
 
-namespace
-{
-
-/// Returns the number as a float, infinite out of its range: there, the conversion is undefined.
-float narrowed(double number)
+float narrowedNumber(double number)
 {
     if (std::fabs(number) <= double(std::numeric_limits<float>::max()))
         return static_cast<float>(number);
@@ -23,8 +19,6 @@ float narrowed(double number)
     const float infinity = std::numeric_limits<float>::infinity();
     return number < 0 ? -infinity : infinity;
 }
-
-} // namespace
 
 QString textOfUnits(int code)
 {
@@ -64,7 +58,7 @@ double NumberUnits::converted(double number) const
 {
     if (m_relation != Convertible || !std::isfinite(number))
         return number;
-    float value = narrowed(number);
+    float value = narrowedNumber(number);
     if (std::isfinite(value))
         gen__torvex_units_convert_2(&value, m_source, m_target);
     return double(value);

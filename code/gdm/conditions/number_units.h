@@ -6,6 +6,9 @@
 namespace Zudunmaf
 {
 
+/// Returns the 32-bit float nearest to the number; infinite beyond its range, where a plain conversion is undefined.
+float narrowedNumber(double number);
+
 /// Returns the text of the units with this code; empty if the services have none.
 QString textOfUnits(int code);
 

@@ -31,7 +31,8 @@ public:
     ~AttributesFilterDialog() override;
 
     /// Returns a line for each chosen attribute, in the order of the chosen table: "5 <= width <= 9", "finish = matt",
-    /// or the label alone if no condition is set.
+    /// or the label alone if no condition is set. The line of an attribute of an unknown type is empty. Items of
+    /// another class have no line.
     QStringList getFiltersAsStringList() const;
     /// Returns the conditions of the chosen attributes, in the order of the chosen table; see conditionOf(). Unlike
     /// lines, they are exact and can be saved; see gdm/conditions/attr_documents.h.
@@ -43,6 +44,7 @@ public:
     /// Returns a new AttrFilterLWI without a definition. The caller owns it.
     DmlAttrLWI *createNewItem();
 
+    /// Fills all lists, with all entities and groups.
     void buildInitialLists() override;
     /// Shows the rows of the available table that match the entity, the group and the filter text, and hides the
     /// others. The text is a wildcard pattern that matches anywhere in the label, case-insensitively.

@@ -39,6 +39,8 @@ public:
     /// Returns a new FeatureAttrLWI without a definition. The caller owns it.
     DmlAttrLWI *createNewItem();
 
+    /// Fills all lists, with all entities and groups. Chosen attributes are visible in the available table until the
+    /// next filterAttributeList().
     void buildInitialLists() override;
     /// Shows the rows of the available table that match the entity, the group and the filter text and are not chosen,
     /// and hides the others. The text is a wildcard pattern that matches anywhere in the label, case-insensitively.
@@ -47,10 +49,11 @@ public:
     /// Sets the units code, and fills the available table with the current entity, group and filter text. Chosen items
     /// keep their units, and their attributes are visible in the available table until the next filterAttributeList().
     void setDisplayUnits(int units) override;
-    /// Hides the row of the item, which is that of an added attribute in the available table.
+    /// Hides the row of the item, which is that of an added attribute in the available table. Does nothing for null, an
+    /// item of another class, or one without a row there.
     void addButtonClickedCB(QTableWidgetItem *item) override;
     /// Shows the available table's row for the attribute of the item, a chosen one, even if the criteria do not match
-    /// it.
+    /// it. Does nothing for null, an item of another class, or one whose attribute has no row there.
     void removeButtonClickedCB(QTableWidgetItem *item) override;
 
 private Q_SLOTS:

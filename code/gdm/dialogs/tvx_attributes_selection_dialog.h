@@ -98,7 +98,7 @@ public:
     /// Makes the first visible row of the available table current. If no row is visible, clears the current row and the
     /// selection.
     void setFirstVisibleItemAsCurrent();
-    /// Makes the row of this item current in the available table.
+    /// Makes the row of this item current in the available table. Ignores null and an item of another table.
     void setTopViewCurrentItem(QTableWidgetItem *item);
     /// Returns the item in the available table whose attribute has this internal name, hidden rows included; null if
     /// there is none.
@@ -109,7 +109,7 @@ public:
 
     /// Sets the delegate of the tables whose cells are edited. The delegate is a child of the dialog.
     void setItemDelegate(QStyledItemDelegate *delegate);
-    /// Sets the header text of a column, 0 or 1.
+    /// Sets the header text of a column, 0 or 1; ignores others.
     void setHeaderTitle(int column, const QString &title);
     /// Sets the icon of a button from a file name without path. Returns false if the file is not found.
     bool setButtonPixmap(Buttons_Enum button, const QString &name);

@@ -24,10 +24,8 @@ QString lineWithDefault(const char *lineKey, const char *text, const char *absen
 void describeInteger(const DmlAttrDef &definition, QStringList *lines)
 {
     *lines << messageText(keys::TipInteger);
-    *lines << messageText(keys::TipIntegerDefault).arg(int(definition.defaultInt), 0, 10);
-    *lines << messageText(keys::TipIntegerRange)
-                  .arg(int(definition.intMin), 0, 10)
-                  .arg(int(definition.intMax), 0, 10);
+    *lines << messageText(keys::TipIntegerDefault).arg(int(definition.defaultInt));
+    *lines << messageText(keys::TipIntegerRange).arg(int(definition.intMin)).arg(int(definition.intMax));
 }
 
 void describeFloat(const DmlAttrDef &definition, int displayUnits, QStringList *lines)

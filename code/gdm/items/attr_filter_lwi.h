@@ -42,7 +42,8 @@ public:
     /// Copies the DmlAttrValue that the variant points to into the record of this item. Ignores a null variant or
     /// pointer. The type is copied too and not checked against the definition.
     void setAttrValue(QVariant attrValue) override;
-    /// Returns the text of DmlAttrFilterTextRole.
+    /// Returns the text of DmlAttrFilterTextRole: the result line while the item shows its condition, because it always
+    /// does or is selected; otherwise an empty string.
     QString toString() const override;
     /// Returns a null string: a condition has no value.
     QString valueAsString() const override;

@@ -14,7 +14,7 @@ enum DmlAttrRole {
     DmlAttrTypeRole = 139,      ///< int: the type code of the definition, whatever it is.
     DmlAttrValueRole = 140,     ///< The condition or the value, by type.
     DmlAttrDefRole = 141,       ///< void*: the DmlAttrDef.
-    DmlAttrFilterTextRole = 142 ///< QString: the condition as one line; filter items only.
+    DmlAttrFilterTextRole = 142 ///< QString: the condition as one line, if it is shown; filter items only.
 };
 
 /// Entities that can carry an attribute; bits of DmlAttrDef::entityMask. Of the values here, only EntityAll includes

@@ -26,7 +26,8 @@ public:
     };
 
     /// Constructs an item without definition and value. It is labelled by name, shows its value only while selected,
-    /// and has no display units. QTableWidgetItem::type() is UserType for all kinds of item; use itemType().
+    /// and has no display units. QTableWidgetItem::type() is UserType for all kinds of item, and 0 for an
+    /// item made by a copy constructor; use itemType().
     explicit DmlAttrLWI(ItemType_Enum itemType = ItemType_None);
     /// Copies the item with its settings. The variants are copied: a DmlAttrLWI that is constructed from an
     /// AttrFilterLWI points to that item's record, does not own it, and must not be asked for it after that item is

@@ -99,7 +99,7 @@ QString FeatureAttrLWI::valueAsString() const
         case DmlAttrOption:
             return m_attrValue.toString();
         case DmlAttrInteger:
-            return QString(QLatin1String("%1")).arg(m_attrValue.toInt(), 0, 10);
+            return QString::number(m_attrValue.toInt());
         case DmlAttrFloat:
             return floatAsString(*definition);
         default:

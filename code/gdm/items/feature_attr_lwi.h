@@ -32,8 +32,8 @@ public:
     /// is null. Returns QTableWidgetItem::data() for everything else, and for all roles without a definition.
     QVariant data(int role) const override;
 
-    /// Sets the definition, and the value to its default. If the definition is null or of an unknown type, the value is
-    /// left unchanged.
+    /// Sets the definition, and the value to its default: a null string for a text without a default, an empty one for
+    /// an option without a valid default. If the definition is null or of an unknown type, the value is left unchanged.
     void setDmlAttribute(QVariant dmlAttribute) override;
     /// Sets the value. It is neither converted nor checked against the limits.
     void setAttrValue(QVariant attrValue) override;
@@ -43,9 +43,10 @@ public:
     /// boolean and if there is no value.
     QString valueAsString() const override;
     /// Sets the value from a text that valueAsString() can have returned. A text or an option is set to the text as it
-    /// is; an option is not searched for an entry. A float is a number, or a number, a blank and a unit; a number alone
-    /// is in the units of the definition. A text that is no number, or has more than two words, sets the value to 0.
-    /// Limits are not checked. Does nothing for a boolean, and without a definition.
+    /// is; an option is not searched for an entry. An integer is a sign and decimal digits. A float is a number, or, if
+    /// the definition has units, a number, a blank and a unit; a number alone is in the units of the definition, and so
+    /// is one with a unit that the services cannot convert to them. Any other text, and an integer beyond the range of
+    /// int, sets the value to 0. Limits are not checked. Does nothing for a boolean, and without a definition.
     void setValueFromString(const QString &text) override;
 
 private:
