@@ -46,7 +46,6 @@ QPushButton *button(QDialog *dialog, const char *objectName, const char *text, c
     QPushButton *button = named(new PictureButton(textOf(text), dialog), objectName, text);
     button->setToolTip(textOf(hint));
     button->setFocusPolicy(Qt::TabFocus);
-    button->setEnabled(false);
     return button;
 }
 
