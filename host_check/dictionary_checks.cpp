@@ -1,3 +1,4 @@
+#include "printable.h"
 #include "walk.h"
 
 #include "gdm/host/dml_dictionary.h"
@@ -155,6 +156,8 @@ void attributesAreUsable(const Settings &settings)
         const std::string name = fieldText(definition->name);
         expect(!name.empty(), "a name of each attribute",
                text("none with the prompt ", fieldText(definition->prompt)));
+        for (const std::string &field : {name, fieldText(definition->prompt), fieldText(definition->group)})
+            expect(printable(field) == field, text("printable UTF-8 in the texts of ", name), field);
         expect(definition->type >= DmlAttrBoolean && definition->type <= DmlAttrFloat,
                text("a type 0 to 4 of ", name), text(definition->type));
         expect(definition->entityMask != 0, text("an entity mask of ", name), "0");
@@ -214,7 +217,8 @@ const std::vector<Check> &dictionaryChecks()
         {"A dictionary that does not exist is a failure", Should, Walk, unknownDictionaryFails},
         {"Names, prompts and groups end within their fields", Must, Walk, textsEnd},
         {"Each entry of a list is a text", Must, Walk, entriesAreTexts},
-        {"Each attribute has a name, a known type and an entity", Should, Walk, attributesAreUsable},
+        {"Each attribute has a name, texts in UTF-8, a known type and an entity", Should, Walk,
+         attributesAreUsable},
         {"Names are unique", Should, Walk, namesAreUnique},
         {"Limits are in order and hold the default", Should, Walk, limitsAreInOrder},
         {"The default of an option is one of its entries", Should, Walk, defaultsAreEntries},

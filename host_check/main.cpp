@@ -36,14 +36,14 @@ environment, the dialogs are checked offscreen.
 Exit status: 0 if nothing is broken, 1 if something is, 2 for wrong arguments.
 )";
 
+/// The text of a finding, which is printable.
 std::string jsonText(const std::string &text)
 {
     std::string result;
     for (const char character : text) {
         if (character == '"' || character == '\\')
             result += '\\';
-        // A detail has no line breaks, but may quote anything else that the host returned.
-        result += static_cast<unsigned char>(character) < ' ' ? '?' : character;
+        result += character;
     }
     return '"' + result + '"';
 }

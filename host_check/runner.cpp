@@ -1,8 +1,8 @@
 #include "runner.h"
 
 #include "loading.h"
+#include "printable.h"
 
-#include <algorithm>
 #include <csignal>
 #include <cstring>
 #include <fstream>
@@ -60,11 +60,9 @@ public:
     void sendDone() { send("done", {}, {}); }
 
 private:
-    void send(const char *kind, const std::string &first, std::string second)
+    void send(const char *kind, const std::string &first, const std::string &second)
     {
-        std::replace_if(
-            second.begin(), second.end(), [](char c) { return c == '\n' || c == '\t'; }, ' ');
-        std::fprintf(m_pipe, "%s\t%s\t%s\n", kind, first.c_str(), second.c_str());
+        std::fprintf(m_pipe, "%s\t%s\t%s\n", kind, first.c_str(), printable(second).c_str());
         std::fflush(m_pipe);
     }
 

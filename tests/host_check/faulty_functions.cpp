@@ -4,6 +4,7 @@
 #include "gdm/host/dml_dictionary.h"
 #include "gdm/host/gen_services.h"
 #include "gdm/items/attr_records.h"
+#include "gdm/items/attr_roles.h"
 
 #include <QAbstractItemDelegate>
 #include <QComboBox>
@@ -52,6 +53,17 @@ int dml__atr_next(int did, int, unsigned int, int *, DmlAttrDef **definition)
     std::strcpy(width.name, "width");
     *definition = &width;
     return did == 0 ? 0 : 1;
+}
+
+#elif defined(FAULT_other_encoding)
+int dml__atr_next(int, int, unsigned int, int *cursor, DmlAttrDef **definition)
+{
+    static DmlAttrDef height = {};
+    std::strcpy(height.name, "height");
+    std::strcpy(height.prompt, "\"H\xF6he\"\n");
+    height.entityMask = Zudunmaf::EntityAll;
+    *definition = (*cursor)++ == 0 ? &height : nullptr;
+    return 0;
 }
 
 #elif defined(FAULT_null_prompt)
