@@ -35,8 +35,6 @@ struct Check {
     const char *promise;
     /// Broken if the contract demands it, Advice if the contract leaves it open.
     Verdict ifNot;
-    /// Host functions that the check calls, separated by blanks. It is not checkable without them.
-    const char *needs;
     void (*run)(const Settings &settings);
 };
 
@@ -54,11 +52,26 @@ std::string text(const Parts &...parts)
     return stream.str();
 }
 
+inline std::string quoted(const std::string &text)
+{
+    return '"' + text + '"';
+}
+
 /// Ends the running check unless `isKept`.
 inline void expect(bool isKept, const std::string &expected, const std::string &came)
 {
     if (!isKept)
         throw Violation{expected, came};
+}
+
+/// Ends the running check unless both are equal. `where` follows what was expected, as in "0 from gen__cfg_get()".
+template <class Came, class Expected>
+void expectEqual(const Came &came, const Expected &expected, const std::string &where)
+{
+    if constexpr (std::is_convertible_v<Came, std::string>)
+        expect(came == expected, text(quoted(expected), " ", where), quoted(came));
+    else
+        expect(came == expected, text(std::boolalpha, expected, " ", where), text(std::boolalpha, came));
 }
 
 [[noreturn]] inline void notCheckable(const std::string &reason)
@@ -75,6 +88,7 @@ inline void expect(bool isKept, const std::string &expected, const std::string &
 /// The checks of each group, in the order in which they run.
 const std::vector<Check> &processChecks();
 const std::vector<Check> &serviceChecks();
+const std::vector<Check> &unitsChecks();
 const std::vector<Check> &dictionaryChecks();
 
 } // namespace Zudunmaf::hostcheck

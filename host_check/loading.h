@@ -6,32 +6,34 @@
 #include <dlfcn.h>
 
 /// @file
-/// The host's libraries in this process.
+/// The host's libraries in this process. Nothing here is linked to the host: a missing function is a finding and not the
+/// end of the process.
 
 namespace Zudunmaf::hostcheck
 {
 
-/// Address of a function in the host's libraries; null if there is none. Nothing here is linked to the host: a missing
-/// function is a finding and not the end of the process.
+/// Address of a function in the host's libraries. Ends the running check if there is none.
 inline void *hostFunction(const char *name)
 {
-    return dlsym(RTLD_DEFAULT, name);
+    void *address = dlsym(RTLD_DEFAULT, name);
+    if (!address)
+        notCheckable(text("missing ", name));
+    return address;
 }
 
 /// Every library that defines the base dialog has this symbol.
 constexpr char BaseVirtualTable[] = "_ZTV28TvxAttributesSelectionDialog";
 
-/// Loads the libraries as a host does that loads them by itself. Returns one line for each that failed.
-std::vector<std::string> loadLibraries(const Settings &settings);
+/// Loads the libraries as a host does that loads them by itself, and calls the host's function for preparation. Returns
+/// what went wrong first, empty if nothing did.
+std::string loadHost(const Settings &settings);
 
-/// Calls the host's function for preparation. Returns what went wrong, empty if nothing did.
-std::string callSetup(const Settings &settings);
-
-/// The checks of the base dialog. Loads libzudunmaf.so on the first call; null with `*error` set if that fails.
-const std::vector<Check> *baseChecks(std::string *error);
-
-/// Names of `needs` that are not found, separated by blanks.
-std::string missingFunctions(const char *needs);
+/// libzudunmaf.so and the checks of the base dialog, which need the base's symbols at load. Loaded on the first call.
+struct BaseModule {
+    const std::vector<Check> *checks; ///< Null if it does not load.
+    std::string error;
+};
+const BaseModule &baseModule();
 
 } // namespace Zudunmaf::hostcheck
 

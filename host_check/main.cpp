@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <filesystem>
 #include <getopt.h>
 
@@ -35,55 +34,6 @@ environment, the dialogs are checked offscreen.
 
 Exit status: 0 if nothing is broken, 1 if something is, 2 for wrong arguments.
 )";
-
-/// The text of a finding, which is printable.
-std::string jsonText(const std::string &text)
-{
-    std::string result;
-    for (const char character : text) {
-        if (character == '"' || character == '\\')
-            result += '\\';
-        result += character;
-    }
-    return '"' + result + '"';
-}
-
-const char *wordFor(Verdict verdict)
-{
-    switch (verdict) {
-    case Verdict::Kept:
-        return "kept";
-    case Verdict::Broken:
-        return "broken";
-    case Verdict::Advice:
-        return "advice";
-    case Verdict::NotCheckable:
-        break;
-    }
-    return "not checkable";
-}
-
-void printLine(const Finding &finding)
-{
-    std::printf("%-13s %s: %s%s%s\n", wordFor(finding.outcome.verdict), finding.group.c_str(),
-                finding.promise.c_str(), finding.outcome.detail.empty() ? "" : ": ",
-                finding.outcome.detail.c_str());
-    std::fflush(stdout);
-}
-
-void printJson(const std::vector<Finding> &findings)
-{
-    std::printf("{\"checks\": [");
-    const char *separator = "\n";
-    for (const Finding &finding : findings) {
-        std::printf("%s  {\"group\": %s, \"promise\": %s, \"outcome\": %s, \"detail\": %s}", separator,
-                    jsonText(finding.group).c_str(), jsonText(finding.promise).c_str(),
-                    jsonText(wordFor(finding.outcome.verdict)).c_str(),
-                    jsonText(finding.outcome.detail).c_str());
-        separator = ",\n";
-    }
-    std::printf("\n]}\n");
-}
 
 [[noreturn]] void refuse(const std::string &reason)
 {
@@ -154,17 +104,8 @@ int main(int argc, char *argv[])
 {
     const Settings settings = settingsFrom(argc, argv);
     setenv("QT_QPA_PLATFORM", "offscreen", 0);
-    std::vector<Finding> findings;
-    runChecks(settings, [&](const Finding &finding) {
-        findings.push_back(finding);
-        if (!settings.json)
-            printLine(finding);
-    });
-    if (settings.json)
-        printJson(findings);
-    const bool isFine = std::none_of(findings.begin(), findings.end(), [&settings](const Finding &finding) {
-        const Verdict verdict = finding.outcome.verdict;
-        return verdict == Verdict::Broken || (settings.strict && verdict == Verdict::Advice);
-    });
+    const Report &report = runChecks(settings);
+    const bool isFine =
+        report.count(Verdict::Broken) == 0 && (!settings.strict || report.count(Verdict::Advice) == 0);
     return isFine ? 0 : 1;
 }

@@ -1,14 +1,13 @@
 #include "runner.h"
 
 #include "loading.h"
-#include "printable.h"
 
 #include <csignal>
 #include <cstring>
-#include <fstream>
+#include <new>
+#include <sys/mman.h>
 #include <sys/wait.h>
 #include <unistd.h>
-#include <utility>
 
 namespace Zudunmaf::hostcheck
 {
@@ -16,11 +15,23 @@ namespace Zudunmaf::hostcheck
 namespace
 {
 
+/// In memory that the program and its children share.
+struct Run {
+    Report report;
+    int begun = 0; ///< Number of checks so far.
+    bool isDone = false;
+    char group[20] = "", promise[200] = ""; ///< Of the check that is running.
+
+    void setRunning(const char *inGroup, const char *itsPromise)
+    {
+        std::snprintf(group, sizeof group, "%s", inGroup);
+        std::snprintf(promise, sizeof promise, "%s", itsPromise);
+    }
+    void setBetweenChecks() { setRunning("process", "The process goes on between two checks"); }
+};
+
 Outcome outcomeOf(const Check &check, const Settings &settings)
 {
-    const std::string missing = missingFunctions(check.needs);
-    if (!missing.empty())
-        return {Verdict::NotCheckable, "missing " + missing};
     try {
         check.run(settings);
     } catch (const Violation &violation) {
@@ -31,138 +42,80 @@ Outcome outcomeOf(const Check &check, const Settings &settings)
     return {Verdict::Kept, {}};
 }
 
-/// Runs checks in the child and sends two lines to the parent for each: "begin", group and promise before it, "end",
-/// verdict and detail after it, separated by tabs. A last line, "done", shows that the host has not ended the process.
-class Sender
+void runInChild(Run &run, const Settings &settings)
 {
-public:
-    Sender(FILE *pipe, int firstCheck, const Settings &settings)
-        : m_pipe(pipe)
-        , m_toSkip(firstCheck)
-        , m_settings(settings)
-    {
-    }
-
-    void run(const char *group, const std::vector<Check> &checks)
-    {
+    int toSkip = run.begun;
+    if (toSkip > 0)
+        loadHost(settings);
+    const auto runAll = [&](const char *group, const std::vector<Check> &checks) {
         for (const Check &check : checks) {
-            if (m_toSkip-- > 0)
+            if (toSkip-- > 0)
                 continue;
-            send("begin", group, check.promise);
+            ++run.begun;
+            run.setRunning(group, check.promise);
             // Ends the process if the host does not return.
-            alarm(unsigned(m_settings.timeout));
-            const Outcome outcome = outcomeOf(check, m_settings);
+            alarm(unsigned(settings.timeout));
+            const Outcome outcome = outcomeOf(check, settings);
             alarm(0);
-            send("end", std::to_string(int(outcome.verdict)), outcome.detail);
+            run.setBetweenChecks();
+            run.report.add(group, check.promise, outcome);
         }
-    }
-
-    void sendDone() { send("done", {}, {}); }
-
-private:
-    void send(const char *kind, const std::string &first, const std::string &second)
-    {
-        std::fprintf(m_pipe, "%s\t%s\t%s\n", kind, first.c_str(), printable(second).c_str());
-        std::fflush(m_pipe);
-    }
-
-    FILE *m_pipe;
-    int m_toSkip;
-    const Settings &m_settings;
-};
-
-[[noreturn]] void runInChild(FILE *pipe, int firstCheck, const Settings &settings)
-{
-    // What the host prints must not get into the report.
-    dup2(STDERR_FILENO, STDOUT_FILENO);
-    Sender sender(pipe, firstCheck, settings);
-    if (firstCheck > 0) {
-        loadLibraries(settings);
-        callSetup(settings);
-    }
-    sender.run("process", processChecks());
-    sender.run("services", serviceChecks());
-    sender.run("dictionary", dictionaryChecks());
-    std::string error;
-    const std::vector<Check> *checks = baseChecks(&error);
-    if (checks && hostFunction(BaseVirtualTable))
-        sender.run("base", *checks);
-    else
-        sender.run("base",
-                   {{"All promises of the base dialog", Verdict::NotCheckable, "",
-                     [](const Settings &) { notCheckable("no base dialog of the host is loaded"); }}});
-    sender.sendDone();
-    // Destructors of the host's libraries are not under check.
-    _exit(EXIT_SUCCESS);
+    };
+    runAll("process", processChecks());
+    runAll("services", serviceChecks());
+    runAll("services", unitsChecks());
+    runAll("dictionary", dictionaryChecks());
+    const std::vector<Check> noBase{
+        {"All promises of the base dialog", Verdict::NotCheckable,
+         [](const Settings &) { notCheckable("no base dialog of the host is loaded"); }}};
+    const bool hasBase = baseModule().checks && dlsym(RTLD_DEFAULT, BaseVirtualTable);
+    runAll("base", hasBase ? *baseModule().checks : noBase);
+    run.isDone = true;
 }
 
 std::string ending(int status, int timeout)
 {
     if (!WIFSIGNALED(status))
         return text("the end of the process with status ", WEXITSTATUS(status));
-    if (WTERMSIG(status) == SIGALRM)
-        return text("nothing within ", timeout, " seconds");
-    return text("the end of the process by signal ", WTERMSIG(status), " (", strsignal(WTERMSIG(status)),
-                ")");
+    const int signal = WTERMSIG(status);
+    return signal == SIGALRM
+               ? text("nothing within ", timeout, " seconds")
+               : text("the end of the process by signal ", signal, " (", strsignal(signal), ")");
 }
 
-/// Starts a child that runs the checks from `firstCheck` on. Returns its process, and the end of the pipe to read.
-std::pair<pid_t, int> startChild(int firstCheck, const Settings &settings)
+[[noreturn]] void giveUp()
 {
-    int ends[2];
-    const pid_t child = pipe(ends) == 0 ? fork() : -1;
-    if (child < 0) {
-        std::perror("zudunmaf-host-check: no process for the checks");
-        std::exit(2);
-    }
-    if (child == 0) {
-        close(ends[0]);
-        runInChild(fdopen(ends[1], "w"), firstCheck, settings);
-    }
-    close(ends[1]);
-    return {child, ends[0]};
-}
-
-/// Runs the checks from `firstCheck` on in one child. Returns the check to go on with, -1 if there is none.
-int runSome(int firstCheck, const Settings &settings, const std::function<void(const Finding &)> &report)
-{
-    const auto [child, output] = startChild(firstCheck, settings);
-    const Finding betweenChecks{"process", "The process goes on between two checks", {}};
-    Finding finding = betweenChecks;
-    int begun = 0;
-    bool isDone = false;
-    std::ifstream lines(text("/proc/self/fd/", output));
-    for (std::string kind, first, second; std::getline(lines, kind, '\t') &&
-                                          std::getline(lines, first, '\t') && std::getline(lines, second);) {
-        if (kind == "begin") {
-            ++begun;
-            finding = {first, second, {}};
-        } else if (kind == "done") {
-            isDone = true;
-        } else {
-            finding.outcome = {Verdict(std::stoi(first)), second};
-            report(finding);
-            finding = betweenChecks;
-        }
-    }
-    close(output);
-    int status = 0;
-    waitpid(child, &status, 0);
-    if (isDone)
-        return -1;
-    finding.outcome = {Verdict::Broken,
-                       "expected a return from the host; came " + ending(status, settings.timeout)};
-    report(finding);
-    // If no check has begun, the next child would end the same way.
-    return begun > 0 ? firstCheck + begun : -1;
+    std::perror("zudunmaf-host-check: no process for the checks");
+    std::exit(2);
 }
 
 } // namespace
 
-void runChecks(const Settings &settings, const std::function<void(const Finding &)> &report)
+const Report &runChecks(const Settings &settings)
 {
-    for (int next = 0; next >= 0;)
-        next = runSome(next, settings, report);
+    void *memory = mmap(nullptr, sizeof(Run), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+    if (memory == MAP_FAILED)
+        giveUp();
+    Run &run = *new (memory) Run{Report(settings.json)};
+    for (int before = -1;
+         !run.isDone && run.begun > before;) { // A child that begins no check would not help.
+        before = run.begun;
+        run.setBetweenChecks();
+        const pid_t child = fork();
+        if (child == 0) {
+            runInChild(run, settings);
+            _exit(EXIT_SUCCESS); // Destructors of the host's libraries are not under check.
+        }
+        int status = 0;
+        if (waitpid(child, &status, 0) != child)
+            giveUp();
+        if (!run.isDone)
+            run.report.add(run.group, run.promise,
+                           {Verdict::Broken,
+                            "expected a return from the host; came " + ending(status, settings.timeout)});
+    }
+    run.report.finish();
+    return run.report;
 }
 
 } // namespace Zudunmaf::hostcheck

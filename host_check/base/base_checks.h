@@ -6,12 +6,10 @@
 namespace Zudunmaf::hostcheck
 {
 
-/// Whether the base library defines all functions; the only checks if it does not.
-std::vector<Check> completenessChecks();
-/// The base library by itself: what it defines, and its fills.
+/// The base library by itself: its declaration and its fills.
 std::vector<Check> baseClassChecks();
 /// Both dialogs over the base, driven by keys and by the mouse.
-std::vector<Check> baseDialogChecks();
+std::vector<Check> dialogChecks();
 
 } // namespace Zudunmaf::hostcheck
 

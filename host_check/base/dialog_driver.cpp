@@ -1,4 +1,5 @@
 #include "base/dialog_driver.h"
+#include "walk.h"
 
 #include "gdm/host/gen_services.h"
 
@@ -84,9 +85,29 @@ QString messageText(const char *key)
     return QString::fromLocal8Bit(gen__nls_nlst(key));
 }
 
-DialogDriver::DialogDriver(const Settings &settings, Kind kind)
-    : m_kind(kind)
+void expectNames(const QStringList &came, const QStringList &expected, const std::string &where)
 {
+    QStringList missing = expected, more = came;
+    if (came == expected)
+        return;
+    for (const QString &name : came)
+        missing.removeOne(name);
+    for (const QString &name : expected)
+        more.removeOne(name);
+    const std::string difference = !missing.isEmpty() ? " without " + missing.first().toStdString()
+                                   : !more.isEmpty()  ? " with " + more.first().toStdString()
+                                                      : " in another order";
+    expect(false, text(expected.size(), " attributes ", where), text(came.size(), difference));
+}
+
+DialogDriver::DialogDriver(const Settings &settings, Kind kind)
+    : m_settings(settings)
+    , m_kind(kind)
+{
+    attributesOf(settings); // The dialogs need a walk that ends.
+    const QStringList missing = missingHostFunctions();
+    if (!missing.isEmpty())
+        notCheckable("missing " + missing.join(QLatin1Char(' ')).toStdString());
     m_dialog = kind == Kind::Filter ? newDialog<AttributesFilterDialog>(settings.dictionary, m_calls)
                                     : newDialog<FeatureAttributesDialog>(settings.dictionary, m_calls);
     m_dialog->resize(900, 700);
@@ -99,10 +120,10 @@ DialogDriver::DialogDriver(const Settings &settings, Kind kind)
 QTableWidget *DialogDriver::topView() const
 {
     for (const QTableWidgetItem *item : m_dialog->getTopListItems(false)) {
-        if (item && item->tableWidget())
+        if (item && item->tableWidget() && item->tableWidget()->rowCount() >= 2)
             return item->tableWidget();
     }
-    notCheckable("no attribute is available " + where());
+    notCheckable("fewer than two attributes are available");
 }
 
 QTableWidget *DialogDriver::chosenList() const
@@ -135,6 +156,17 @@ QStringList DialogDriver::availableNames(bool visibleOnly) const
     return names;
 }
 
+int DialogDriver::topRowWhere(const std::function<bool(const DmlAttrDef &)> &isWanted,
+                              const std::string &what) const
+{
+    for (const QTableWidgetItem *item : m_dialog->getTopListItems(false)) {
+        const auto *definition = static_cast<const DmlAttrDef *>(item->data(DmlAttrDefRole).value<void *>());
+        if (!item->tableWidget()->isRowHidden(item->row()) && isWanted(*definition))
+            return item->row();
+    }
+    notCheckable("no " + what + " is available");
+}
+
 void DialogDriver::press(int key, Qt::KeyboardModifiers modifiers) const
 {
     QTest::keyClick(m_dialog->windowHandle(), Qt::Key(key), modifiers);
@@ -143,6 +175,9 @@ void DialogDriver::press(int key, Qt::KeyboardModifiers modifiers) const
 
 void DialogDriver::type(const QString &ascii) const
 {
+    press(Qt::Key_A, Qt::ControlModifier);
+    if (ascii.isEmpty())
+        press(Qt::Key_Delete);
     for (const QChar character : ascii)
         QTest::keyClick(m_dialog->windowHandle(), character.toLatin1());
     QCoreApplication::processEvents();
@@ -150,38 +185,39 @@ void DialogDriver::type(const QString &ascii) const
 
 void DialogDriver::click(QWidget *widget) const
 {
-    QTest::mouseClick(m_dialog->windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                      widget->mapTo(m_dialog.get(), widget->rect().center()));
+    QTest::mouseClick(widget, Qt::LeftButton);
     QCoreApplication::processEvents();
 }
 
-void DialogDriver::clickRow(QTableWidget *table, int row, Qt::KeyboardModifiers modifiers,
-                            Qt::MouseButton button) const
+void DialogDriver::clickRow(QTableWidget *table, int row, Qt::KeyboardModifiers modifiers) const
 {
     table->scrollToItem(table->item(row, 0));
-    const QPoint position = table->visualItemRect(table->item(row, 0)).center();
-    QTest::mouseClick(m_dialog->windowHandle(), button, modifiers,
-                      table->viewport()->mapTo(m_dialog.get(), position));
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, modifiers,
+                      table->visualItemRect(table->item(row, 0)).center());
     QCoreApplication::processEvents();
 }
 
-void DialogDriver::setFilterText(const QString &ascii)
+void DialogDriver::findFilterLine()
 {
-    const QList<QLineEdit *> lines =
-        m_filterLine ? QList<QLineEdit *>{m_filterLine} : m_dialog->findChildren<QLineEdit *>();
-    for (QLineEdit *line : lines) {
+    for (QLineEdit *line : m_dialog->findChildren<QLineEdit *>()) {
         if (!line->isVisible() || line->isReadOnly() || isInside<QTableWidget>(line))
             continue;
         click(line);
-        press(Qt::Key_A, Qt::ControlModifier);
-        press(Qt::Key_Delete);
-        type(ascii);
-        if (m_filterLine || m_dialog->getUserFilterText() == ascii) {
+        type(QStringLiteral("q"));
+        if (m_dialog->getUserFilterText() == QLatin1String("q")) {
             m_filterLine = line;
             return;
         }
     }
     notCheckable("no QLineEdit sets the filter text");
+}
+
+void DialogDriver::setFilterText(const QString &ascii)
+{
+    if (!m_filterLine)
+        findFilterLine();
+    click(m_filterLine);
+    type(ascii);
 }
 
 QWidget *DialogDriver::listWith(const QString &rowText) const
@@ -208,18 +244,17 @@ void DialogDriver::selectRow(QWidget *list, int row) const
         press(Qt::Key_Down);
 }
 
-void DialogDriver::clickWhatChanges(QAbstractButton *&button, const QString &word, const std::string &what)
+void DialogDriver::clickWhatChanges(QAbstractButton *&button, const QString &word)
 {
+    QList<QAbstractButton *> buttons{button};
+    if (!button) {
+        buttons = m_dialog->findChildren<QAbstractButton *>();
+        std::stable_partition(buttons.begin(), buttons.end(), [&word](const QAbstractButton *likely) {
+            const QString texts = likely->objectName() + likely->text() + likely->toolTip();
+            return texts.contains(word, Qt::CaseInsensitive);
+        });
+    }
     const qsizetype before = m_dialog->getChosenList().size();
-    QList<QAbstractButton *> buttons = m_dialog->findChildren<QAbstractButton *>();
-    // The likely buttons first.
-    const auto isLikely = [&word](const QAbstractButton *candidate) {
-        const QString texts = candidate->objectName() + candidate->text() + candidate->toolTip();
-        return texts.contains(word, Qt::CaseInsensitive);
-    };
-    std::stable_partition(buttons.begin(), buttons.end(), isLikely);
-    if (button)
-        buttons = {button};
     for (QAbstractButton *candidate : buttons) {
         if (!candidate->isVisible() || !candidate->isEnabled() || isInside<QDialogButtonBox>(candidate) ||
             isInside<QLineEdit>(candidate) || isInside<QAbstractItemView>(candidate))
@@ -231,7 +266,7 @@ void DialogDriver::clickWhatChanges(QAbstractButton *&button, const QString &wor
         }
     }
     if (!button)
-        notCheckable("no button " + what);
+        notCheckable("no button does what \"" + word.toStdString() + "\" says");
 }
 
 int DialogDriver::add(int topRow)
@@ -243,34 +278,21 @@ int DialogDriver::add(int topRow)
 
 void DialogDriver::addSelected()
 {
-    clickWhatChanges(m_addButton, QStringLiteral("add"), "adds the selected row");
+    clickWhatChanges(m_addButton, QStringLiteral("add"));
 }
 
 void DialogDriver::removeSelected()
 {
-    clickWhatChanges(m_removeButton, QStringLiteral("remove"), "removes the selected row");
+    clickWhatChanges(m_removeButton, QStringLiteral("remove"));
 }
 
-void DialogDriver::end(QDialogButtonBox::StandardButton button) const
+void DialogDriver::pressOk() const
 {
     for (const QDialogButtonBox *box : m_dialog->findChildren<QDialogButtonBox *>()) {
-        if (box->button(button)) {
-            click(box->button(button));
-            return;
-        }
+        if (QPushButton *ok = box->button(QDialogButtonBox::Ok))
+            return click(ok);
     }
-    notCheckable("no QDialogButtonBox has the button");
-}
-
-int DialogDriver::topRowWhere(const std::function<bool(const DmlAttrDef &)> &isWanted,
-                              const std::string &what) const
-{
-    for (const QTableWidgetItem *item : m_dialog->getTopListItems(false)) {
-        const auto *definition = static_cast<const DmlAttrDef *>(item->data(DmlAttrDefRole).value<void *>());
-        if (!item->tableWidget()->isRowHidden(item->row()) && isWanted(*definition))
-            return item->row();
-    }
-    notCheckable("no " + what + " is available " + where());
+    notCheckable("no QDialogButtonBox has an OK button");
 }
 
 QList<QSpinBox *> DialogDriver::editorBoxes() const

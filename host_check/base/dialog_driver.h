@@ -29,6 +29,9 @@ enum class Kind { Filter, Assign };
 /// Text of a message key.
 QString messageText(const char *key);
 
+/// expectEqual() for names. Says the first difference only, since dictionaries are long.
+void expectNames(const QStringList &came, const QStringList &expected, const std::string &where);
+
 /// Works one dialog of the library over the host's base, by keys and by the mouse. Widgets that the contract does not
 /// name are found by what they show or do. A widget that is not found ends the running check as not checkable.
 class DialogDriver
@@ -38,27 +41,24 @@ public:
     DialogDriver(const Settings &settings, Kind kind);
 
     TvxAttributesSelectionDialog *operator->() const { return m_dialog.get(); }
+    const Settings &settings() const { return m_settings; }
     Kind kind() const { return m_kind; }
     const Calls &calls() const { return *m_calls; }
-    /// Where a violation was seen, for a message.
-    std::string where() const
-    {
-        return m_kind == Kind::Filter ? "in the filter dialog" : "in \"Assign Attributes\"";
-    }
 
-    /// The two tables. The top view needs a row, the chosen list is found as the other table.
+    /// The two tables. The top view needs two rows, the chosen list is found as the other table.
     QTableWidget *topView() const;
     QTableWidget *chosenList() const;
     QStringList chosenNames() const;
     QStringList availableNames(bool visibleOnly) const;
+    /// Row of a visible attribute in the top view that satisfies the condition.
+    int topRowWhere(const std::function<bool(const DmlAttrDef &)> &isWanted, const std::string &what) const;
 
     void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
+    /// Replaces the text of the widget with the focus.
     void type(const QString &ascii) const;
     void click(QWidget *widget) const;
-    void clickRow(QTableWidget *table, int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
-                  Qt::MouseButton button = Qt::LeftButton) const;
+    void clickRow(QTableWidget *table, int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
 
-    /// Replaces the filter text by keys.
     void setFilterText(const QString &ascii);
     /// The entity or group list, which has a row with this text, and its number of rows.
     QWidget *listWith(const QString &rowText) const;
@@ -69,24 +69,39 @@ public:
     int add(int topRow);
     void addSelected();
     void removeSelected();
-    /// Presses OK or Cancel.
-    void end(QDialogButtonBox::StandardButton button) const;
+    void pressOk() const;
 
-    /// Row of an attribute in the top view that satisfies the condition. Ends the running check if there is none.
-    int topRowWhere(const std::function<bool(const DmlAttrDef &)> &isWanted, const std::string &what) const;
     /// The spin boxes of the open editor.
     QList<QSpinBox *> editorBoxes() const;
 
 private:
-    void clickWhatChanges(QAbstractButton *&button, const QString &word, const std::string &what);
+    void findFilterLine();
+    /// Clicks a button, or the one that is found to change the chosen list, and sets it.
+    void clickWhatChanges(QAbstractButton *&button, const QString &word);
 
+    const Settings &m_settings;
     Kind m_kind;
     std::unique_ptr<TvxAttributesSelectionDialog> m_dialog;
-    const Calls *m_calls; ///< A part of the dialog.
+    const Calls *m_calls = nullptr; ///< A part of the dialog.
     QLineEdit *m_filterLine = nullptr;
     QAbstractButton *m_addButton = nullptr;
     QAbstractButton *m_removeButton = nullptr;
 };
+
+/// A check that is done in a new dialog of each of these kinds.
+template <void (*check)(DialogDriver &), Kind... kinds>
+void in(const Settings &settings)
+{
+    for (Kind kind : {kinds...}) {
+        DialogDriver dialog(settings, kind);
+        try {
+            check(dialog);
+        } catch (Violation &violation) {
+            violation.came += kind == Kind::Filter ? " in the filter dialog" : " in \"Assign Attributes\"";
+            throw;
+        }
+    }
+}
 
 } // namespace Zudunmaf::hostcheck
 

@@ -1,0 +1,91 @@
+#include "report.h"
+
+#include <iconv.h>
+#include <numeric>
+#include <unistd.h>
+
+namespace Zudunmaf::hostcheck
+{
+
+namespace
+{
+
+std::string escaped(char byte)
+{
+    constexpr char Digits[] = "0123456789ABCDEF";
+    const auto number = static_cast<unsigned char>(byte);
+    return {'\\', 'x', Digits[number / 16], Digits[number % 16]};
+}
+
+/// Printable texts have two characters left to escape.
+std::string jsonText(const std::string &printableText)
+{
+    std::string result;
+    for (const char character : printableText) {
+        if (character == '"' || character == '\\')
+            result += '\\';
+        result += character;
+    }
+    return '"' + result + '"';
+}
+
+} // namespace
+
+std::string printable(std::string bytes)
+{
+    // Not mbrtowc(), which decodes by the locale: the host may set one.
+    const iconv_t decoder = iconv_open("UTF-8", "UTF-8");
+    std::string decoded, buffer(bytes.size(), '\0');
+    char *next = bytes.data();
+    for (size_t left = bytes.size(); left > 0;) {
+        char *end = buffer.data();
+        size_t room = buffer.size();
+        iconv(decoder, &next, &left, &end, &room);
+        decoded.append(buffer.data(), end);
+        // Stopped at a byte that is not UTF-8.
+        if (left > 0) {
+            decoded += escaped(*next++);
+            --left;
+        }
+    }
+    iconv_close(decoder);
+    std::string result;
+    for (const char byte : decoded) {
+        const bool isControl = static_cast<unsigned char>(byte) < ' ' || byte == '\x7F';
+        result += isControl ? escaped(byte) : std::string(1, byte);
+    }
+    return result;
+}
+
+Report::Report(bool json)
+    : m_json(json)
+    , m_output(fdopen(dup(STDOUT_FILENO), "w"))
+{
+    dup2(STDERR_FILENO, STDOUT_FILENO);
+}
+
+void Report::add(const std::string &group, const std::string &promise, const Outcome &outcome)
+{
+    constexpr const char *words[] = {"kept", "broken", "advice", "not checkable"};
+    const char *word = words[int(outcome.verdict)];
+    const std::string detail = printable(outcome.detail);
+    const bool isFirst = std::accumulate(std::begin(m_counts), std::end(m_counts), 0) == 0;
+    ++m_counts[int(outcome.verdict)];
+    if (m_json)
+        std::fprintf(m_output, "%s\n  {\"group\": %s, \"promise\": %s, \"outcome\": \"%s\", \"detail\": %s}",
+                     isFirst ? "{\"checks\": [" : ",", jsonText(group).c_str(), jsonText(promise).c_str(),
+                     word, jsonText(detail).c_str());
+    else
+        std::fprintf(m_output, "%-13s %s: %s%s%s\n", word, group.c_str(), promise.c_str(),
+                     detail.empty() ? "" : ": ", detail.c_str());
+    std::fflush(m_output);
+}
+
+void Report::finish()
+{
+    if (m_json)
+        std::fputs("\n]}\n", m_output);
+    std::fflush(m_output);
+}
+
+} // namespace Zudunmaf::hostcheck
