@@ -38,6 +38,9 @@ struct Check {
     void (*run)(const Settings &settings);
 };
 
+/// Checks of one part of the host.
+enum class Group { Process, Services, Dictionary, Base, Dialogs };
+
 /// A promise that was not kept. The table of checks decides whether that is broken or advice.
 struct Violation {
     std::string expected, came;
@@ -84,6 +87,11 @@ void expectEqual(const Came &came, const Expected &expected, const std::string &
 {
     throw Outcome{Verdict::Kept, remark};
 }
+
+/// The checks of the base dialog, which are in a module.
+struct BaseChecks {
+    std::vector<Check> base, dialogs;
+};
 
 /// The checks of each group, in the order in which they run.
 const std::vector<Check> &processChecks();

@@ -111,7 +111,7 @@ BaseModule loadBaseModule()
     void *module = dlopen((program / ZUDUNMAF_MODULE_FROM_PROGRAM).c_str(), RTLD_LAZY | RTLD_LOCAL);
     if (!module)
         return {nullptr, dlerror()};
-    auto *checks = reinterpret_cast<const std::vector<Check> *(*)()>(dlsym(module, "zudunmafBaseChecks"));
+    auto *checks = reinterpret_cast<const BaseChecks *(*)()>(dlsym(module, "zudunmafBaseChecks"));
     return {checks(), {}};
 }
 

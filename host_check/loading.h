@@ -30,7 +30,7 @@ std::string loadHost(const Settings &settings);
 
 /// libzudunmaf.so and the checks of the base dialog, which need the base's symbols at load. Loaded on the first call.
 struct BaseModule {
-    const std::vector<Check> *checks; ///< Null if it does not load.
+    const BaseChecks *checks; ///< Null if it does not load.
     std::string error;
 };
 const BaseModule &baseModule();

@@ -1,7 +1,6 @@
 #include "report.h"
 
 #include <iconv.h>
-#include <numeric>
 #include <unistd.h>
 
 namespace Zudunmaf::hostcheck
@@ -9,6 +8,9 @@ namespace Zudunmaf::hostcheck
 
 namespace
 {
+
+constexpr const char *groupNames[Report::GroupCount] = {"process", "services", "dictionary", "base",
+                                                        "dialogs"};
 
 std::string escaped(char byte)
 {
@@ -64,28 +66,40 @@ Report::Report(bool json)
     dup2(STDERR_FILENO, STDOUT_FILENO);
 }
 
-void Report::add(const std::string &group, const std::string &promise, const Outcome &outcome)
+void Report::add(Group group, const std::string &promise, const Outcome &outcome)
 {
-    constexpr const char *words[] = {"kept", "broken", "advice", "not checkable"};
-    const char *word = words[int(outcome.verdict)];
+    constexpr const char *words[VerdictCount] = {"kept", "broken", "advice", "not checkable"};
+    const char *word = words[int(outcome.verdict)], *name = groupNames[int(group)];
     const std::string detail = printable(outcome.detail);
-    const bool isFirst = std::accumulate(std::begin(m_counts), std::end(m_counts), 0) == 0;
-    ++m_counts[int(outcome.verdict)];
+    ++m_counts[int(group)][int(outcome.verdict)];
     if (m_json)
-        std::fprintf(m_output, "%s\n  {\"group\": %s, \"promise\": %s, \"outcome\": \"%s\", \"detail\": %s}",
-                     isFirst ? "{\"checks\": [" : ",", jsonText(group).c_str(), jsonText(promise).c_str(),
-                     word, jsonText(detail).c_str());
+        std::fprintf(m_output,
+                     "%s\n  {\"group\": \"%s\", \"promise\": %s, \"outcome\": \"%s\", \"detail\": %s}",
+                     m_isFirst ? "{\"checks\": [" : ",", name, jsonText(promise).c_str(), word,
+                     jsonText(detail).c_str());
     else
-        std::fprintf(m_output, "%-13s %s: %s%s%s\n", word, group.c_str(), promise.c_str(),
-                     detail.empty() ? "" : ": ", detail.c_str());
+        std::fprintf(m_output, "%-13s %s: %s%s%s\n", word, name, promise.c_str(), detail.empty() ? "" : ": ",
+                     detail.c_str());
     std::fflush(m_output);
+    m_isFirst = false;
 }
 
-void Report::finish()
+int Report::finish(bool isStrict)
 {
     if (m_json)
         std::fputs("\n]}\n", m_output);
     std::fflush(m_output);
+    bool isBroken = false, isChecked = true;
+    for (int group = 0; group < GroupCount; ++group) {
+        const auto count = [&](Verdict verdict) { return m_counts[group][int(verdict)]; };
+        isBroken |= count(Verdict::Broken) > 0 || (isStrict && count(Verdict::Advice) > 0);
+        if (count(Verdict::Kept) + count(Verdict::Broken) + count(Verdict::Advice) == 0) {
+            isChecked = false;
+            std::fprintf(stderr, "zudunmaf-host-check: no promise of the group \"%s\" is checkable\n",
+                         groupNames[group]);
+        }
+    }
+    return isBroken ? 1 : isChecked ? 0 : 3;
 }
 
 } // namespace Zudunmaf::hostcheck

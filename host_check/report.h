@@ -15,18 +15,20 @@ std::string printable(std::string bytes);
 class Report
 {
 public:
+    static constexpr int GroupCount = int(Group::Dialogs) + 1, VerdictCount = int(Verdict::NotCheckable) + 1;
+
     /// Takes the standard output for itself: what others print there goes to the standard error.
     explicit Report(bool json);
 
-    void add(const std::string &group, const std::string &promise, const Outcome &outcome);
-    /// Call once, after the last check.
-    void finish();
-    int count(Verdict verdict) const { return m_counts[int(verdict)]; }
+    void add(Group group, const std::string &promise, const Outcome &outcome);
+    /// Call once, after the last check. Returns the exit status of the program.
+    int finish(bool isStrict);
 
 private:
     bool m_json;
     FILE *m_output;
-    int m_counts[4] = {};
+    bool m_isFirst = true;
+    int m_counts[GroupCount][VerdictCount] = {};
 };
 
 } // namespace Zudunmaf::hostcheck

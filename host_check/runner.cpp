@@ -20,14 +20,15 @@ struct Run {
     Report report;
     int begun = 0; ///< Number of checks so far.
     bool isDone = false;
-    char group[20] = "", promise[200] = ""; ///< Of the check that is running.
+    Group group = Group::Process;
+    char promise[200] = ""; ///< The one that is checked.
 
-    void setRunning(const char *inGroup, const char *itsPromise)
+    void setRunning(Group inGroup, const char *itsPromise)
     {
-        std::snprintf(group, sizeof group, "%s", inGroup);
+        group = inGroup;
         std::snprintf(promise, sizeof promise, "%s", itsPromise);
     }
-    void setBetweenChecks() { setRunning("process", "The process goes on between two checks"); }
+    void setBetweenChecks() { setRunning(Group::Process, "The process goes on between two checks"); }
 };
 
 Outcome outcomeOf(const Check &check, const Settings &settings)
@@ -47,7 +48,7 @@ void runInChild(Run &run, const Settings &settings)
     int toSkip = run.begun;
     if (toSkip > 0)
         loadHost(settings);
-    const auto runAll = [&](const char *group, const std::vector<Check> &checks) {
+    const auto runAll = [&](Group group, const std::vector<Check> &checks) {
         for (const Check &check : checks) {
             if (toSkip-- > 0)
                 continue;
@@ -61,15 +62,14 @@ void runInChild(Run &run, const Settings &settings)
             run.report.add(group, check.promise, outcome);
         }
     };
-    runAll("process", processChecks());
-    runAll("services", serviceChecks());
-    runAll("services", unitsChecks());
-    runAll("dictionary", dictionaryChecks());
-    const std::vector<Check> noBase{
-        {"All promises of the base dialog", Verdict::NotCheckable,
-         [](const Settings &) { notCheckable("no base dialog of the host is loaded"); }}};
-    const bool hasBase = baseModule().checks && dlsym(RTLD_DEFAULT, BaseVirtualTable);
-    runAll("base", hasBase ? *baseModule().checks : noBase);
+    runAll(Group::Process, processChecks());
+    runAll(Group::Services, serviceChecks());
+    runAll(Group::Services, unitsChecks());
+    runAll(Group::Dictionary, dictionaryChecks());
+    if (baseModule().checks && dlsym(RTLD_DEFAULT, BaseVirtualTable)) {
+        runAll(Group::Base, baseModule().checks->base);
+        runAll(Group::Dialogs, baseModule().checks->dialogs);
+    }
     run.isDone = true;
 }
 
@@ -91,7 +91,7 @@ std::string ending(int status, int timeout)
 
 } // namespace
 
-const Report &runChecks(const Settings &settings)
+int runChecks(const Settings &settings)
 {
     void *memory = mmap(nullptr, sizeof(Run), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
     if (memory == MAP_FAILED)
@@ -114,8 +114,7 @@ const Report &runChecks(const Settings &settings)
                            {Verdict::Broken,
                             "expected a return from the host; came " + ending(status, settings.timeout)});
     }
-    run.report.finish();
-    return run.report;
+    return run.report.finish(settings.strict);
 }
 
 } // namespace Zudunmaf::hostcheck

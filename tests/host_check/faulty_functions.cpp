@@ -55,6 +55,13 @@ int dml__atr_next(int did, int, unsigned int, int *, DmlAttrDef **definition)
     return did == 0 ? 0 : 1;
 }
 
+#elif defined(FAULT_empty_dictionary)
+int dml__atr_next(int, int, unsigned int, int *, DmlAttrDef **definition)
+{
+    *definition = nullptr;
+    return 0;
+}
+
 #elif defined(FAULT_other_encoding)
 int dml__atr_next(int, int, unsigned int, int *cursor, DmlAttrDef **definition)
 {
