@@ -2,7 +2,6 @@
 #include "walk.h"
 
 #include <algorithm>
-#include <climits>
 #include <cstring>
 #include <set>
 
@@ -73,17 +72,6 @@ void recordsStay(const Settings &settings)
                text("an unchanged record of ", fieldText(before[index].name), " after another walk"),
                "another content");
     }
-}
-
-void unknownDictionaryFails(const Settings &settings)
-{
-    // An identifier that no host gives to a dictionary.
-    constexpr int UnknownDictionary = INT_MAX - 7;
-    attributesOf(settings); // An empty dictionary gives no hint.
-    const Walk unknown = walk(UnknownDictionary);
-    expect(!unknown.trouble.empty(),
-           text("a status that is not 0 for dictionary ", UnknownDictionary, ", which does not exist"),
-           text("a walk over ", unknown.definitions.size(), " attributes"));
 }
 
 void namesAreUnique(const Settings &settings)
@@ -165,7 +153,6 @@ const std::vector<Check> &dictionaryChecks()
         {"A walk honours the entity mask", Must, maskIsHonoured},
         {"Walks are alike, also if two take turns", Should, walksTakeTurns},
         {"Each attribute has a record that stays", Must, recordsStay},
-        {"A dictionary that does not exist is a failure", Should, unknownDictionaryFails},
         {"Names, prompts and groups end within their fields", Must, forEach<textsEnd>},
         {"Each entry of a list is a text", Must, forEach<entriesAreTexts>},
         {"Each attribute has a name, texts in UTF-8, a known type and an entity", Should, forEach<isUsable>},

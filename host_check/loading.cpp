@@ -12,6 +12,9 @@ namespace Zudunmaf::hostcheck
 namespace
 {
 
+/// The soname under which libzudunmaf.so asks for the base dialog.
+constexpr char BaseName[] = "libzudunmaf_tvx.so.1";
+
 using Names = std::set<std::string>;
 
 std::string joined(const Names &names)
@@ -26,20 +29,6 @@ std::string realPath(const std::string &path)
 {
     std::error_code ignored;
     return std::filesystem::weakly_canonical(path, ignored).string();
-}
-
-/// The files of this process, from the program's own link map on.
-Names loadedFiles()
-{
-    Names files;
-    dl_iterate_phdr(
-        [](dl_phdr_info *info, size_t, void *data) {
-            if (*info->dlpi_name)
-                static_cast<Names *>(data)->insert(info->dlpi_name);
-            return 0;
-        },
-        &files);
-    return files;
 }
 
 void librariesLoad(const Settings &settings)
@@ -65,44 +54,35 @@ void servicesAreFound(const Settings &)
 void libraryLoads(const Settings &)
 {
     expect(baseModule().checks,
-           "a base dialog library of the soname libzudunmaf_tvx.so.1, with which libzudunmaf.so loads",
+           text("a base dialog library of the soname ", BaseName, ", with which libzudunmaf.so loads"),
            baseModule().error);
 }
 
-void oneBase(const Settings &settings)
+void baseIsOfHost(const Settings &settings)
 {
     if (!baseModule().checks)
         notCheckable("libzudunmaf.so does not load");
-    Names found;
-    for (const std::string &file : loadedFiles()) {
-        // Also finds the symbol in what the file depends on.
-        void *handle = dlopen(file.c_str(), RTLD_LAZY | RTLD_NOLOAD);
-        void *table = handle ? dlsym(handle, BaseVirtualTable) : nullptr;
-        Dl_info info;
-        if (table && dladdr(table, &info))
-            found.insert(realPath(info.dli_fname));
-    }
-    expect(found.size() == 1, "one library that defines TvxAttributesSelectionDialog",
-           found.empty() ? "none" : joined(found));
+    link_map *file = nullptr;
+    dlinfo(dlopen(BaseName, RTLD_LAZY | RTLD_NOLOAD), RTLD_DI_LINKMAP, &file);
+    const std::string path = realPath(file->l_name);
     const bool isGiven =
         std::any_of(settings.libraries.begin(), settings.libraries.end(),
-                    [&found](const std::string &library) { return realPath(library) == *found.begin(); });
-    expect(isGiven, "the base dialog of one of the given libraries", "the one in " + *found.begin());
-    keptWith(*found.begin());
+                    [&path](const std::string &library) { return realPath(library) == path; });
+    expect(isGiven, text("one of the given libraries as ", BaseName), path);
+    keptWith(path);
 }
 
 void oneQt(const Settings &)
 {
     Names found;
-    for (const std::string &file : loadedFiles()) {
-        const std::string name = std::filesystem::path(file).filename().string();
-        if (name.rfind("libQt", 0) == 0 && name.find("Core.so") != std::string::npos)
+    for (const char *name : {"libQtCore.so.4", "libQt5Core.so.5", "libQt6Core.so.6"}) {
+        if (dlopen(name, RTLD_LAZY | RTLD_NOLOAD))
             found.insert(name);
     }
     if (found.empty())
-        notCheckable("no file of the process is called libQt*Core.so");
+        notCheckable("Qt is not loaded, or has another name");
     expect(found.size() == 1, "one version of Qt", joined(found));
-    keptWith(*found.begin());
+    keptWith(joined(found));
 }
 
 BaseModule loadBaseModule()
@@ -145,7 +125,7 @@ const std::vector<Check> &processChecks()
         {"The host's libraries load", Verdict::Broken, librariesLoad},
         {"All services and the dictionary are found", Verdict::Broken, servicesAreFound},
         {"libzudunmaf.so loads with the host's base dialog", Verdict::Broken, libraryLoads},
-        {"There is one base dialog, and it is the host's", Verdict::Broken, oneBase},
+        {"The base dialog of libzudunmaf.so is the host's", Verdict::Broken, baseIsOfHost},
         {"There is one version of Qt", Verdict::Broken, oneQt},
     };
     return checks;

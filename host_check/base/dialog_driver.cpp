@@ -9,8 +9,6 @@
 #include <QTest>
 #include <QWindow>
 
-#include <algorithm>
-
 namespace Zudunmaf::hostcheck
 {
 
@@ -58,16 +56,6 @@ std::unique_ptr<TvxAttributesSelectionDialog> newDialog(int dictionary, const Ca
     auto dialog = std::make_unique<Watched<Dialog>>(dictionary);
     calls = &dialog->calls;
     return dialog;
-}
-
-template <class Parent>
-bool isInside(const QWidget *widget)
-{
-    for (const QWidget *parent = widget->parentWidget(); parent; parent = parent->parentWidget()) {
-        if (qobject_cast<const Parent *>(parent))
-            return true;
-    }
-    return false;
 }
 
 QAbstractItemModel *modelOf(const QWidget *list)
@@ -200,7 +188,7 @@ void DialogDriver::clickRow(QTableWidget *table, int row, Qt::KeyboardModifiers 
 void DialogDriver::findFilterLine()
 {
     for (QLineEdit *line : m_dialog->findChildren<QLineEdit *>()) {
-        if (!line->isVisible() || line->isReadOnly() || isInside<QTableWidget>(line))
+        if (!line->isVisible() || line->isReadOnly())
             continue;
         click(line);
         type(QStringLiteral("q"));
@@ -244,46 +232,27 @@ void DialogDriver::selectRow(QWidget *list, int row) const
         press(Qt::Key_Down);
 }
 
-void DialogDriver::clickWhatChanges(QAbstractButton *&button, const QString &word)
+bool DialogDriver::clickButton(const QString &word) const
 {
-    QList<QAbstractButton *> buttons{button};
-    if (!button) {
-        buttons = m_dialog->findChildren<QAbstractButton *>();
-        std::stable_partition(buttons.begin(), buttons.end(), [&word](const QAbstractButton *likely) {
-            const QString texts = likely->objectName() + likely->text() + likely->toolTip();
-            return texts.contains(word, Qt::CaseInsensitive);
-        });
-    }
     const qsizetype before = m_dialog->getChosenList().size();
-    for (QAbstractButton *candidate : buttons) {
-        if (!candidate->isVisible() || !candidate->isEnabled() || isInside<QDialogButtonBox>(candidate) ||
-            isInside<QLineEdit>(candidate) || isInside<QAbstractItemView>(candidate))
-            continue;
-        click(candidate);
-        if (m_dialog->getChosenList().size() != before) {
-            button = candidate;
-            return;
+    for (const char *property : {"objectName", "text", "toolTip"}) {
+        for (QAbstractButton *button : m_dialog->findChildren<QAbstractButton *>()) {
+            if (button->isVisible() &&
+                button->property(property).toString().contains(word, Qt::CaseInsensitive)) {
+                click(button);
+                return m_dialog->getChosenList().size() != before;
+            }
         }
     }
-    if (!button)
-        notCheckable("no button does what \"" + word.toStdString() + "\" says");
+    return false;
 }
 
-int DialogDriver::add(int topRow)
+int DialogDriver::add(int topRow) const
 {
     clickRow(topView(), topRow);
-    addSelected();
+    if (!clickButton(QStringLiteral("add")))
+        notCheckable("no button with \"add\" in its object name, text or tool tip adds a row");
     return int(m_dialog->getChosenList().size()) - 1;
-}
-
-void DialogDriver::addSelected()
-{
-    clickWhatChanges(m_addButton, QStringLiteral("add"));
-}
-
-void DialogDriver::removeSelected()
-{
-    clickWhatChanges(m_removeButton, QStringLiteral("remove"));
 }
 
 void DialogDriver::pressOk() const

@@ -60,15 +60,16 @@ public:
     void clickRow(QTableWidget *table, int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
 
     void setFilterText(const QString &ascii);
-    /// The entity or group list, which has a row with this text, and its number of rows.
+    /// The entity or group list, which has a row with this text.
     QWidget *listWith(const QString &rowText) const;
     static int rowCount(const QWidget *list);
     void selectRow(QWidget *list, int row) const;
 
-    /// Adds the row by its button, and returns the row of the chosen list; the same for several selected rows.
-    int add(int topRow);
-    void addSelected();
-    void removeSelected();
+    /// Clicks the first button that has this word in its object name, or else in its text or tool tip. Returns whether
+    /// that changes the number of chosen rows.
+    bool clickButton(const QString &word) const;
+    /// Adds the row by its button, and returns the row of the chosen list.
+    int add(int topRow) const;
     void pressOk() const;
 
     /// The spin boxes of the open editor.
@@ -76,16 +77,12 @@ public:
 
 private:
     void findFilterLine();
-    /// Clicks a button, or the one that is found to change the chosen list, and sets it.
-    void clickWhatChanges(QAbstractButton *&button, const QString &word);
 
     const Settings &m_settings;
     Kind m_kind;
     std::unique_ptr<TvxAttributesSelectionDialog> m_dialog;
     const Calls *m_calls = nullptr; ///< A part of the dialog.
     QLineEdit *m_filterLine = nullptr;
-    QAbstractButton *m_addButton = nullptr;
-    QAbstractButton *m_removeButton = nullptr;
 };
 
 /// A check that is done in a new dialog of each of these kinds.
