@@ -88,16 +88,18 @@ void expectEqual(const Came &came, const Expected &expected, const std::string &
     throw Outcome{Verdict::Kept, remark};
 }
 
-/// The checks of the base dialog, which are in a module.
-struct BaseChecks {
-    std::vector<Check> base, dialogs;
-};
-
-/// The checks of each group, in the order in which they run.
+/// The checks of the program, in the order in which they run.
 const std::vector<Check> &processChecks();
 const std::vector<Check> &serviceChecks();
 const std::vector<Check> &unitsChecks();
 const std::vector<Check> &dictionaryChecks();
+
+/// The checks of its module.
+struct BaseChecks {
+    std::vector<Check> base;    ///< The base library by itself: its declaration and its fills.
+    std::vector<Check> dialogs; ///< Both dialogs over the base, driven by keys and by the mouse.
+};
+std::vector<Check> dialogChecks();
 
 } // namespace Zudunmaf::hostcheck
 

@@ -24,7 +24,7 @@ void maskIsHonoured(const Settings &settings)
     const Definitions all = attributesOf(settings);
     for (unsigned int mask : {EntityJob, EntityStep, EntitySymbol, EntityLayer, EntityWheel, EntityNet,
                               EntityComponent, EntityFeature}) {
-        std::multiset<std::string> missing, names;
+        std::multiset<std::string> missing;
         for (const DmlAttrDef *definition : all) {
             if (definition->entityMask & mask)
                 missing.insert(fieldText(definition->name));

@@ -1,4 +1,4 @@
-#include "runner.h"
+#include "report.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -36,7 +36,7 @@ std::string jsonText(const std::string &printableText)
 std::string printable(std::string bytes)
 {
     // Not mbrtowc(), which decodes by the locale: the host may set one.
-    const iconv_t decoder = iconv_open("UTF-8", "UTF-8");
+    iconv_t decoder = iconv_open("UTF-8", "UTF-8");
     std::string decoded, buffer(bytes.size(), '\0');
     char *next = bytes.data();
     for (size_t left = bytes.size(); left > 0;) {

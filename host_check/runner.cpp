@@ -1,6 +1,5 @@
-#include "runner.h"
-
 #include "loading.h"
+#include "report.h"
 
 #include <csignal>
 #include <cstring>

@@ -1,4 +1,3 @@
-#include "base/base_checks.h"
 #include "base/dialog_driver.h"
 #include "walk.h"
 
@@ -24,8 +23,10 @@ void everythingIsAvailable(DialogDriver &dialog)
     unsigned char withObsolete = 0, origin = 0;
     gen__cfg_get(keys::ShowObsolete, &withObsolete, &origin);
     const unsigned int mask = dialog.kind() == Kind::Filter ? EntityAll : EntityFeature;
+    const Definitions definitions = attributesOf(dialog.settings());
     QStringList expected;
-    for (const DmlAttrDef *definition : attributesOf(dialog.settings())) {
+    expected.reserve(int(definitions.size()));
+    for (const DmlAttrDef *definition : definitions) {
         const bool isObsolete = gen__str_cmp_nc(definition->group, "Obsolete") == 0;
         if ((definition->entityMask & mask) && (withObsolete || !isObsolete))
             expected << QString(definition->name);

@@ -1,7 +1,8 @@
-#include "base/base_checks.h"
+#include "check.h"
 
 #include "gdm/gdm_qt.h"
 
+#include <QApplication>
 #include <QTableWidget>
 
 #include <algorithm>
@@ -84,6 +85,7 @@ void fillCopies(const Settings &)
     BareDialog dialog;
     for (int count : {3, 1, 0}) {
         Items items;
+        items.reserve(count);
         for (int index = 0; index < count; ++index)
             items << new OwnItem;
         dialog.fillAttributeList(items);
@@ -119,17 +121,45 @@ void stateIsStored(const Settings &)
     }
 }
 
-} // namespace
-
-std::vector<Check> baseClassChecks()
+const std::string &missingFunctions()
 {
-    constexpr Verdict Must = Verdict::Broken;
-    return {
-        {"The virtual table has the size of the declaration", Must, virtualTableMatches},
-        {"An object has the size of the declaration", Must, objectFits},
-        {"An empty dialog stands each call, and stores the units", Must, stateIsStored},
-        {"A fill makes visible rows of copies, in place of the rows before", Must, fillCopies},
-    };
+    static const std::string missing =
+        missingHostFunctions().filter(QStringLiteral("Tvx")).join(QLatin1String(", ")).toStdString();
+    return missing;
 }
 
+void definesAllFunctions(const Settings &)
+{
+    expect(missingFunctions().empty(), "a definition of each function", "none of " + missingFunctions());
+}
+
+BaseChecks baseChecks()
+{
+    constexpr Verdict Must = Verdict::Broken;
+    const Check completeness{"The base dialog defines all functions", Must, definesAllFunctions};
+    if (!missingFunctions().empty())
+        return {{completeness}, {}};
+    return {{completeness,
+             {"The virtual table has the size of the declaration", Must, virtualTableMatches},
+             {"An object has the size of the declaration", Must, objectFits},
+             {"An empty dialog stands each call, and stores the units", Must, stateIsStored},
+             {"A fill makes visible rows of copies, in place of the rows before", Must, fillCopies}},
+            dialogChecks()};
+}
+
+} // namespace
+
 } // namespace Zudunmaf::hostcheck
+
+/// The module's one entry. Makes the application, which lives until the process ends.
+extern "C" GDM_EXPORT const Zudunmaf::hostcheck::BaseChecks *zudunmafBaseChecks()
+{
+    static int count = 1;
+    static char name[] = "zudunmaf-host-check", *arguments[] = {name, nullptr};
+    // The host may have made one. Never deleted: the process ends without destructors.
+    static auto *const application =
+        QApplication::instance() ? QApplication::instance() : new QApplication(count, arguments);
+    Q_UNUSED(application);
+    static const Zudunmaf::hostcheck::BaseChecks checks = Zudunmaf::hostcheck::baseChecks();
+    return &checks;
+}
