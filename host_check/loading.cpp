@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <set>
 
 namespace Zudunmaf::hostcheck
 {
@@ -14,16 +13,6 @@ namespace
 
 /// The soname under which libzudunmaf.so asks for the base dialog.
 constexpr char BaseName[] = "libzudunmaf_tvx.so.1";
-
-using Names = std::set<std::string>;
-
-std::string joined(const Names &names)
-{
-    std::string line;
-    for (const std::string &name : names)
-        line += (line.empty() ? "" : ", ") + name;
-    return line;
-}
 
 std::string realPath(const std::string &path)
 {
@@ -39,16 +28,16 @@ void librariesLoad(const Settings &settings)
 
 void servicesAreFound(const Settings &)
 {
-    Names missing;
+    std::string missing;
     for (const char *name :
          {"gen__nls_nlst", "gen__nls_nlsa_get_att_prompt", "gen__cfg_get", "gen__log_status_check",
           "gen__mem_malloc", "gen__mem_free", "gen__str_cmp_nc", "gen__str_cmp_reg",
           "gen__torvex_units_convert_2", "gen__torvex_units_convert", "gen__torvex_units_convert_f",
           "gen__torvex_cur_units_str", "gen__torvex_get_str_units", "dml__atr_next"}) {
         if (!dlsym(RTLD_DEFAULT, name))
-            missing.insert(name);
+            missing += text(' ', name);
     }
-    expect(missing.empty(), "all services and dml__atr_next in the libraries", "missing " + joined(missing));
+    expect(missing.empty(), "all services and dml__atr_next in the libraries", "missing" + missing);
 }
 
 void libraryLoads(const Settings &)
@@ -74,15 +63,15 @@ void baseIsOfHost(const Settings &settings)
 
 void oneQt(const Settings &)
 {
-    Names found;
+    std::vector<std::string> found;
     for (const char *name : {"libQtCore.so.4", "libQt5Core.so.5", "libQt6Core.so.6"}) {
         if (dlopen(name, RTLD_LAZY | RTLD_NOLOAD))
-            found.insert(name);
+            found.emplace_back(name);
     }
     if (found.empty())
         notCheckable("Qt is not loaded, or has another name");
-    expect(found.size() == 1, "one version of Qt", joined(found));
-    keptWith(joined(found));
+    expect(found.size() == 1, "one version of Qt", found.front() + " and " + found.back());
+    keptWith(found.front());
 }
 
 BaseModule loadBaseModule()

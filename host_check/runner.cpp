@@ -96,8 +96,8 @@ int runChecks(const Settings &settings)
     if (memory == MAP_FAILED)
         giveUp();
     Run &run = *new (memory) Run{Report(settings.json)};
-    for (int before = -1;
-         !run.isDone && run.begun > before;) { // A child that begins no check would not help.
+    // Ends if a child has begun no check: the next one would do no better.
+    for (int before = -1; !run.isDone && run.begun > before;) {
         before = run.begun;
         run.setBetweenChecks();
         const pid_t child = fork();
