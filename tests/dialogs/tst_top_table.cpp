@@ -1,6 +1,7 @@
 #include "dialog_test.h"
 
 #include "dml/dml_control.h"
+#include "gdm/host/dml_dictionary.h"
 #include "gen/gen_control.h"
 
 #include <QAbstractEventDispatcher>
