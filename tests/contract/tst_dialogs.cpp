@@ -50,25 +50,51 @@ private Q_SLOTS:
 
     void groups()
     {
-        translate("1015", "1318", "alle");
+        translate("1015", "1318", "Board");
+        // These are invalid UTF-8 and decode to the same text.
+        host().dictionary << &definition(9, "ff", "x", "\xff") << &definition(9, "fe", "x", "\xfe");
         for (int did : {-1, -2, 0}) { // -2 walks the groups, and no attributes
             host().did = did;
-            host().group = "alle";
             makeWithSome();
             QCOMPARE(host().called("fillGroupsList").isEmpty(), did == -1);
             QCOMPARE(host().called("fillAttributeList").isEmpty(), did != 0);
             host().calls.clear();
         }
-        const QString found = "alle|Board|board|OBSOLETE|Obsoletes";
+        const QString found = "Board|\uFFFD|board|OBSOLETE|Obsoletes";
         QCOMPARE(host().groups.join('|'), m_feature ? found : found + '|');
     }
 
-    /// The fill rule gets the criteria of the base, and each item the configuration.
+    /// "filled" are the attributes that get a row, "visible" those whose row is shown. A fill ignores the group's case,
+    /// leaves out obsolete attributes, and the host matches the text: here the whole text, case-sensitively.
+    void fillAndVisibility_data()
+    {
+        QTest::addColumn<QJsonObject>("criteria");
+        const QJsonArray rows = jsonTable("criteria.json")["criteria"].toArray();
+        for (const QJsonValue row : rows)
+            QTest::newRow(qPrintable(row["case"].toString())) << row.toObject();
+    }
+    void fillAndVisibility()
+    {
+        QFETCH(QJsonObject, criteria);
+        host().mask = criteria["entities"].toInt(-1);
+        host().group = criteria["group"].toString("All Groups");
+        host().text = criteria["text"].toString();
+        host().byPrompt = criteria["byPrompt"].toBool();
+        host().showObsolete = criteria["showObsolete"].toBool();
+        const auto made = makeWithSome();
+        QCOMPARE(rows(), criteria["filled"].toString());
+        host().top->setRowCount(0);
+        for (const DmlAttrDef *attribute : host().dictionary)
+            appendRow(host().top, *newItem(m_feature, pointer(attribute)));
+        made->filterAttributeList();
+        QCOMPARE(rows(true), criteria["visible"].toString());
+    }
+
+    /// Criteria in the language of the user and in the order of the calls, and what each item gets of the configuration.
     void fill()
     {
         const auto made = makeWithSome();
-        QCOMPARE(rows(), QString(m_feature ? "width Layer_width older" : "width Layer_width older net"));
-        const auto filled = [&made](const char *group, const char *text) {
+        const auto filled = [&made](const char *group, const QString &text) {
             host().group = group;
             host().text = text;
             host().calls.clear();
@@ -77,7 +103,8 @@ private Q_SLOTS:
         };
         QCOMPARE(filled("all groups", ""), QString());
         QCOMPARE(host().called("match"), QStringList()); // mask, group and obsolete come before the text
-        QCOMPARE(filled("All Groups", "older"), QString("older"));
+        QCOMPARE(filled("All Groups", QString("ü").repeated(50)), QString());
+        QCOMPARE(host().called("match").first(), "match width " + QString("ü").repeated(32)); // 64 bytes
         host().showObsolete = true;
         host().byPrompt = true;
         QCOMPARE(filled("All Groups", "host:Breite"), QString("width old"));
@@ -114,7 +141,6 @@ private Q_SLOTS:
                  "getSelectedGroupName getSelectedEntityMask " + chosen +
                      "getTopListItems 0 cfg edt_disp_attr_by_prompt");
         QCOMPARE(host().calls.last(), QString("setFirstVisibleItemAsCurrent"));
-        QCOMPARE(shown("Board", "WIDTH"), QString("width"));
         host().byPrompt = true;
         QCOMPARE(shown("All Groups", "breite"), QString("width old"));
         // Chosen attributes are found by name, also with prompts as labels. A fill shows them until the next pass.
