@@ -92,6 +92,8 @@ private Q_SLOTS:
         QVERIFY(gen__str_cmp_reg(nullptr, "*"));
         QVERIFY(gen__str_cmp_reg("a", nullptr));
         QVERIFY(!gen__str_cmp_reg(nullptr, "a"));
+        QCOMPARE(gen__str_cmp_nc("", nullptr), 0);
+        QVERIFY(gen__str_cmp_nc(nullptr, "a") != 0);
         const QString halfOfPair(QChar(0xD83D));
         QVERIFY(withMarks("a", halfOfPair).isNull());
     }
