@@ -170,12 +170,7 @@ private Q_SLOTS:
     {
         host().dictionary = eachType();
         AttributesFilterDialog dialog(3);
-        AttrCondition width;
-        width.name = "width";
-        width.type = DmlAttrInteger;
-        width.isSet = true;
-        width.low = 6;
-        width.high = 8;
+        const AttrCondition width = conditionsFromLines({"6 <= width <= 8"}, 3, LabelsByName)[0].condition;
         QCOMPARE(dialog.restoreConditions({width}, refuse).first().status, RestoreNotAdded);
         dialog.restoreConditions({width, width}, addToBase);
         QVERIFY(dialog.conditions() == QList<AttrCondition>({width, width}));
@@ -236,6 +231,8 @@ private Q_SLOTS:
         host().dictionary = {&quirk};
         QCOMPARE(conditionsFromLines({"1 <= Prompt <= 2"}, 3, LabelsByPrompt)[0].condition.name,
                  QString("a%1b"));
+        *quirk.prompt = '\0';
+        QCOMPARE(conditionsFromLines({"1 <=  <= 2"}, 3, LabelsByPrompt)[0].status, LineRead);
         host().failAt = host().fallible + 1;
         QCOMPARE(conditionsFromLines({"Prompt"}, 3, LabelsByPrompt)[0].status, LineNoDictionary);
         QCOMPARE(int(host().reports.size()), 1);
