@@ -30,21 +30,9 @@ private Q_SLOTS:
         ContractTest::cleanup();
     }
 
-    void editorByKindAndType()
+    void delegateOfADialog()
     {
-        host().dictionary << &text("plain", "x") << eachType();
-        QStringList conditions, values;
-        for (const DmlAttrDef *attribute : host().dictionary) {
-            add<AttrFilterLWI>(*attribute);
-            conditions << nameOf(edit<QWidget>().get());
-            add<FeatureAttrLWI>(*attribute);
-            values << nameOf(edit<QWidget>().get());
-        }
-        QCOMPARE(conditions,
-                 QStringList({"QLineEdit", "none", "QLineEdit", "QComboBox", "Zudunmaf::MinMaxIntEditor",
-                              "Zudunmaf::MinMaxDoubleEditor", "none"}));
-        QCOMPARE(values, QStringList({"QLineEdit", "none", "QComboBox", "QComboBox", "QSpinBox",
-                                      "QDoubleSpinBox", "none"}));
+        add<AttrFilterLWI>(text("note", "x"));
         QVERIFY(host().delegate->parent() == m_dialog.get());
         const QSize plain = QStyledItemDelegate().sizeHint({}, index());
         QCOMPARE(host().delegate->sizeHint({}, index()), plain + QSize(0, 4));
@@ -117,22 +105,12 @@ private Q_SLOTS:
         }
     }
 
-    void rangeConditions()
+    void floatConditions()
     {
-        const AttrFilterLWI *width = add<AttrFilterLWI>(integer("width", 5, 9, 7));
-        record(*width).intLow = 1;
-        record(*width).intHigh = 99;
-        auto editor = edit<QWidget>();
-        commit(editor.get());
-        QCOMPARE(width->data(DmlAttrValueRole), QVariant(QPoint(5, 9)));
-        editor->findChild<QSpinBox *>("spinBox_From")->setValue(8);
-        editor->findChild<QSpinBox *>("spinBox_To")->setValue(6);
-        commit(editor.get());
-        QCOMPARE(width->data(DmlAttrValueRole), QVariant(QPoint(6, 8)));
         for (int units : {-1, 0, 1, 2}) { // no code of display units changes a condition
             AttrFilterLWI *depth = add<AttrFilterLWI>(real("depth", -1, 9.5, 0));
             depth->setDisplayUnits(units);
-            editor = edit<QWidget>();
+            const auto editor = edit<QWidget>();
             QDoubleSpinBox *to = editor->findChild<QDoubleSpinBox *>("doubleSpinBox_To");
             QCOMPARE(to->text(), QLocale().toString(9.5, 'f', 3));
             editor->findChild<QDoubleSpinBox *>("doubleSpinBox_From")->setValue(7.1);
@@ -332,7 +310,6 @@ private:
         host().delegate->setModelData(editor, host().chosen->model(), index());
         QCOMPARE(int(changes.count()), 0);
     }
-    static QString nameOf(const QObject *made) { return made ? made->metaObject()->className() : "none"; }
 
     std::unique_ptr<AttributesFilterDialog> m_dialog;
 };

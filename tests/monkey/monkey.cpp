@@ -240,26 +240,17 @@ private:
         return value.toPointF().x() <= value.toPointF().y();
     }
 
-    /// Lines agree with cells, and a pass hides chosen attributes in "Assign Attributes".
+    /// The chosen items are those of the rows, in their order, and a pass hides chosen attributes in "Assign Attributes".
     QString faultOfChosen(int row) const
     {
-        const auto *filter = dynamic_cast<const AttributesFilterDialog *>(m_dialog.get());
-        const auto *item = static_cast<const DmlAttrLWI *>(m_dialog->getChosenList().value(row));
-        const QString label = table(1)->item(row, 0)->text();
-        const QString shown = item->text();
-        QString line = shown;
-        if (filter && shown.isEmpty())
-            line = label;
-        else if (filter && item->data(DmlAttrTypeRole).toInt() >= DmlAttrInteger)
-            line.replace(" to ", " <= " + label + " <= ");
-        else if (filter)
-            line.prepend(label + " = ");
-        if (line != (filter ? filter->getFiltersAsStringList().value(row) : item->valueAsString()))
-            return QString("row %1 shows \"%2\" and gives another line").arg(row).arg(shown);
+        const QTableWidgetItem *item = table(1)->item(row, 1);
+        if (m_dialog->getChosenList().value(row) != item)
+            return QString("chosen item %1 is the one of another row").arg(row);
 
         const QString name = item->data(DmlAttrNameRole).toString();
         const QTableWidgetItem *available = m_dialog->findItemByAttrName(name);
-        if (!filter && m_filtered && available && !table(0)->isRowHidden(available->row()))
+        const bool isFilter = dynamic_cast<const AttributesFilterDialog *>(m_dialog.get());
+        if (!isFilter && m_filtered && available && !table(0)->isRowHidden(available->row()))
             return name + " is chosen and still visible";
         return QString();
     }
