@@ -160,29 +160,20 @@ private Q_SLOTS:
         }
     }
 
+    /// Limits are rounded: the largest entry is above that of the definition, as docs/host-contract.md says.
     void floatInDisplayUnits()
-    {
-        FeatureAttrLWI *item = add<FeatureAttrLWI>(real("depth", -1, 9, 2));
-        item->setDisplayUnits(2);
-        const auto box = edit<QDoubleSpinBox>();
-        QCOMPARE(box->text(), QLocale().toString(50.8, 'f', 3));
-        QCOMPARE(box->minimum(), -25.4);
-        QCOMPARE(box->maximum(), 228.6);
-        commit(box.get());
-        QCOMPARE(host().calls, QStringList({"convert_2 -1 1 2", "convert_2 9 1 2", "convert_2 2 1 2",
-                                            "convert null 1 2", "convert_f 50.8 1 102"}));
-        QCOMPARE(item->attrValue().userType(), int(QMetaType::Double));
-        QCOMPARE(item->attrValue().toFloat(), 2.0f);
-    }
-
-    /// The largest entry is above the definition's limit, as docs/host-contract.md says.
-    void limitsAreRoundedInDisplayUnits()
     {
         FeatureAttrLWI *item = add<FeatureAttrLWI>(real("gap", 0.005, 0.1, 0.05f, 2));
         item->setDisplayUnits(1);
         const auto box = edit<QDoubleSpinBox>();
+        QCOMPARE(box->text(), QLocale().toString(0.002, 'f', 3));
         QCOMPARE(box->minimum(), 0.0);
         QCOMPARE(box->maximum(), 0.004);
+        commit(box.get());
+        QCOMPARE(host().calls, QStringList({"convert_2 0.005 2 1", "convert_2 0.1 2 1", "convert_2 0.05 2 1",
+                                            "convert null 2 1", "convert_f 0.002 2 101"}));
+        QCOMPARE(item->attrValue().userType(), int(QMetaType::Double));
+        QCOMPARE(item->attrValue().toFloat(), 0.0508f);
         box->setValue(box->maximum());
         commit(box.get());
         QCOMPARE(item->attrValue().toFloat(), 0.1016f);

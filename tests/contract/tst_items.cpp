@@ -167,12 +167,14 @@ private Q_SLOTS:
         check(definition(9, "u"), double(0.1f)); // unchanged
     }
 
-    void valueIsShownInASelectedRow()
+    void featureCells()
     {
         FeatureAttrLWI source;
         source.setDmlAttribute(pointer(&integer("width", 5, 9, 7)));
+        source.setDisplayPrompt(true);
         QTableWidget table(0, 2);
         FeatureAttrLWI *item = static_cast<FeatureAttrLWI *>(appendRow(&table, source));
+        QCOMPARE(table.item(0, 0)->text(), QString("Prompt"));
         QCOMPARE(item->toString(), QString("7"));
         item->setDisplayValue(false);
         QCOMPARE(item->toString(), QString());
