@@ -159,11 +159,12 @@ private Q_SLOTS:
     }
 
     /// The check of hosts covers the walks that do not fail.
-    void wrongCursorsAreRefused()
+    void wrongWalksFail()
     {
         QVERIFY(dml::loadJson(file(0, {QJsonArray{flag("only")}}), "one"));
         int cursor = 0;
         DmlAttrDef *definition = nullptr;
+        QVERIFY(dml__atr_next(1, 1, EntityAll, &cursor, &definition) != 0);
         QVERIFY(dml__atr_next(0, 1, EntityAll, nullptr, &definition) != 0);
         QVERIFY(dml__atr_next(0, 1, EntityAll, &cursor, nullptr) != 0);
         for (int bad : {-1, 2, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()})
