@@ -18,8 +18,8 @@ namespace
 
 constexpr int MostEntries = 4;
 constexpr int Decimals = 3;
-/// From here on, a number in full is longer than useful.
-constexpr double LongNumber = 1e9;
+/// From here on, a number in full is longer than useful. Integers are below.
+constexpr double LongNumber = 1e10;
 
 int unitsOf(const QTableWidgetItem &item, const DmlAttrDef &definition, int displayUnits)
 {
@@ -31,18 +31,6 @@ int unitsOf(const QTableWidgetItem &item, const DmlAttrDef &definition, int disp
     if (blank >= 0)
         return gen__torvex_get_str_units(cell.mid(blank + 1).toLocal8Bit().constData());
     return cell.isEmpty() && displayUnits != -1 ? displayUnits : definition.unitsClass;
-}
-
-QString written(double number)
-{
-    if (!(std::fabs(number) < LongNumber))
-        return QString::number(number, 'g', 6);
-    QString text = QString::number(number, 'f', Decimals);
-    while (text.endsWith(QLatin1Char('0')))
-        text.chop(1);
-    if (text.endsWith(QLatin1Char('.')))
-        text.chop(1);
-    return text == QLatin1String("-0") ? QStringLiteral("0") : text;
 }
 
 QString shortened(const QStringList &entries)
@@ -67,6 +55,18 @@ QString joinedFacts(QStringList parts)
     return parts.join(factSeparator());
 }
 
+QString shortNumber(double number, int decimals)
+{
+    if (!(std::fabs(number) < LongNumber))
+        return QString::number(number, 'g', 6);
+    QString text = QString::number(number, 'f', decimals);
+    while (decimals > 0 && text.endsWith(QLatin1Char('0')))
+        text.chop(1);
+    if (text.endsWith(QLatin1Char('.')))
+        text.chop(1);
+    return text == QLatin1String("-0") ? QStringLiteral("0") : text;
+}
+
 AttributeFacts::AttributeFacts(const QTableWidgetItem &item, int displayUnits)
     : m_definition(definitionOf(item))
     , m_units(-1)
@@ -88,8 +88,10 @@ QString AttributeFacts::taken() const
     }
     case DmlAttrOption:
         return shortened(entries());
-    default:
-        return isUnlimited() ? withUnits(typeText()) : limits();
+    default: {
+        const QString range = limits();
+        return range.isEmpty() ? withUnits(typeText()) : range;
+    }
     }
 }
 
@@ -109,9 +111,10 @@ QStringList AttributeFacts::facts() const
     QStringList parts = factsWithoutLimits();
     if (parts.isEmpty())
         return parts;
+    const QString range = limits();
+    parts.insert(1, range.isEmpty() ? units() : range);
     // Entries can fill the line.
-    const bool isNumber = m_definition->type == DmlAttrInteger || m_definition->type == DmlAttrFloat;
-    parts.insert(isNumber ? 1 : static_cast<int>(parts.size()), isUnlimited() ? units() : limits());
+    parts.append(entries().join(QStringLiteral(", ")));
     parts.removeAll(QString());
     return parts;
 }
@@ -158,19 +161,16 @@ QString AttributeFacts::typeText() const
     }
 }
 
-/// Returns the limits of a number with the units, or all entries.
 QString AttributeFacts::limits() const
 {
-    switch (m_definition->type) {
-    case DmlAttrInteger:
+    if (!m_definition || isUnlimited())
+        return QString();
+    if (m_definition->type == DmlAttrInteger)
         return textOf(texts::Range).arg(m_definition->intMin).arg(m_definition->intMax);
-    case DmlAttrFloat:
+    if (m_definition->type == DmlAttrFloat)
         return withUnits(
-            textOf(texts::Range)
-                .arg(written(converted(m_definition->floatMin)), written(converted(m_definition->floatMax))));
-    default:
-        return entries().join(QStringLiteral(", "));
-    }
+            textOf(texts::Range).arg(written(m_definition->floatMin), written(m_definition->floatMax)));
+    return QString();
 }
 
 QString AttributeFacts::defaultText() const
@@ -185,7 +185,7 @@ QString AttributeFacts::defaultText() const
     case DmlAttrInteger:
         return QString::number(m_definition->defaultInt);
     case DmlAttrFloat:
-        return withUnits(written(converted(double(m_definition->defaultFloat))));
+        return withUnits(written(double(m_definition->defaultFloat)));
     default:
         return QString();
     }
@@ -214,13 +214,14 @@ bool AttributeFacts::isUnlimited() const
            m_definition->floatMax >= most;
 }
 
-double AttributeFacts::converted(double number) const
+/// Returns a number of the definition in the units of the row.
+QString AttributeFacts::written(double number) const
 {
     if (m_units == m_definition->unitsClass)
-        return number;
+        return shortNumber(number, Decimals);
     float shown = static_cast<float>(number);
     gen__torvex_units_convert_2(&shown, m_definition->unitsClass, m_units);
-    return double(shown);
+    return shortNumber(double(shown), Decimals);
 }
 
 } // namespace tvx

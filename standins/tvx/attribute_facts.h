@@ -31,23 +31,26 @@ public:
     QStringList facts() const;
     /// Returns the type and the default.
     QStringList factsWithoutLimits() const;
+    /// Returns the limits of a number with the units; empty if it has none.
+    QString limits() const;
     /// Returns the units of the numbers; empty if there are none.
     QString units() const;
-    /// Returns a number followed by the units.
-    QString withUnits(const QString &number) const;
 
 private:
+    QString withUnits(const QString &number) const;
     QString typeText() const;
-    QString limits() const;
     QString defaultText() const;
     QStringList entries() const;
     bool isUnlimited() const;
-    double converted(double number) const;
+    QString written(double number) const;
 
     const DmlAttrDef *m_definition;
     int m_units;
 };
 
+/// Returns a number as limits and defaults are written: at most `decimals` decimals, without trailing zeros. A long number has
+/// an exponent.
+QString shortNumber(double number, int decimals);
 /// Returns what separates the parts of a description.
 QString factSeparator();
 /// Joins parts of a description; leaves out empty ones.

@@ -29,12 +29,7 @@ bool stepToLimit(const QWidget *widget)
 {
     if (!holdsRefusedText(widget))
         return false;
-    const auto *box = qobject_cast<const QAbstractSpinBox *>(widget);
-    const NumberEntry entry(*box);
-    if (entry.state() == NumberEntry::TooLow)
-        NumberEntry::lineOf(*box)->setText(entry.minimum());
-    else if (entry.state() == NumberEntry::TooHigh)
-        NumberEntry::lineOf(*box)->setText(entry.maximum());
+    NumberEntry(*qobject_cast<const QAbstractSpinBox *>(widget)).goToLimit();
     return true;
 }
 

@@ -4,11 +4,8 @@
 #include "tvx/available_table.h"
 #include "tvx/chosen_table.h"
 #include "tvx/description_label.h"
-#include "tvx/number_entry.h"
 #include "tvx/selection_widgets.h"
 #include "tvx/tvx_texts.h"
-
-#include <QAbstractSpinBox>
 
 namespace Zudunmaf
 {
@@ -42,24 +39,10 @@ void CurrentDescription::show() const
 
 QString CurrentDescription::details(const AttributeFacts &facts) const
 {
-    const QString limits = limitsOfEditor(facts);
-    if (limits.isEmpty())
+    const QString limits = facts.limits();
+    if (limits.isEmpty() || !m_widgets.chosenList->openEditor())
         return joinedFacts(facts.facts());
-    return joinedFacts(QStringList{limits} + facts.factsWithoutLimits());
-}
-
-QString CurrentDescription::limitsOfEditor(const AttributeFacts &facts) const
-{
-    const QWidget *editor = m_widgets.chosenList->openEditor();
-    if (!editor)
-        return QString();
-    const auto *box = qobject_cast<const QAbstractSpinBox *>(editor);
-    if (!box)
-        box = editor->findChild<QAbstractSpinBox *>();
-    if (!box)
-        return QString();
-    const NumberEntry entry(*box);
-    return textOf(texts::Limits).arg(entry.minimum(), facts.withUnits(entry.maximum()));
+    return joinedFacts(QStringList{textOf(texts::Limits).arg(limits)} + facts.factsWithoutLimits());
 }
 
 } // namespace tvx

@@ -25,7 +25,6 @@ public:
 
 private:
     QString details(const AttributeFacts &facts) const;
-    QString limitsOfEditor(const AttributeFacts &facts) const;
 
     const SelectionWidgets &m_widgets;
 };

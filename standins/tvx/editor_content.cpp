@@ -203,24 +203,18 @@ void EditorContent::describeRefused(const QString &message) const
     const QWidget *refused = refusedBox();
     for (QWidget *part : m_parts) {
         const bool hasMessage = refused && part == refused && !message.isEmpty();
-        const QString description = hasMessage ? message : spokenLimits(part);
+        const QString description = hasMessage ? message : spokenTaken(part);
         if (part->accessibleDescription() != description)
             part->setAccessibleDescription(description);
     }
 }
 
-/// Returns the limits of a box with their units; for another part, what the attribute takes.
-QString EditorContent::spokenLimits(const QWidget *part) const
+/// Returns what the attribute takes, as a description of a part.
+QString EditorContent::spokenTaken(const QWidget *part) const
 {
-    const auto *box = qobject_cast<const QAbstractSpinBox *>(part);
     // Qt on Unix reads the current text of a combo box as its name.
-    if (qobject_cast<const QComboBox *>(part))
-        return part->accessibleName() + QLatin1String(": ") + m_taken;
-    if (!box)
-        return m_taken;
-    const NumberEntry entry(*box);
-    const QString limits = tvx::textOf(texts::Range).arg(entry.minimum(), entry.maximum());
-    return m_units.isEmpty() ? limits : limits + QLatin1Char(' ') + m_units;
+    const bool isList = qobject_cast<const QComboBox *>(part);
+    return isList ? part->accessibleName() + QLatin1String(": ") + m_taken : m_taken;
 }
 
 void EditorContent::announceRefused() const

@@ -63,7 +63,7 @@ Q_SIGNALS:
 
 private:
     void connectParts();
-    QString spokenLimits(const QWidget *part) const;
+    QString spokenTaken(const QWidget *part) const;
     void noteEdit();
     QStringList texts() const;
     QStringList content() const;

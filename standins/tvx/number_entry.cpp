@@ -1,5 +1,6 @@
 #include "tvx/number_entry.h"
 
+#include "tvx/attribute_facts.h"
 #include "tvx/tvx_texts.h"
 
 #include <QDoubleSpinBox>
@@ -95,7 +96,7 @@ NumberEntry::State NumberEntry::state() const
         return Accepted;
     bool isNumber = false;
     const double number = m_box.locale().toDouble(text.trimmed(), &isNumber);
-    if (!isNumber) {
+    if (!isNumber || !std::isfinite(number)) {
         const bool isSign = text.isEmpty() || text == QLatin1String("-") || text == QLatin1String("+");
         return isSign ? Unfinished : NoNumber;
     }
@@ -131,7 +132,7 @@ bool NumberEntry::canGrowToLimits(const QString &digits) const
     if (decimals < decimalsOf(m_box) && next > minimum)
         return true;
     // More digits before a point multiply both.
-    while (point < 0 && lowest > 0 && next <= minimum) {
+    while (point < 0 && lowest > 0 && next <= minimum && std::isfinite(next)) {
         lowest *= 10;
         next *= 10;
     }
@@ -140,17 +141,21 @@ bool NumberEntry::canGrowToLimits(const QString &digits) const
 
 QString NumberEntry::minimum() const
 {
-    return written(limitsOf(m_box).first);
+    return shortNumber(limitsOf(m_box).first, decimalsOf(m_box));
 }
 
 QString NumberEntry::maximum() const
 {
-    return written(limitsOf(m_box).second);
+    return shortNumber(limitsOf(m_box).second, decimalsOf(m_box));
 }
 
-QString NumberEntry::written(double number) const
+void NumberEntry::goToLimit() const
 {
-    return QString::number(number, 'f', decimalsOf(m_box));
+    const auto limits = limitsOf(m_box);
+    const State refused = state();
+    if (refused == TooLow || refused == TooHigh)
+        lineOf(m_box)->setText(
+            QString::number(refused == TooLow ? limits.first : limits.second, 'f', decimalsOf(m_box)));
 }
 
 QString NumberEntry::refusal(const QString &units) const

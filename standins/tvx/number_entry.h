@@ -15,7 +15,8 @@ namespace tvx
 /// breaks. Every text in a spin box of another class is accepted. Refers to the box, which must outlive it.
 ///
 /// QSpinBox drops each key that would lead beyond a limit, so that 150 becomes 15. After acceptEveryText() its text is
-/// what was typed or pasted, while its value stays the last one within the limits.
+/// what was typed or pasted, while its value stays the last one within the limits. A blank that is typed is still
+/// dropped, so that "12 5" reads 125 at once; a pasted one is refused.
 class NumberEntry
 {
 public:
@@ -43,15 +44,15 @@ public:
     /// Returns true if the entry is refused, but typing more at its end can make it accepted: a sign alone, or 0. for
     /// 0.3.
     bool isUnfinished() const;
-    /// Return the limits with the decimals of the box, in the format of cells and result lines.
-    QString minimum() const;
-    QString maximum() const;
+    /// Replaces a number beyond a limit by the limit. Does nothing in another state.
+    void goToLimit() const;
     /// Returns why the entry is refused, with the limits in `units`; empty for an accepted entry.
     QString refusal(const QString &units) const;
 
 private:
     bool canGrowToLimits(const QString &digits) const;
-    QString written(double number) const;
+    QString minimum() const;
+    QString maximum() const;
 
     const QAbstractSpinBox &m_box;
 };
