@@ -20,10 +20,16 @@ namespace
 {
 
 constexpr int MostNames = 3;
+constexpr int MostLetters = 30;
 
 QString labelOf(const DmlAttrDef &definition, bool byPrompt)
 {
     return byPrompt ? fieldString(definition.prompt) : fieldString(definition.name);
+}
+
+QString shortened(const QString &text)
+{
+    return text.size() > MostLetters ? text.left(MostLetters) + QChar(0x2026) : text; // an ellipsis
 }
 
 QString listed(const QStringList &names, int count)
@@ -92,11 +98,13 @@ EmptyTableAdvice::Advice EmptyTableAdvice::adviceOnMatches(const Matches &matche
         sentences.append(textOf(texts::AreChosen).arg(matches.chosenCount));
     if (matches.count > 0) {
         const QString found = textOf(foundKey).replace(QLatin1String("%2"), QString::number(matches.count));
-        sentences << found.arg(listed(matches.names, matches.count)) << textOf(texts::EnterShowsFirst);
+        sentences.append(found.arg(listed(matches.names, matches.count)));
+        if (!matches.firstLabel.isEmpty())
+            sentences.append(textOf(texts::EnterShowsFirst));
         advice.firstLabel = matches.firstLabel;
     } else if (sentences.isEmpty()) {
         sentences.append(advice.canWiden ? textOf(texts::NothingMatches)
-                                         : textOf(texts::NothingFound).arg(m_criteria.text()));
+                                         : textOf(texts::NothingFound).arg(shortened(m_criteria.text())));
     }
     advice.text = sentences.join(QLatin1Char(' '));
     return advice;
@@ -115,9 +123,9 @@ EmptyTableAdvice::Matches EmptyTableAdvice::matches(bool byPrompt, bool showsPro
         if (!definition || !expression.match(labelOf(*definition, byPrompt)).hasMatch())
             continue;
         const QString label = labelOf(*definition, showsPrompt);
-        const QString name = matches.isShownLabel
-                                 ? label
-                                 : label + QStringLiteral(" (%1)").arg(labelOf(*definition, byPrompt));
+        QString name = labelOf(*definition, byPrompt);
+        if (!matches.isShownLabel && !label.isEmpty())
+            name = label + QStringLiteral(" (%1)").arg(name);
         if (chosen.contains(nameOf(*item))) {
             if (matches.chosenCount++ == 0)
                 matches.firstChosen = name;

@@ -71,16 +71,24 @@ void EmptyTableGuide::showFirstMatch()
     QString pattern = label;
     pattern.replace(special, QStringLiteral("?"));
     m_widgets.filterText->setText(pattern);
+    if (makeLabelCurrent(label))
+        return;
+    widen();
+    makeLabelCurrent(label);
+}
+
+/// Makes the first visible row with this label current. Returns false if there is none.
+bool EmptyTableGuide::makeLabelCurrent(const QString &label)
+{
     AvailableTable *top = m_widgets.topView;
-    if (top->visibleRowCount() == 0)
-        widen();
     const QList<QTableWidgetItem *> visible = top->rowItems(true);
     for (const QTableWidgetItem *item : visible) {
         if (top->item(item->row(), AttributeTable::NameColumn)->text() != label)
             continue;
         top->makeItemCurrent(item);
-        return;
+        return true;
     }
+    return false;
 }
 
 } // namespace tvx

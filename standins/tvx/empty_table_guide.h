@@ -30,6 +30,7 @@ private:
     void useButton();
     void updateButton(const EmptyTableAdvice::Advice &advice);
     void widen();
+    bool makeLabelCurrent(const QString &label);
 
     const SelectionWidgets &m_widgets;
     EmptyTableAdvice m_advice;

@@ -72,7 +72,7 @@ void EmptyTableText::paint() const
     QPainter painter(m_table->viewport());
     // The full stop of a sentence follows the sentence's own direction.
     painter.setLayoutDirection(Qt::LayoutDirectionAuto);
-    painter.setPen(mutedColour(m_table->palette(), QPalette::Active, false));
+    painter.setPen(mutedColour(m_table->palette(), m_table->palette().currentColorGroup(), false));
     painter.drawText(textArea(), Qt::AlignHCenter | Qt::TextWordWrap, text);
 }
 
