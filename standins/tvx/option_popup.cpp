@@ -3,7 +3,6 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QEvent>
-#include <QProxyStyle>
 
 namespace Zudunmaf
 {
@@ -14,23 +13,6 @@ namespace
 {
 
 constexpr int MostVisibleEntries = 15;
-
-/// With the popup of Fusion, which covers the box as a menu does, QComboBox ignores the number of visible entries.
-class ListStyle : public QProxyStyle
-{
-public:
-    /// Without the name, the base would be the style of the desktop and not that of the application.
-    explicit ListStyle(const QStyle &style)
-        : QProxyStyle(style.objectName())
-    {
-    }
-
-    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
-                  QStyleHintReturn *data) const override
-    {
-        return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
-    }
-};
 
 } // namespace
 
@@ -44,9 +26,8 @@ OptionPopup::OptionPopup(QComboBox *box)
     : QObject(box)
     , m_box(box)
 {
-    auto *style = new ListStyle(*box->style());
-    style->setParent(box);
-    box->setStyle(style);
+    // With the popup of Fusion, which covers the box as a menu does, QComboBox ignores the number of visible entries.
+    box->setStyleSheet(QStringLiteral("combobox-popup: 0"));
     box->setMaxVisibleItems(MostVisibleEntries);
     box->view()->parentWidget()->installEventFilter(this);
     connect(box, QOverload<int>::of(&QComboBox::activated), this, &OptionPopup::noteChoice);
