@@ -13,6 +13,9 @@ namespace tvx
 namespace
 {
 
+/// A tool tip with more letters would be higher than the dialog.
+constexpr int MostTipLetters = 1000;
+
 /// Draws a text at the leading side of the area, elided if necessary. Returns the area beside it.
 QRect drawPart(QPainter *painter, const QRect &area, Qt::LayoutDirection direction, const QString &text)
 {
@@ -57,7 +60,8 @@ void DescriptionLabel::setLines(const QString &first, const QString &second, boo
         return;
     m_isTitle = isTitle;
     setText(lines);
-    setToolTip(plainToolTip(lines));
+    const bool isLong = lines.size() > MostTipLetters;
+    setToolTip(plainToolTip(isLong ? lines.left(MostTipLetters) + QChar(0x2026) : lines)); // an ellipsis
     update();
 }
 

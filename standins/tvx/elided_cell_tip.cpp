@@ -31,16 +31,17 @@ bool ElidedCellTip::showTip(const QHelpEvent &event) const
     const QTableWidgetItem *cell = m_table->itemAt(event.pos());
     if (!cell)
         return false;
-    const bool isValue = cell->column() == AttributeTable::ValueColumn;
-    const QString text =
-        isValue && cell->text().isEmpty() ? m_table->hints().textOfEmptyCell(*cell) : cell->text();
+    const QString text = cell->text().isEmpty() ? m_table->hints().textOfEmptyCell(*cell) : cell->text();
     const int margin =
         2 * (m_table->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, m_table) + 1);
-    if (m_table->fontMetrics().horizontalAdvance(text) + margin <= m_table->visualItemRect(cell).width())
+    QStringList lines = {cell->toolTip()};
+    if (m_table->fontMetrics().horizontalAdvance(text) + margin > m_table->visualItemRect(cell).width())
+        lines.prepend(text);
+    lines.removeAll(QString());
+    if (lines.isEmpty())
         return false;
-    const QString tip = cell->toolTip();
-    QToolTip::showText(event.globalPos(), plainToolTip(tip.isEmpty() ? text : text + QLatin1Char('\n') + tip),
-                       m_table->viewport());
+    // The view would show the tool tip of an item as rich text.
+    QToolTip::showText(event.globalPos(), plainToolTip(lines.join(QLatin1Char('\n'))), m_table->viewport());
     return true;
 }
 

@@ -12,7 +12,8 @@ namespace tvx
 
 class AttributeTable;
 
-/// Shows the whole text of an elided cell, or its hint, as a tool tip, followed by the tool tip of the item. Owned by the table.
+/// Shows tool tips of cells as plain text: the whole text of an elided cell, or its hint, followed by the tool tip of
+/// the item. Owned by the table.
 class ElidedCellTip : public QObject
 {
     Q_OBJECT
