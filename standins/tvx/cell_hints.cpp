@@ -85,8 +85,7 @@ void CellHints::paint() const
     const QStyleOptionViewItem cell = m_table->cellOption();
     QPainter painter(m_table->viewport());
     painter.setFont(m_table->font());
-    const bool isActive = cell.state & QStyle::State_Active;
-    const QPalette::ColorGroup group = isActive ? QPalette::Active : QPalette::Inactive;
+    const QPalette::ColorGroup group = colourGroupOf(cell);
     const QPalette &palette = cell.palette;
     const Colours colours = {palette.color(group, QPalette::Text), mutedColour(palette, group, false)};
     const Colours selected = {palette.color(group, QPalette::HighlightedText),

@@ -3,6 +3,7 @@
 #include "common/wildcards.h"
 #include "tvx/attribute_table.h"
 #include "tvx/mixed_colour.h"
+#include "tvx/muted_colour.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -17,16 +18,9 @@ namespace tvx
 namespace
 {
 
-QPalette::ColorGroup colorGroup(const QStyleOptionViewItem &option)
-{
-    if (!(option.state & QStyle::State_Enabled))
-        return QPalette::Disabled;
-    return option.state & QStyle::State_Active ? QPalette::Active : QPalette::Inactive;
-}
-
 QTextCharFormat markFormat(const QStyleOptionViewItem &cell)
 {
-    const QPalette::ColorGroup group = colorGroup(cell);
+    const QPalette::ColorGroup group = colourGroupOf(cell);
     const bool selected = cell.state & QStyle::State_Selected;
     const QColor back = cell.palette.color(group, selected ? QPalette::Highlight : QPalette::Base);
     const QColor front = cell.palette.color(group, selected ? QPalette::HighlightedText : QPalette::Text);
@@ -158,7 +152,7 @@ void MatchHighlightDelegate::paintText(QPainter *painter, const QStyleOptionView
     if (line.height() > area.height() || line.naturalTextWidth() > inner.width())
         painter->setClipRect(area);
     painter->setPen(
-        cell.palette.color(colorGroup(cell), selected ? QPalette::HighlightedText : QPalette::Text));
+        cell.palette.color(colourGroupOf(cell), selected ? QPalette::HighlightedText : QPalette::Text));
     layout.draw(painter, QPointF(inner.left(), inner.top() + (inner.height() - line.height()) / 2));
     painter->restore();
 }

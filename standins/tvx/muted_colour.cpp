@@ -2,6 +2,8 @@
 
 #include "tvx/mixed_colour.h"
 
+#include <QStyleOptionViewItem>
+
 #include <algorithm>
 #include <cmath>
 
@@ -37,6 +39,13 @@ double contrast(const QColor &a, const QColor &b)
 }
 
 } // namespace
+
+QPalette::ColorGroup colourGroupOf(const QStyleOptionViewItem &cell)
+{
+    if (!(cell.state & QStyle::State_Enabled))
+        return QPalette::Disabled;
+    return cell.state & QStyle::State_Active ? QPalette::Active : QPalette::Inactive;
+}
 
 QColor mutedColour(const QPalette &palette, QPalette::ColorGroup group, bool isSelected)
 {
