@@ -92,12 +92,19 @@ int AttributeTable::visibleRowCount() const
     return rowCount() - verticalHeader()->hiddenSectionCount();
 }
 
+/// Returns true if the user can see and select the row. A disabled row can still become current.
+bool AttributeTable::isUsable(int row) const
+{
+    const Qt::ItemFlags needed = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
+    return !isRowHidden(row) && (model()->flags(model()->index(row, NameColumn)) & needed) == needed;
+}
+
 bool AttributeTable::hasVisibleSelection() const
 {
     const QItemSelection selection = selectionModel()->selection();
     return std::any_of(selection.begin(), selection.end(), [this](const QItemSelectionRange &range) {
         for (int row = range.top(); row <= range.bottom(); ++row) {
-            if (!isRowHidden(row))
+            if (isUsable(row))
                 return true;
         }
         return false;
@@ -110,7 +117,7 @@ QVector<int> AttributeTable::selectedVisibleRows() const
     const QItemSelection selection = selectionModel()->selection();
     for (const QItemSelectionRange &range : selection) {
         for (int row = range.top(); row <= range.bottom(); ++row) {
-            if (!isRowHidden(row))
+            if (isUsable(row))
                 rows.append(row);
         }
     }

@@ -46,8 +46,9 @@ public:
     QStyleOptionViewItem cellOption() const;
 
     int visibleRowCount() const;
+    /// Returns true if selectedVisibleRows() is not empty.
     bool hasVisibleSelection() const;
-    /// Returns the selected rows that are not hidden, in ascending order.
+    /// Returns the selected rows that are neither hidden nor disabled, in ascending order.
     QVector<int> selectedVisibleRows() const;
     /// Returns the value item of a row; null if the row is out of range.
     QTableWidgetItem *rowItem(int row) const { return item(row, ValueColumn); }
@@ -89,6 +90,7 @@ protected:
 
 private:
     bool hasKeyboard() const;
+    bool isUsable(int row) const;
     void setUpHeaders();
     void alignHeader();
     QSize sizeForRows(int rows) const;
