@@ -253,6 +253,12 @@ void AttributeTable::changeEvent(QEvent *event)
         alignHeader();
 }
 
+void AttributeTable::updateEditorGeometries()
+{
+    QTableWidget::updateEditorGeometries();
+    Q_EMIT editorsPlaced();
+}
+
 void AttributeTable::currentChanged(const QModelIndex &current, const QModelIndex &previous)
 {
     // The view tells a screen reader of the new row, which may not have been painted yet.

@@ -72,6 +72,8 @@ public:
 Q_SIGNALS:
     /// Emitted when rows of the other table were dropped on this one.
     void rowsDropped();
+    /// Emitted when the view has placed its open editor again.
+    void editorsPlaced();
 
 protected:
     /// Mutes the selection while the keyboard is elsewhere: only one table can have it.
@@ -80,6 +82,7 @@ protected:
 #else
     void initViewItemOption(QStyleOptionViewItem *option) const override;
 #endif
+    void updateEditorGeometries() override;
     void changeEvent(QEvent *event) override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void focusInEvent(QFocusEvent *event) override;

@@ -17,7 +17,7 @@ namespace tvx
 ChosenTable::ChosenTable(QWidget *parent)
     : AttributeTable(parent, CellHints::Chosen)
     , m_rows(this)
-    , m_session(new EditSession(viewport(), this))
+    , m_session(new EditSession(this))
     , m_menu(new RowMenu(this))
 {
     setEditTriggers(DoubleClicked | EditKeyPressed);

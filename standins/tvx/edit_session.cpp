@@ -1,5 +1,6 @@
 #include "tvx/edit_session.h"
 
+#include "tvx/attribute_table.h"
 #include "tvx/cell_editor_filter.h"
 #include "tvx/editor_content.h"
 #include "tvx/editor_note.h"
@@ -32,10 +33,11 @@ void prepareSpinBoxes(QWidget *editor)
 
 } // namespace
 
-EditSession::EditSession(QWidget *viewport, QObject *parent)
-    : QObject(parent)
-    , m_viewport(viewport)
+EditSession::EditSession(AttributeTable *table)
+    : QObject(table)
+    , m_table(table)
 {
+    connect(table, &AttributeTable::editorsPlaced, this, &EditSession::placeNote);
     m_afterEvent.setSingleShot(true);
     connect(&m_afterEvent, &QTimer::timeout, this, &EditSession::eventOver);
 }
@@ -47,8 +49,10 @@ void EditSession::begin(QWidget *editor, const QModelIndex &index, const QTableW
     m_index = index;
     m_isTableHidden = false;
     prepareSpinBoxes(editor);
-    if (const auto *choices = TextChoices::attach(editor, value))
+    if (auto *choices = TextChoices::attach(editor, value)) {
         connect(this, &EditSession::ended, choices, &QWidget::hide);
+        connect(m_table, &AttributeTable::editorsPlaced, choices, &TextChoices::place);
+    }
     m_popup = OptionPopup::attach(editor);
     if (m_popup)
         connect(m_popup, &OptionPopup::picked, this, &EditSession::entered);
@@ -63,7 +67,7 @@ void EditSession::begin(QWidget *editor, const QModelIndex &index, const QTableW
 void EditSession::openPopupAfterClick()
 {
     if (m_popup)
-        m_popup->openAfterRelease(m_viewport);
+        m_popup->openAfterRelease(m_table->viewport());
 }
 
 void EditSession::end()
@@ -165,10 +169,17 @@ void EditSession::noteEdit()
 void EditSession::showNote(const QString &message)
 {
     if (!m_note)
-        m_note = new EditorNote(m_viewport);
-    const QWidget *box = m_content->refusedBox();
-    m_note->showMessage(message, box ? *box : *m_editor);
+        m_note = new EditorNote(m_table->viewport());
+    m_note->setMessage(message);
+    placeNote();
     m_content->describeRefused(message);
+}
+
+void EditSession::placeNote()
+{
+    const QWidget *box = m_content ? m_content->refusedBox() : nullptr;
+    if (box && m_note && !m_note->isHidden())
+        showBeside(m_note, *box);
 }
 
 void EditSession::eventOver()

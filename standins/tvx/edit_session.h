@@ -14,6 +14,7 @@ namespace Zudunmaf
 namespace tvx
 {
 
+class AttributeTable;
 class CellEditorFilter;
 class EditorContent;
 class EditorNote;
@@ -29,8 +30,8 @@ class EditSession : public QObject
     Q_OBJECT
 
 public:
-    /// Editors and the note are children of `viewport`.
-    EditSession(QWidget *viewport, QObject *parent);
+    /// The table becomes the parent. Editors and the note are children of its viewport.
+    explicit EditSession(AttributeTable *table);
 
     /// Begins with an editor that has been loaded from `value`, the value item at `index`. `name` is the attribute.
     void begin(QWidget *editor, const QModelIndex &index, const QTableWidgetItem &value, const QString &name);
@@ -90,9 +91,10 @@ Q_SIGNALS:
 private:
     void noteEdit();
     void showNote(const QString &message);
+    void placeNote();
     void eventOver();
 
-    QWidget *m_viewport;
+    AttributeTable *m_table;
     QPointer<QWidget> m_editor;
     QPersistentModelIndex m_index;
     /// Children of the editor.

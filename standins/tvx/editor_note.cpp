@@ -41,14 +41,11 @@ EditorNote::EditorNote(QWidget *viewport)
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
-void EditorNote::showMessage(const QString &message, const QWidget &editor)
+void EditorNote::setMessage(const QString &message)
 {
-    const bool isNew = message != text();
+    const bool isNew = message != text() && !message.isEmpty();
     setText(message);
     setHidden(message.isEmpty());
-    if (message.isEmpty())
-        return;
-    showBeside(this, editor);
     if (isNew) {
         QAccessibleEvent alert(this, QAccessible::Alert);
         QAccessible::updateAccessibility(&alert);

@@ -20,9 +20,9 @@ class EditorNote : public QLabel
 public:
     explicit EditorNote(QWidget *viewport);
 
-    /// Shows the message beside the editor and alerts a screen reader to a new one. Hides the note for an empty
-    /// message.
-    void showMessage(const QString &message, const QWidget &editor);
+    /// Shows the message, for which the caller calls showBeside(), and alerts a screen reader to a new one. Hides the
+    /// note for an empty message.
+    void setMessage(const QString &message);
 };
 
 } // namespace tvx

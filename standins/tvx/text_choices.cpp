@@ -81,6 +81,12 @@ void TextChoices::showMatches(const QString &typed)
         hide();
 }
 
+void TextChoices::place()
+{
+    if (!isHidden())
+        showBeside(this, *m_box);
+}
+
 /// Returns each matching choice once, without the typed text itself.
 QStringList TextChoices::matches(const QString &typed) const
 {

@@ -29,6 +29,8 @@ public:
     /// editor.
     static TextChoices *attach(QWidget *editor, const QTableWidgetItem &item);
 
+    /// Moves the list to the editor again. Must be called when the editor has moved.
+    void place();
     QSize sizeHint() const override;
 
 protected:
