@@ -142,6 +142,11 @@ void ChosenTable::forgetRefusal()
     m_session->forgetRefusal();
 }
 
+void ChosenTable::forgetOldRefusal()
+{
+    m_session->forgetOldRefusal();
+}
+
 void ChosenTable::hideEvent(QHideEvent *event)
 {
     AttributeTable::hideEvent(event);
@@ -152,7 +157,7 @@ void ChosenTable::hideEvent(QHideEvent *event)
 
 void ChosenTable::currentChanged(const QModelIndex &current, const QModelIndex &previous)
 {
-    m_session->forgetOldRefusal();
+    forgetOldRefusal();
     AttributeTable::currentChanged(current, previous);
 }
 

@@ -52,6 +52,8 @@ public:
     QString lastRefusal() const;
     /// Clears that sentence.
     void forgetRefusal();
+    /// Clears it unless the entry was refused in the event that is being delivered.
+    void forgetOldRefusal();
 
 Q_SIGNALS:
     void editingStarted();

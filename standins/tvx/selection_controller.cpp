@@ -71,6 +71,8 @@ void SelectionController::connectCriteria()
     const auto indexChanged = QOverload<int>::of(&QComboBox::currentIndexChanged);
     connect(m_widgets.entityList, indexChanged, this, &SelectionController::applyCriteria);
     connect(m_widgets.groupList, indexChanged, this, &SelectionController::applyCriteria);
+    connect(m_widgets.filterText, &QLineEdit::textChanged, m_widgets.chosenList,
+            &ChosenTable::forgetOldRefusal);
     connect(m_widgets.filterText, &QLineEdit::textChanged, this, &SelectionController::applyCriteria);
 }
 
@@ -107,6 +109,7 @@ void SelectionController::connectTables()
     connect(top, &AvailableTable::enteredWithoutRows, m_guide, &EmptyTableGuide::showFirstMatch);
     connect(top, &AvailableTable::rowsHiddenOrShown, this, &SelectionController::refresh);
     connect(top, &AvailableTable::itemSelectionChanged, this, &SelectionController::refresh);
+    connect(top, &AvailableTable::currentItemChanged, chosen, &ChosenTable::forgetOldRefusal);
     connect(top, &AvailableTable::currentItemChanged, this, &SelectionController::refresh);
     connect(chosen, &ChosenTable::itemSelectionChanged, this, &SelectionController::refresh);
     connect(chosen, &ChosenTable::currentItemChanged, this, &SelectionController::refresh);
