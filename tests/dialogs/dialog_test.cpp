@@ -89,6 +89,7 @@ void DialogTest::cleanup()
     dialog.reset();
     dml::unloadAll();
     gen::setLanguage(QString());
+    gen::setConfigurationFile(QString());
     QLocale::setDefault(QLocale::system());
     QCOMPARE(g_warnings, QStringList());
 }
@@ -142,6 +143,15 @@ bool DialogTest::open(int did)
 {
     create(did);
     return show();
+}
+
+void DialogTest::loadDictionary(const QByteArray &attributes)
+{
+    QString error;
+    QVERIFY2(dml::loadJson(R"({"dictionaries": [{"id": 7, "attributes": [)" + attributes + "]}]}",
+                           QStringLiteral("here"), &error),
+             qPrintable(error));
+    QVERIFY(open(7));
 }
 
 void DialogTest::pressKeys(const QString &keys) const

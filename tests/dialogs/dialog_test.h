@@ -38,6 +38,8 @@ public:
     /// Replaces the dialog by a new one over dictionary `did`. open() also shows it and waits until keys reach it.
     void create(int did = -1);
     bool open(int did = -1);
+    /// Opens another dialog over these attributes, in JSON.
+    void loadDictionary(const QByteArray &attributes);
     bool show() const { return DialogUser::open(); }
 
     /// Types text. In it, "v" is Down, "^" is Up, "=" is Ctrl+A, "<" is Delete, and a tab is Tab.

@@ -151,10 +151,10 @@ private:
         QCOMPARE(dialog->isVisible(), staysOpen || !closes);
         if (staysOpen)
             QVERIFY(qApp->focusWidget()->findChild<QLineEdit *>()->hasSelectedText());
-        else if (end == Stores)
-            QVERIFY2(description->text().contains(refusal) &&
-                         chosenList->accessibleDescription().contains(refusal),
-                     qPrintable(description->text()));
+        if (staysOpen || end != Stores || refusal.isEmpty())
+            return;
+        const QString said = description->text() + chosenList->accessibleDescription();
+        QCOMPARE(int(said.count(refusal)), way() == "filter key" ? 0 : 2);
     }
 
     void pressOn(QComboBox *list, int key) const
@@ -178,6 +178,7 @@ private:
         {"Enter", {StoresUnlessRefused, "", [this] { press(Qt::Key_Return); }}},
         {"Tab", {Stores, "", [this] { pressUntilClosed(Qt::Key_Tab); }}},
         {"elsewhere", {Stores, "", [this] { click(filterText); }}},
+        {"available row", {Stores, "", [this] { click(topView, "pad_02"); }}},
         {"another row", {Stores, "", [this] { click(chosenList, "plated"); }}},
         {"OK", {AcceptsUnlessRefused, "accepted", [this] { click(okButton); }}},
         {"Alt+OK", {AcceptsUnlessRefused, "accepted", [this] { QVERIFY(pushButton(*okButton)); }}},

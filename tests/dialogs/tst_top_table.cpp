@@ -157,6 +157,11 @@ private Q_SLOTS:
         QVERIFY(!removeButton->isEnabled());
         filterText->clear();
         QVERIFY(addButton->isEnabled());
+        topView->item(topView->currentRow(), Name)->setFlags(Qt::NoItemFlags);
+        setFilter("plated");
+        QVERIFY(!addButton->isEnabled());
+        press(Qt::Key_Return);
+        QCOMPARE(chosenList->rowCount(), 1);
     }
 
     void emptyTablesGiveTheReason()
