@@ -137,11 +137,13 @@ void RowMover::callAddHook(const QString &name)
 
 void RowMover::removeSelected()
 {
+    finishEditing();
     remove(m_chosen->selectedVisibleRows());
 }
 
 void RowMover::removeAll()
 {
+    finishEditing();
     QVector<int> rows(m_chosen->rowCount());
     std::iota(rows.begin(), rows.end(), 0);
     remove(rows);
@@ -149,33 +151,48 @@ void RowMover::removeAll()
 
 void RowMover::remove(const QVector<int> &rows)
 {
-    finishEditing();
     if (rows.isEmpty())
         return;
-    std::vector<ChosenRow> removed = takeRows(rows);
+    std::vector<const QTableWidgetItem *> names;
+    names.reserve(static_cast<std::size_t>(rows.size()));
+    for (int row : rows)
+        names.push_back(m_chosen->item(row, AttributeTable::NameColumn));
+    std::vector<ChosenRow> removed = take(names);
     const QString text = stepText(texts::StepRemove, texts::StepRemoveSeveral, removed);
     m_history->push(std::make_unique<RowsStep>(this, std::move(removed), text));
     Q_EMIT rowsMoved();
 }
 
-std::vector<ChosenRow> RowMover::takeRows(const QVector<int> &rows)
+std::vector<ChosenRow> RowMover::take(const std::vector<const QTableWidgetItem *> &names)
 {
     m_isRemoving = true;
-    {
-        const BatchUpdate batch(m_available);
-        for (int row : rows)
-            m_dialog->removeButtonClickedCB(m_chosen->rowItem(row));
-    }
+    callRemoveHooks(rowsOf(names));
+    // Looked up again: a hook may have added a row, and the rows may be sorted.
+    const QVector<int> rows = rowsOf(names);
     std::vector<ChosenRow> taken = m_chosen->rows().take(rows);
     for (const ChosenRow &row : taken)
         m_valueNames.remove(nameOf(*row.value));
-    const int below = rows.last() - static_cast<int>(rows.size()) + 1;
-    m_chosen->makeRowCurrent(std::min(below, m_chosen->rowCount() - 1));
+    if (!rows.isEmpty()) {
+        const int below = rows.last() - static_cast<int>(rows.size()) + 1;
+        m_chosen->makeRowCurrent(std::min(below, m_chosen->rowCount() - 1));
+    }
     m_isRemoving = false;
     return taken;
 }
 
-std::vector<ChosenRow> RowMover::take(const std::vector<const QTableWidgetItem *> &names)
+void RowMover::callRemoveHooks(const QVector<int> &rows)
+{
+    QVector<QTableWidgetItem *> values;
+    values.reserve(rows.size());
+    for (int row : rows)
+        values.append(m_chosen->rowItem(row));
+    const BatchUpdate batch(m_available);
+    for (QTableWidgetItem *value : values)
+        m_dialog->removeButtonClickedCB(value);
+}
+
+/// Returns the rows of these name items in ascending order, without those that are not in the table.
+QVector<int> RowMover::rowsOf(const std::vector<const QTableWidgetItem *> &names) const
 {
     const QHash<const QTableWidgetItem *, int> rowOfNames = m_chosen->rows().rowOfNames();
     QVector<int> rows;
@@ -184,7 +201,7 @@ std::vector<ChosenRow> RowMover::take(const std::vector<const QTableWidgetItem *
             rows.append(rowOfNames.value(name));
     }
     std::sort(rows.begin(), rows.end());
-    return rows.isEmpty() ? std::vector<ChosenRow>() : takeRows(rows);
+    return rows;
 }
 
 std::vector<ChosenRow> RowMover::restore(std::vector<ChosenRow> rows)

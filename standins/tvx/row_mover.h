@@ -72,7 +72,8 @@ private:
     std::vector<AvailableRow> selectedAvailableRows() const;
     void append(std::vector<ChosenRow> rows);
     void remove(const QVector<int> &rows);
-    std::vector<ChosenRow> takeRows(const QVector<int> &rows);
+    void callRemoveHooks(const QVector<int> &rows);
+    QVector<int> rowsOf(const std::vector<const QTableWidgetItem *> &names) const;
     void callAddHooks(const std::vector<AvailableRow> &rows);
     void callAddHook(const QString &name);
     void finishEditing();

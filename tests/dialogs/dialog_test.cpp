@@ -35,17 +35,24 @@ public:
         DialogTest::currentAfterPass =
             DialogTest::currentName(this->template findChild<QTableWidget *>(QStringLiteral("topView")));
     }
+    void reject() override
+    {
+        if (!DialogTest::refusesToClose)
+            Dialog::reject();
+    }
     void addButtonClickedCB(QTableWidgetItem *item) override
     {
         note('+', "topView", *item);
         Dialog::addButtonClickedCB(item);
-        if (DialogTest::afterAdding)
-            DialogTest::afterAdding();
+        if (DialogTest::afterHook)
+            DialogTest::afterHook();
     }
     void removeButtonClickedCB(QTableWidgetItem *item) override
     {
         note('-', "chosenList", *item);
         Dialog::removeButtonClickedCB(item);
+        if (DialogTest::afterHook)
+            DialogTest::afterHook();
     }
 
 private:
@@ -84,7 +91,8 @@ void DialogTest::init()
 
 void DialogTest::cleanup()
 {
-    afterAdding = nullptr;
+    afterHook = nullptr;
+    refusesToClose = false;
     atCommit = nullptr;
     dialog.reset();
     dml::unloadAll();

@@ -57,8 +57,10 @@ public:
     static inline QStringList events;
     /// The current attribute of the available table when the library's filterAttributeList() returns.
     static inline QString currentAfterPass;
-    /// Runs at the end of the add hook, until the test function ends.
-    static inline std::function<void()> afterAdding;
+    /// Runs at the end of each hook, until the test function ends.
+    static inline std::function<void()> afterHook;
+    /// Makes reject() do nothing, until the test function ends.
+    static inline bool refusesToClose = false;
     /// Runs at the start of each commit, until the test function ends.
     static inline std::function<void()> atCommit;
 
