@@ -22,9 +22,14 @@ void RowMenu::setMenu(QMenu *menu)
     m_menu = menu;
     if (!menu)
         return;
-    // The subclass connects later: its slot runs after the first connection, and before the second, which is queued.
-    connect(menu, &QMenu::triggered, this, &RowMenu::aboutToRun);
-    connect(menu, &QMenu::triggered, this, &RowMenu::triggered, Qt::QueuedConnection);
+    // The subclass connects later, so its slot runs after this one.
+    connect(menu, &QMenu::triggered, this, [this](const QAction *action) {
+        Q_EMIT aboutToRun(action);
+        // A deferred delete waits for the present event loop. A queued call could be made by one that the slot runs.
+        auto *over = new QObject(this);
+        connect(over, &QObject::destroyed, this, &RowMenu::triggered);
+        over->deleteLater();
+    });
 }
 
 void RowMenu::openAt(const QPoint &globalPosition)

@@ -145,6 +145,10 @@ void DialogTest::create(int did)
     connect(dialog.get(), &QDialog::rejected, this, [this] { events << "rejected"; });
     auto *menu = dialog->findChild<QMenu *>(QString(), Qt::FindDirectChildrenOnly);
     connect(menu, &QMenu::aboutToShow, this, [this] { events << "menu"; });
+    // A host may ask the user before an action changes a value.
+    menu->disconnect(dialog.get());
+    connect(menu, &QMenu::triggered, this, [] { QCoreApplication::processEvents(); });
+    connect(menu, SIGNAL(triggered(QAction *)), dialog.get(), SLOT(contextMenu_triggered(QAction *)));
 }
 
 bool DialogTest::open(int did)

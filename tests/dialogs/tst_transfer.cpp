@@ -237,7 +237,7 @@ private:
         else if (kind == 2 && random.bounded(4) == 0)
             click(clearButton);
         else if (kind == 3)
-            dialog->findChild<QMenu *>()->actions().last()->trigger();
+            QTimer::singleShot(0, dialog->findChild<QMenu *>()->actions().last(), &QAction::trigger);
         else
             enter(currentName(chosenList), QString::number(random.bounded(9)));
         QCoreApplication::processEvents();
