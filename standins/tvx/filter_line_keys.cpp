@@ -47,11 +47,12 @@ bool FilterLineKeys::filterKey(QKeyEvent *event)
         return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        if (!event->isAutoRepeat()) {
-            if (m_available->visibleRowCount() > 0)
-                m_mover->addSelected();
-            else
-                Q_EMIT enteredWithoutRows();
+        if (event->isAutoRepeat())
+            return true;
+        if (m_available->visibleRowCount() > 0) {
+            m_mover->addSelected();
+        } else {
+            Q_EMIT enteredWithoutRows();
             endSearch(m_line);
         }
         return true;
@@ -68,7 +69,9 @@ bool FilterLineKeys::filterKey(QKeyEvent *event)
 void endSearch(QLineEdit *filterText)
 {
     filterText->setText(filterText->text());
-    filterText->selectAll();
+    // The line would show the selection without the focus too.
+    if (filterText->hasFocus())
+        filterText->selectAll();
 }
 
 } // namespace tvx

@@ -39,8 +39,8 @@ private:
     RowMover *m_mover;
 };
 
-/// Ends the search for attributes: selects the text, so that the next letter starts a new one, and forgets what was
-/// typed, so that Ctrl+Z undoes the last step of the chosen rows.
+/// Ends the search for attributes: forgets what was typed, so that Ctrl+Z undoes the last step of the chosen rows. If the
+/// line has the focus, also selects the text, so that the next letter starts a new search.
 void endSearch(QLineEdit *filterText);
 
 } // namespace tvx

@@ -47,7 +47,6 @@ void QuickEntry::addAndEdit()
     if (!m_widgets.topView->hasVisibleSelection())
         return;
     m_mover->addSelected();
-    endSearch(m_widgets.filterText);
     const QVector<int> added = m_widgets.chosenList->selectedVisibleRows();
     if (added.isEmpty())
         return;

@@ -96,6 +96,7 @@ void RowMover::addSelected()
     }
     m_chosen->rows().select(values);
     Q_EMIT rowsMoved();
+    Q_EMIT userMovedRows();
 }
 
 /// Also clears the sentence on an earlier refused entry.
@@ -161,6 +162,7 @@ void RowMover::remove(const QVector<int> &rows)
     const QString text = stepText(texts::StepRemove, texts::StepRemoveSeveral, removed);
     m_history->push(std::make_unique<RowsStep>(this, std::move(removed), text));
     Q_EMIT rowsMoved();
+    Q_EMIT userMovedRows();
 }
 
 std::vector<ChosenRow> RowMover::take(const std::vector<const QTableWidgetItem *> &names)

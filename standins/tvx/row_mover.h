@@ -62,6 +62,8 @@ public:
 Q_SIGNALS:
     /// Emitted after chosen rows were added, removed or restored.
     void rowsMoved();
+    /// Emitted after that if the user has added or removed rows; not for undo, redo and rows of the host.
+    void userMovedRows();
 
 private:
     struct AvailableRow {

@@ -119,6 +119,7 @@ void SelectionController::connectTables()
     connect(m_escapeGuard, &EscapeGuard::warningChanged, this,
             [this] { m_status.setWarning(m_escapeGuard->warning()); });
     connect(m_mover, &RowMover::rowsMoved, this, &SelectionController::refresh);
+    connect(m_mover, &RowMover::userMovedRows, this, [this] { endSearch(m_widgets.filterText); });
 }
 
 void SelectionController::connectHistory()

@@ -84,7 +84,7 @@ private Q_SLOTS:
         press(Qt::Key_Return);
         QVERIFY(!editor());
         QVERIFY(origin->hasFocus());
-        QCOMPARE(filterText->selectedText(), QString("e"));
+        QCOMPARE(filterText->selectedText(), QString(origin == filterText ? "e" : ""));
         QVERIFY(resultOf(edited).contains("55"));
         press(Qt::Key_Z, Qt::ControlModifier);
         QVERIFY(!resultOf(edited).contains("55"));

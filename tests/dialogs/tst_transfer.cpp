@@ -141,6 +141,18 @@ private Q_SLOTS:
         QCOMPARE(int(events.filter("+").size()), inFilter() ? 48 : 47);
     }
 
+    void buttonEndsTheTypingThatUndoTakesBack()
+    {
+        for (QPushButton *button : {addButton, removeButton}) {
+            type("width");
+            const int rows = chosenList->rowCount();
+            click(button);
+            press(Qt::Key_Z, Qt::ControlModifier);
+            QCOMPARE(chosenList->rowCount(), rows);
+            press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        }
+    }
+
     void cellsSelectedOneByOneAreOneRow()
     {
         topView->clearSelection();
