@@ -23,6 +23,8 @@
 #include <QPushButton>
 #include <QShortcut>
 
+#include <algorithm>
+
 namespace Zudunmaf
 {
 namespace tvx
@@ -181,8 +183,10 @@ void SelectionController::fillAvailable(const QList<QTableWidgetItem *> &items)
 void SelectionController::fitNameColumns()
 {
     const int width = m_widgets.topView->wantedNameWidth();
-    m_widgets.topView->nameColumnWidth()->fit(width);
-    m_widgets.chosenList->nameColumnWidth()->fit(width);
+    // A narrowed fill has only some of the names, and the chosen table may have the others.
+    m_nameWidth = m_criteria.wasFillNarrowed() ? std::max(m_nameWidth, width) : width;
+    m_widgets.topView->nameColumnWidth()->fit(m_nameWidth);
+    m_widgets.chosenList->nameColumnWidth()->fit(m_nameWidth);
 }
 
 void SelectionController::applyCriteria()

@@ -74,6 +74,7 @@ private:
     EscapeGuard *m_escapeGuard;
     DialogStatus m_status;
     int m_displayUnits = -1;
+    int m_nameWidth = 0;
     bool m_isConnected = false;
 };
 
