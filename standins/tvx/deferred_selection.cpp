@@ -1,7 +1,6 @@
 #include "tvx/deferred_selection.h"
 
 #include <QItemSelectionModel>
-#include <QSignalBlocker>
 
 namespace Zudunmaf
 {
@@ -23,20 +22,10 @@ void DeferredSelection::emitChanges()
 {
     const QModelIndex current = m_model->currentIndex();
     const QItemSelection selection = m_model->selection();
-    if (current == m_current && selection == m_selection)
-        return;
-    // The model emits the difference to its own state, so that is set back first.
-    {
-        const QSignalBlocker blocker(m_model);
-        set(m_current, m_selection);
-    }
-    set(current, selection);
-}
-
-void DeferredSelection::set(const QModelIndex &current, const QItemSelection &selection)
-{
-    m_model->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
-    m_model->select(selection, QItemSelectionModel::ClearAndSelect);
+    if (current != m_current)
+        Q_EMIT m_model->currentChanged(current, m_current);
+    if (selection != m_selection)
+        Q_EMIT m_model->selectionChanged(selection, m_selection);
 }
 
 } // namespace tvx

@@ -24,8 +24,6 @@ public:
     void emitChanges();
 
 private:
-    void set(const QModelIndex &current, const QItemSelection &selection);
-
     QItemSelectionModel *m_model;
     QPersistentModelIndex m_current;
     QItemSelection m_selection;
