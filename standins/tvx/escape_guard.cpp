@@ -22,11 +22,19 @@ EscapeGuard::~EscapeGuard() = default;
 
 void EscapeGuard::rememberRows()
 {
-    m_rowsAtOpening = rows();
+    if (m_haveRows)
+        return;
+    m_haveRows = true;
+    m_unchanged = rows();
     setWarning(false);
 }
 
-/// Returns the content of each row, whatever their order.
+void EscapeGuard::rememberRow(const QTableWidgetItem &item)
+{
+    if (m_haveRows)
+        m_unchanged.append(contentOf(item));
+}
+
 QStringList EscapeGuard::rows() const
 {
     QStringList rows;
@@ -34,7 +42,6 @@ QStringList EscapeGuard::rows() const
     rows.reserve(items.size());
     for (const QTableWidgetItem *item : items)
         rows.append(contentOf(*item));
-    rows.sort();
     return rows;
 }
 
@@ -42,10 +49,15 @@ bool EscapeGuard::holdsBack(const QKeyEvent &key)
 {
     if (!key.matches(QKeySequence::Cancel))
         return false;
-    // The repeated key would confirm its own warning.
+    // The repeated key would confirm its own warning, or close the dialog after it has cleared the filter text.
+    if (key.isAutoRepeat())
+        return true;
     if (m_isWarning)
-        return key.isAutoRepeat();
-    setWarning(rows() != m_rowsAtOpening);
+        return false;
+    QStringList now = rows();
+    now.sort();
+    m_unchanged.sort();
+    setWarning(now != m_unchanged);
     return m_isWarning;
 }
 

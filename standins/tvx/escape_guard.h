@@ -5,7 +5,7 @@
 #include <QStringList>
 
 class QKeyEvent;
-class QWidget;
+class QTableWidgetItem;
 
 namespace Zudunmaf
 {
@@ -25,8 +25,13 @@ public:
     EscapeGuard(const ChosenTable &chosen, QObject *parent);
     ~EscapeGuard() override;
 
-    /// Takes the chosen rows as unchanged. Must be called when the dialog is shown.
+    /// Takes the chosen rows as unchanged if this is the first call, or the first one after forgetRows(). Must be called
+    /// when the dialog is shown.
     void rememberRows();
+    /// Must be called when the dialog was closed. After a mere hide() the changes may still be discarded.
+    void forgetRows() { m_haveRows = false; }
+    /// Takes a row that the host has added as unchanged.
+    void rememberRow(const QTableWidgetItem &item);
     /// Returns true if a key that has reached the dialog must not close it, and warns. Returns false for other keys than
     /// Escape.
     bool holdsBack(const QKeyEvent &key);
@@ -44,7 +49,9 @@ private:
     void setWarning(bool isWarning);
 
     const ChosenTable &m_chosen;
-    QStringList m_rowsAtOpening;
+    /// The content of each unchanged row, in any order.
+    QStringList m_unchanged;
+    bool m_haveRows = false;
     bool m_isWarning = false;
 };
 

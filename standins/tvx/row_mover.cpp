@@ -247,6 +247,7 @@ bool RowMover::addCopyOf(const QTableWidgetItem &item)
     if (!isAttribute || !isOfDialogsKind(item) || (!isCondition(item) && m_valueNames.contains(name)))
         return false;
     finishEditing();
+    Q_EMIT hostAddsRow(item);
     std::vector<ChosenRow> copies;
     copies.push_back(copyOf(item));
     append(std::move(copies));

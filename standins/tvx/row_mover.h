@@ -64,6 +64,8 @@ Q_SIGNALS:
     void rowsMoved();
     /// Emitted after that if the user has added or removed rows; not for undo, redo and rows of the host.
     void userMovedRows();
+    /// Emitted before addCopyOf() adds a row.
+    void hostAddsRow(const QTableWidgetItem &item);
 
 private:
     struct AvailableRow {

@@ -85,7 +85,8 @@ void SelectionController::connectButtons()
     connect(m_widgets.undoButton, &QPushButton::clicked, m_mover, &RowMover::undo);
     connect(m_widgets.clearButton, &QPushButton::clicked, m_mover, &RowMover::removeAll);
     connect(m_widgets.buttonBox, &QDialogButtonBox::accepted, this, &SelectionController::acceptDialog);
-    connect(m_widgets.buttonBox, &QDialogButtonBox::rejected, this, &SelectionController::rejectDialog);
+    connect(m_widgets.buttonBox, &QDialogButtonBox::rejected, m_dialog, &QDialog::reject);
+    connect(m_dialog, &QDialog::finished, m_escapeGuard, &EscapeGuard::forgetRows);
     // For a host that calls accept() or reject() itself. Its own slots are connected later, and find the stored value.
     connect(m_dialog, &QDialog::accepted, this, [this] { m_widgets.chosenList->finishAcceptedEditing(); });
     connect(m_dialog, &QDialog::rejected, this, [this] { m_widgets.chosenList->dropEditing(); });
@@ -118,6 +119,7 @@ void SelectionController::connectTables()
     connect(chosen, &ChosenTable::editingStarted, this, &SelectionController::refresh);
     connect(chosen, &ChosenTable::editorChanged, this, &SelectionController::refresh);
     connect(chosen, &ChosenTable::editingEnded, this, &SelectionController::refresh);
+    connect(m_mover, &RowMover::hostAddsRow, m_escapeGuard, &EscapeGuard::rememberRow);
     connect(m_escapeGuard, &EscapeGuard::warningChanged, this,
             [this] { m_status.setWarning(m_escapeGuard->warning()); });
     connect(m_mover, &RowMover::rowsMoved, this, &SelectionController::refresh);
@@ -155,12 +157,6 @@ void SelectionController::acceptDialog()
 {
     if (m_widgets.chosenList->tryFinishEditing())
         m_dialog->accept();
-}
-
-void SelectionController::rejectDialog()
-{
-    m_widgets.chosenList->dropEditing();
-    m_dialog->reject();
 }
 
 void SelectionController::setDisplayUnits(int units)

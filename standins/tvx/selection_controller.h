@@ -58,7 +58,6 @@ private:
     void connectHistory();
     void connectShortcuts();
     void acceptDialog();
-    void rejectDialog();
     void applyCriteria();
     void refill();
     void fitNameColumns();

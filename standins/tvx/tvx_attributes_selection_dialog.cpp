@@ -152,6 +152,5 @@ void TvxAttributesSelectionDialog::fillAttributeList(const QList<QTableWidgetIte
 
 void TvxAttributesSelectionDialog::closeEvent(QCloseEvent *event)
 {
-    d->widgets().chosenList->dropEditing();
     QDialog::closeEvent(event);
 }

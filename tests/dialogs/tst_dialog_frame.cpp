@@ -131,8 +131,9 @@ private Q_SLOTS:
         QVERIFY(tvx::addChosen(*dialog, *dialog->findItemByAttrName("width")));
         QVERIFY(show());
         click(chosenList, "width");
+        QVERIFY(tvx::addChosen(*dialog, *dialog->findItemByAttrName("note")));
         press({Qt::Key_F2, Qt::Key_Escape, Qt::Key_Escape});
-        QVERIFY(!dialog->isVisible()); // nothing has changed
+        QVERIFY(!dialog->isVisible()); // the user has changed nothing
         QVERIFY(open());
         choose({"width"});
         enter("width", "5");
@@ -140,6 +141,8 @@ private Q_SLOTS:
         type("6");
         press(Qt::Key_Escape);
         QVERIFY(!description->text().contains(warning));
+        dialog->hide();
+        dialog->show();
         for (const auto &takeBack : std::initializer_list<std::function<void()>>{
                  [this] { press(Qt::Key_Down); }, [this] { click(topView, "note"); },
                  [this] {
@@ -156,14 +159,29 @@ private Q_SLOTS:
         QVERIFY(dialog->isVisible());
         press(Qt::Key_Escape);
         QVERIFY(!dialog->isVisible());
-        QVERIFY(open());
+    }
+
+    void hostMayKeepTheDialogOpen()
+    {
         choose({"note"});
+        press(Qt::Key_F2);
+        refusesToClose = true;
         click(cancelButton);
-        QVERIFY(!dialog->isVisible());
+        QVERIFY(!dialog->close());
+        QVERIFY(editor());
+        refusesToClose = false;
+        click(cancelButton);
+        QVERIFY(!dialog->isVisible()); // without a warning
+        dialog->show();
+        press(Qt::Key_Escape);
+        QVERIFY(!dialog->isVisible()); // nothing has changed since
     }
 
     void autoRepeatDoesNothing()
     {
+        QKeyEvent heldEscape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, QString(), true);
+        QCoreApplication::sendEvent(filterText, &heldEscape);
+        QVERIFY(dialog->isVisible());
         choose({"note", "width"});
         QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
         for (QWidget *place : std::initializer_list<QWidget *>{filterText, topView, chosenList})
