@@ -3,6 +3,7 @@
 #include "tvx/edit_session.h"
 #include "tvx/name_column_width.h"
 #include "tvx/row_menu.h"
+#include "tvx/row_sorter.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -28,6 +29,8 @@ ChosenTable::ChosenTable(QWidget *parent)
     connect(m_session, &EditSession::hiddenTooLong, this, &ChosenTable::dropEditing);
     // An action of the menu changes items without a signal of the model.
     connect(m_menu, &RowMenu::triggered, viewport(), QOverload<>::of(&QWidget::update));
+    connect(m_menu, &RowMenu::triggered, sorter(), &RowSorter::valuesChanged);
+    connect(this, &ChosenTable::valueChanged, sorter(), &RowSorter::valuesChanged);
 }
 
 ChosenTable::~ChosenTable()

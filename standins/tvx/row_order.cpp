@@ -87,6 +87,12 @@ QVector<int> RowOrder::arrange(int rowCount, const std::function<QString(int)> &
     return order;
 }
 
+bool RowOrder::isInOrder(int rowCount, const std::function<QString(int)> &textOfRow) const
+{
+    const QVector<int> rows = orderOfTexts(rowCount, textOfRow);
+    return std::is_sorted(rows.begin(), rows.end());
+}
+
 QVector<int> RowOrder::arrivalIndexesOf(const QVector<int> &rows) const
 {
     if (m_arrivalIndexes.isEmpty())
@@ -96,6 +102,12 @@ QVector<int> RowOrder::arrivalIndexesOf(const QVector<int> &rows) const
     for (int row : rows)
         indexes.append(m_arrivalIndexes[row]);
     return indexes;
+}
+
+void RowOrder::keepPresentOrder()
+{
+    m_column = -1;
+    m_arrivalIndexes.clear();
 }
 
 void RowOrder::rowsReplaced()

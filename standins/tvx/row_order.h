@@ -29,9 +29,14 @@ public:
     /// of the user's language and with numbers in them by value; then empty texts.
     QVector<int> arrange(int rowCount, const std::function<QString(int row)> &textOfRow);
 
+    /// Returns true if the rows, which are sorted by a column, are in the order that arrange() would give them.
+    bool isInOrder(int rowCount, const std::function<QString(int row)> &textOfRow) const;
+
     /// Returns the arrival index of each row: its index in the order of arrival, from 0.
     QVector<int> arrivalIndexesOf(const QVector<int> &rows) const;
 
+    /// Takes the present order of the rows as that of their arrival, sorted by no column.
+    void keepPresentOrder();
     /// Must be called when all rows were replaced. The column stays.
     void rowsReplaced();
     /// Must be called when rows, in ascending order, were removed. Appended rows need no call.

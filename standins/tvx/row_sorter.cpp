@@ -61,12 +61,24 @@ void RowSorter::sortIfByColumn()
 
 void RowSorter::sort()
 {
-    const int column = m_order.column();
-    moveRows(m_order.arrange(m_table->rowCount(), [this, column](int row) {
-        const QTableWidgetItem *cell = m_table->item(row, column);
-        return cell ? cell->text() : QString();
-    }));
+    moveRows(m_order.arrange(m_table->rowCount(), [this](int row) { return textOf(row); }));
     Q_EMIT sorted();
+}
+
+void RowSorter::valuesChanged()
+{
+    const auto text = [this](int row) { return textOf(row); };
+    if (!m_order.isSorted() || m_order.isInOrder(m_table->rowCount(), text))
+        return;
+    m_order.keepPresentOrder();
+    m_table->horizontalHeader()->setSortIndicatorShown(false);
+}
+
+/// Returns the text of the sorted column.
+QString RowSorter::textOf(int row) const
+{
+    const QTableWidgetItem *cell = m_table->item(row, m_order.column());
+    return cell ? cell->text() : QString();
 }
 
 /// Moves the items, and with them whether a row is hidden, selected and current: the view keeps these by row.

@@ -27,6 +27,9 @@ public:
     void sort();
     /// Does the same if the rows are sorted by a column; else they are in the order of arrival already.
     void sortIfByColumn();
+    /// Must be called after values have changed. If the rows are no longer in the order that the header shows, hides its
+    /// arrow: a row must not move away while the user edits the column.
+    void valuesChanged();
 
 Q_SIGNALS:
     /// Emitted after rows have moved.
@@ -34,6 +37,7 @@ Q_SIGNALS:
 
 private:
     void cycleColumn(int column);
+    QString textOf(int row) const;
     void moveRows(const QVector<int> &order);
 
     AttributeTable *m_table;

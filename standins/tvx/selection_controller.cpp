@@ -12,6 +12,7 @@
 #include "tvx/quick_entry.h"
 #include "tvx/row_menu.h"
 #include "tvx/row_mover.h"
+#include "tvx/row_sorter.h"
 #include "tvx/tvx_texts.h"
 
 #include <QAction>
@@ -123,6 +124,7 @@ void SelectionController::connectTables()
     connect(m_escapeGuard, &EscapeGuard::warningChanged, this,
             [this] { m_status.setWarning(m_escapeGuard->warning()); });
     connect(m_mover, &RowMover::rowsMoved, this, &SelectionController::refresh);
+    connect(m_mover, &RowMover::rowsMoved, chosen->sorter(), &RowSorter::valuesChanged);
     connect(m_mover, &RowMover::userMovedRows, this, [this] { endSearch(m_widgets.filterText); });
 }
 

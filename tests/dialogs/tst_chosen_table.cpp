@@ -1,6 +1,7 @@
 #include "dialog_test.h"
 
 #include <QClipboard>
+#include <QHeaderView>
 #include <QScreen>
 #include <QScrollBar>
 #include <QTextDocumentFragment>
@@ -161,6 +162,16 @@ private Q_SLOTS:
         press(Qt::Key_C, Qt::ControlModifier);
         QCOMPARE(QGuiApplication::clipboard()->text(),
                  pick("finish\nnote\n5 <= width <= 9", "finish\tmatt\nnote\tnone\nwidth\t5"));
+    }
+
+    void editThatBreaksTheOrderHidesTheArrow()
+    {
+        choose({"pad_01", "pad_02"});
+        clickHeader(chosenList, Value);
+        enter("pad_01", "9");
+        QCOMPARE(chosenList->horizontalHeader()->isSortIndicatorShown(), inFilter());
+        choose({"pad_03"});
+        QCOMPARE(nameAt(chosenList, 2), QString("pad_03"));
     }
 
     void currentRowIsDescribed()
