@@ -192,7 +192,6 @@ private Q_SLOTS:
             button->setFocus();
             press({Qt::Key_Space, Qt::Key_Space, Qt::Key_Space, Qt::Key_Space, Qt::Key_Space});
             QVERIFY(chosenList->hasFocus());
-            QVERIFY(!button->isEnabled());
             QCOMPARE(chosenList->rowCount(), 0);
         }
     }
