@@ -81,7 +81,7 @@ QString FeatureAttrLWI::cellText(const DmlAttrDef &definition) const
 {
     if (column() != 1)
         return labelText(definition, m_displayPrompt);
-    const bool shown = !compat::isNullVariant(m_attrValue) && (m_displayValue || isSelected());
+    const bool shown = m_displayValue || isSelected();
     return shown ? valueAsString() : QString();
 }
 
