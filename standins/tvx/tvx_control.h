@@ -21,7 +21,7 @@ namespace tvx
 /// The item must be of the dialog's own class and hold a definition, whether made with createNewItem() or cloned from a
 /// result of findItemByAttrName(). Returns false, and adds nothing, if it has no attribute or no definition, if it is
 /// of the class of the other dialog, or if it holds a value and the attribute has a value in the chosen table already.
-/// A dialog whose two tables are empty cannot tell the class and takes both. An attribute may have several conditions.
+/// A dialog whose two tables are empty accepts both classes. An attribute may have several conditions.
 GDM_EXPORT bool addChosen(TvxAttributesSelectionDialog &dialog, const QTableWidgetItem &item);
 
 } // namespace tvx
