@@ -64,8 +64,6 @@ bool RangeEditorFilter::isFocusInside() const
 /// The delegate filters the editor for as long as the view has it open, and ends the edit as for its own editors.
 void RangeEditorFilter::passToDelegate(QEvent *event)
 {
-    m_from->interpretText();
-    m_to->interpretText();
     QApplication::sendEvent(m_editor, event);
 }
 
