@@ -214,6 +214,14 @@ private Q_SLOTS:
         QVERIFY(groupList->findText(way() == "configuration" ? "Holes" : "Tools") > 0);
     }
 
+    void keysScrollAfterAChangeOfUnits()
+    {
+        click(topView, "width");
+        dialog->setDisplayUnits(1);
+        press(Qt::Key_End);
+        QVERIFY(topView->viewport()->rect().contains(topView->visualItemRect(topView->currentItem())));
+    }
+
     void failedWalkForTheGroupsIsRepeated()
     {
         walksUntilFailure = 0;
