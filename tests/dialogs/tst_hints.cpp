@@ -187,9 +187,10 @@ private Q_SLOTS:
             setFilter(text);
             QCOMPARE(topView->accessibleDescription(), reason);
             QCOMPARE(button->isVisible(), reason.contains("Enter"));
-            if (!usesButton)
+            if (!usesButton) {
                 press(Qt::Key_Return);
-            else if (button->isVisible())
+                QVERIFY(filterText->hasSelectedText());
+            } else if (button->isVisible())
                 QVERIFY(pushButton(*button));
             QCOMPARE(visibleNames(topView).join(' '), usesButton ? afterButton : afterEnter);
             QVERIFY(filterText->hasFocus());
