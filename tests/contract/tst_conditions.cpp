@@ -101,6 +101,7 @@ private Q_SLOTS:
             QCOMPARE(readAndWritten(row["document"].toObject(), &problem), QByteArray());
             QCOMPARE(problem.place, row["place"].toString());
             QVERIFY(!problem.reason.isEmpty());
+            QVERIFY2(problem.reason == row["reason"].toString(problem.reason), qPrintable(problem.reason));
         }
         const QJsonArray texts = jsonTable("documents.json")["badTexts"].toArray();
         for (const QJsonValue row : texts) {

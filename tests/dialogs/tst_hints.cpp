@@ -225,6 +225,19 @@ private Q_SLOTS:
         QVERIFY2(tip.contains("&lt;b") || !Qt::mightBeRichText(tip), qPrintable(tip));
     }
 
+    void firstMatchMayHaveSpecialCharacters()
+    {
+        loadDictionary(R"(
+            {"name": "axis", "group": "Tools", "type": "boolean", "entities": "all", "default": true},
+            {"name": "via[1]*", "group": "Holes", "type": "option", "entities": "all",
+             "options": ["a", "b", "c", "d", "e", "f"]})");
+        groupList->setCurrentText("Tools");
+        setFilter("via");
+        press(Qt::Key_Return);
+        QCOMPARE(visibleNames(topView), QStringList("via[1]*"));
+        QCOMPARE(spoken(topView, "via[1]*"), QString("a, b, c, 3 more"));
+    }
+
     void chosenAttributesAreMissed()
     {
         choose({"note", "pad_07", "pad_17"});

@@ -136,7 +136,7 @@ private Q_SLOTS:
         const QString lowRing = "At least 0.05 mm", lowPins = "At least 600";
         const QString ofAny = "A number from -3.40282e+38 to 3.40282e+38";
         const QMap<QString, QList<QStringList>> notes = {
-            {"ring", {{"0", ""}, {"0.0", ""}, {"0.01", lowRing}, {"0.049", lowRing}, {"-0", lowRing}}},
+            {"ring", {{"0", ""}, {"0.0", ""}, {".01", lowRing}, {"0.049", lowRing}, {"-0", lowRing}}},
             {"any", {{"1", ""}, {"x", ofAny}, {"nan", ofAny}}},
             {"huge", {{"1", pick("At least inf", "")}}},
             {"pins",
