@@ -48,8 +48,8 @@ private:
     int m_units;
 };
 
-/// Returns a number as in limits and defaults: at most `decimals` decimals, without trailing zeros. From 1e10 on, with an
-/// exponent.
+/// Returns a number as in limits and defaults: at most `decimals` decimals, without trailing zeros. From 1e10 on, with
+/// an exponent.
 QString shortNumber(double number, int decimals);
 /// Returns what separates the parts of a description.
 QString factSeparator();

@@ -92,11 +92,14 @@ int AttributeTable::visibleRowCount() const
     return rowCount() - verticalHeader()->hiddenSectionCount();
 }
 
-/// Returns true if the user can see and select the row. A disabled row can still become current.
 bool AttributeTable::isUsable(int row) const
 {
     const Qt::ItemFlags needed = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
-    return !isRowHidden(row) && (model()->flags(model()->index(row, NameColumn)) & needed) == needed;
+    const auto isEnabled = [this, row, needed](int column) {
+        return (model()->flags(model()->index(row, column)) & needed) == needed;
+    };
+    // A host has the value items only.
+    return !isRowHidden(row) && isEnabled(NameColumn) && isEnabled(ValueColumn);
 }
 
 bool AttributeTable::hasVisibleSelection() const

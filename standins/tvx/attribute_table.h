@@ -46,6 +46,8 @@ public:
     QStyleOptionViewItem cellOption() const;
 
     int visibleRowCount() const;
+    /// Returns true if the user can see and select the row. A row that the host has disabled can still become current.
+    bool isUsable(int row) const;
     /// Returns true if selectedVisibleRows() is not empty.
     bool hasVisibleSelection() const;
     /// Returns the selected rows that are neither hidden nor disabled, in ascending order.
@@ -93,7 +95,6 @@ protected:
 
 private:
     bool hasKeyboard() const;
-    bool isUsable(int row) const;
     void setUpHeaders();
     void alignHeader();
     QSize sizeForRows(int rows) const;

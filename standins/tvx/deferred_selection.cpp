@@ -24,6 +24,10 @@ void DeferredSelection::emitChanges()
     const QItemSelection selection = m_model->selection();
     if (current != m_current)
         Q_EMIT m_model->currentChanged(current, m_current);
+    if (current.row() != m_current.row())
+        Q_EMIT m_model->currentRowChanged(current, m_current);
+    if (current.column() != m_current.column())
+        Q_EMIT m_model->currentColumnChanged(current, m_current);
     if (selection != m_selection)
         Q_EMIT m_model->selectionChanged(selection, m_selection);
 }

@@ -13,8 +13,8 @@ namespace tvx
 namespace
 {
 
-/// A tool tip with more letters would be higher than the dialog.
-constexpr int MostTipLetters = 1000;
+/// A tool tip with more characters would be higher than the dialog.
+constexpr int MostTipCharacters = 1000;
 
 /// Draws a text at the leading side of the area, elided if necessary. Returns the area beside it.
 QRect drawPart(QPainter *painter, const QRect &area, Qt::LayoutDirection direction, const QString &text)
@@ -60,8 +60,8 @@ void DescriptionLabel::setLines(const QString &first, const QString &second, boo
         return;
     m_isTitle = isTitle;
     setText(lines);
-    const bool isLong = lines.size() > MostTipLetters;
-    setToolTip(plainToolTip(isLong ? lines.left(MostTipLetters) + QChar(0x2026) : lines)); // an ellipsis
+    const bool isLong = lines.size() > MostTipCharacters;
+    setToolTip(plainToolTip(isLong ? lines.left(MostTipCharacters) + QChar(0x2026) : lines)); // an ellipsis
     update();
 }
 

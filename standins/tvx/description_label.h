@@ -9,7 +9,7 @@ namespace tvx
 {
 
 /// Two lines about the current attribute. A line that is too long is elided on the screen only: text() is complete, and
-/// so is the tool tip, up to 1000 letters. The user can select the text with the mouse.
+/// so is the tool tip, up to 1000 characters. The user can select the text with the mouse.
 class DescriptionLabel : public TextLines
 {
     Q_OBJECT

@@ -12,8 +12,8 @@ class ChangeHistory;
 class SelectionWidgets;
 
 /// Updates everything that follows from the state of the dialog: counts, enabled buttons, description and result line.
-/// Moves the focus off a button that becomes disabled, and changes no other state. Owned by the controller; its arguments
-/// must outlive it.
+/// Moves the focus off a button that becomes disabled, and changes no other state. Owned by the controller; its
+/// arguments must outlive it.
 class DialogStatus
 {
 public:

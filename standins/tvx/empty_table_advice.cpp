@@ -20,7 +20,7 @@ namespace
 {
 
 constexpr int MostNames = 3;
-constexpr int MostLetters = 30;
+constexpr int MostCharacters = 30;
 
 QString labelOf(const DmlAttrDef &definition, bool byPrompt)
 {
@@ -29,7 +29,7 @@ QString labelOf(const DmlAttrDef &definition, bool byPrompt)
 
 QString shortened(const QString &text)
 {
-    return text.size() > MostLetters ? text.left(MostLetters) + QChar(0x2026) : text; // an ellipsis
+    return text.size() > MostCharacters ? text.left(MostCharacters) + QChar(0x2026) : text; // an ellipsis
 }
 
 QString listed(const QStringList &names, int count)

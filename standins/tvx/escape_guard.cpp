@@ -22,11 +22,11 @@ EscapeGuard::~EscapeGuard() = default;
 
 void EscapeGuard::rememberRows()
 {
+    setWarning(false);
     if (m_haveRows)
         return;
     m_haveRows = true;
     m_unchanged = rows();
-    setWarning(false);
 }
 
 void EscapeGuard::rememberRow(const QTableWidgetItem &item)

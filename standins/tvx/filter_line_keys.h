@@ -15,8 +15,8 @@ class AvailableTable;
 class RowMover;
 
 /// Handles the keys that a line of text does not need while the user types into the filter: Up, Down and the page keys
-/// move in the available table, Enter adds, Escape clears the text, and Undo and Redo act on the chosen rows once no typing
-/// is left to undo or redo. Owned by the controller.
+/// move in the available table, Enter adds, Escape clears the text, and Undo and Redo act on the chosen rows once no
+/// typing is left to undo or redo. Owned by the controller.
 class FilterLineKeys : public QObject
 {
     Q_OBJECT
@@ -39,8 +39,8 @@ private:
     RowMover *m_mover;
 };
 
-/// Ends the search for attributes: forgets what was typed, so that Ctrl+Z undoes the last step of the chosen rows. If the
-/// line has the focus, also selects the text, so that the next letter starts a new search.
+/// Ends the search for attributes: forgets what was typed, so that Ctrl+Z undoes the last step of the chosen rows. If
+/// the line has the focus, also selects the text, so that the next letter starts a new search.
 void endSearch(QLineEdit *filterText);
 
 } // namespace tvx

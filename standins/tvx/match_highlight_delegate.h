@@ -10,8 +10,8 @@ namespace Zudunmaf
 namespace tvx
 {
 
-/// Paints the cells of the available table, each text in one line, and marks in the names what the filter text matches, in
-/// colours of the palette. Rows are as high as those of the chosen table.
+/// Paints the cells of the available table, each text in one line, and marks in the names what the filter text matches,
+/// in colours of the palette. Rows are as high as those of the chosen table.
 class MatchHighlightDelegate : public QStyledItemDelegate
 {
     Q_OBJECT

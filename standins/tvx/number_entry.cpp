@@ -108,23 +108,25 @@ NumberEntry::State NumberEntry::state() const
 
 bool NumberEntry::isUnfinished() const
 {
+    const QString text = m_box.text().trimmed();
+    const bool isNegative = text.startsWith(QLatin1Char('-'));
+    const auto [minimum, maximum] = limitsOf(m_box);
     switch (state()) {
     case Unfinished:
         return true;
     case TooLow:
-        return canGrowToLimits(m_box.text().trimmed());
+        return !isNegative && canGrowToLimits(text, minimum, maximum);
+    case TooHigh:
+        return isNegative && canGrowToLimits(text.mid(1), -maximum, -minimum);
     default:
         return false;
     }
 }
 
-/// Returns true if there is an accepted number that begins with these digits.
-bool NumberEntry::canGrowToLimits(const QString &digits) const
+/// Returns true if a number from `minimum` to `maximum` begins with these digits.
+bool NumberEntry::canGrowToLimits(const QString &digits, double minimum, double maximum) const
 {
-    const auto [minimum, maximum] = limitsOf(m_box);
     double lowest = m_box.locale().toDouble(digits);
-    if (digits.startsWith(QLatin1Char('-')))
-        return false;
     const int point = int(digits.indexOf(m_box.locale().decimalPoint()));
     const int decimals = point < 0 ? 0 : int(digits.size()) - point - 1;
     // More decimals lead from the number up to, but not to, the next one with as many decimals as it has.

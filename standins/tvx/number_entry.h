@@ -50,7 +50,7 @@ public:
     QString refusal(const QString &units) const;
 
 private:
-    bool canGrowToLimits(const QString &digits) const;
+    bool canGrowToLimits(const QString &digits, double minimum, double maximum) const;
     QString minimum() const;
     QString maximum() const;
 

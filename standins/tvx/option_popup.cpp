@@ -27,7 +27,8 @@ OptionPopup::OptionPopup(QComboBox *box)
     , m_box(box)
 {
     // With the popup of Fusion, which covers the box as a menu does, QComboBox ignores the number of visible entries.
-    box->setStyleSheet(QStringLiteral("combobox-popup: 0"));
+    if (box->styleSheet().isEmpty())
+        box->setStyleSheet(QStringLiteral("combobox-popup: 0"));
     box->setMaxVisibleItems(MostVisibleEntries);
     box->view()->parentWidget()->installEventFilter(this);
     connect(box, QOverload<int>::of(&QComboBox::activated), this, &OptionPopup::noteChoice);

@@ -23,8 +23,8 @@ public:
     /// a text can be typed.
     static OptionPopup *attach(QWidget *editor);
 
-    /// Opens the popup when the mouse button that was pressed on `viewport` is released. The popup would take an earlier
-    /// release as a choice.
+    /// Opens the popup when the mouse button that was pressed on `viewport` is released. The popup would take an
+    /// earlier release as a choice.
     void openAfterRelease(QWidget *viewport);
 
 Q_SIGNALS:

@@ -8,8 +8,8 @@ namespace Zudunmaf
 namespace tvx
 {
 
-/// A push button whose text stays beside its picture in a layout from right to left, where QCommonStyle aligns it to the
-/// opposite edge, without a margin.
+/// A push button whose text stays beside its picture in a layout from right to left, where QCommonStyle aligns it to
+/// the opposite edge, without a margin.
 class PictureButton : public QPushButton
 {
     Q_OBJECT

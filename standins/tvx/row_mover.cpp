@@ -12,7 +12,6 @@
 #include <algorithm>
 #include <iterator>
 #include <memory>
-#include <numeric>
 #include <utility>
 
 namespace Zudunmaf
@@ -145,8 +144,12 @@ void RowMover::removeSelected()
 void RowMover::removeAll()
 {
     finishEditing();
-    QVector<int> rows(m_chosen->rowCount());
-    std::iota(rows.begin(), rows.end(), 0);
+    QVector<int> rows;
+    rows.reserve(m_chosen->rowCount());
+    for (int row = 0; row < m_chosen->rowCount(); ++row) {
+        if (m_chosen->isUsable(row))
+            rows.append(row);
+    }
     remove(rows);
 }
 
@@ -247,9 +250,9 @@ bool RowMover::addCopyOf(const QTableWidgetItem &item)
     if (!isAttribute || !isOfDialogsKind(item) || (!isCondition(item) && m_valueNames.contains(name)))
         return false;
     finishEditing();
-    Q_EMIT hostAddsRow(item);
     std::vector<ChosenRow> copies;
     copies.push_back(copyOf(item));
+    Q_EMIT hostAddsRow(*copies.front().value);
     append(std::move(copies));
     callAddHook(name);
     Q_EMIT rowsMoved();

@@ -27,8 +27,8 @@ public:
     void sort();
     /// Does the same if the rows are sorted by a column; else they are in the order of arrival already.
     void sortIfByColumn();
-    /// Must be called after values have changed. If the rows are no longer in the order that the header shows, hides its
-    /// arrow: a row must not move away while the user edits the column.
+    /// Must be called after values have changed. If the rows are no longer in the order that the header shows, hides
+    /// its arrow: a row must not move away while the user edits the column.
     void valuesChanged();
 
 Q_SIGNALS:

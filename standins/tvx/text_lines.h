@@ -11,8 +11,8 @@ namespace tvx
 /// Returns a tool tip that shows the text as it is: QToolTip shows a text with a tag, such as "<b>", as rich text.
 QString plainToolTip(const QString &text);
 
-/// A label for several lines of plain text that the mouse can select. Its width is ignored and its height is fixed, so its
-/// hints do not measure the text: QLabel would lay it out several times for each new text, which takes 17 % more
+/// A label for several lines of plain text that the mouse can select. Its width is ignored and its height is fixed, so
+/// its hints do not measure the text: QLabel would lay it out several times for each new text, which takes 17 % more
 /// instructions for adding a row.
 class TextLines : public QLabel
 {
@@ -21,8 +21,8 @@ class TextLines : public QLabel
 public:
     explicit TextLines(QWidget *parent);
 
-    /// Aligns the text with the layout. QLabel aligns by the direction of the text, so that a text from left to right would
-    /// not begin at the edge in a layout from right to left.
+    /// Aligns the text with the layout. QLabel aligns by the direction of the text, so that a text from left to right
+    /// would not begin at the edge in a layout from right to left.
     void setLeadingAlignment(Qt::Alignment vertical);
 
     QSize sizeHint() const override { return QSize(0, maximumHeight()); }

@@ -129,6 +129,7 @@ private Q_SLOTS:
             {"name": "ring", "type": "float", "entities": "all", "default": 0.3, "min": 0.05, "max": 6.5, "units": "mm"},
             {"name": "any", "type": "float", "entities": "all", "default": 0, "min": -3.4028234e38, "max": 3.4028234e38},
             {"name": "huge", "type": "float", "entities": "all", "default": 0, "min": 0, "max": 1},
+            {"name": "turn", "type": "float", "entities": "all", "default": -0.3, "min": -6.5, "max": -0.2},
             {"name": "pins", "type": "integer", "entities": "all", "default": 610, "min": 600, "max": 650})");
         const auto definition = dialog->findItemByAttrName("huge")->data(DmlAttrDefRole);
         auto *huge = static_cast<DmlAttrDef *>(definition.value<void *>());
@@ -137,6 +138,7 @@ private Q_SLOTS:
         const QString ofAny = "A number from -3.40282e+38 to 3.40282e+38";
         const QMap<QString, QList<QStringList>> notes = {
             {"ring", {{"0", ""}, {"0.0", ""}, {".01", lowRing}, {"0.049", lowRing}, {"-0", lowRing}}},
+            {"turn", {{"-0", ""}, {"-0.1", "At most -0.2"}, {"0", "At most -0.2"}, {"-7", "At least -6.5"}}},
             {"any", {{"1", ""}, {"x", ofAny}, {"nan", ofAny}}},
             {"huge", {{"1", pick("At least inf", "")}}},
             {"pins",

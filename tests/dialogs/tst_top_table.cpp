@@ -157,10 +157,13 @@ private Q_SLOTS:
         QVERIFY(!removeButton->isEnabled());
         filterText->clear();
         QVERIFY(addButton->isEnabled());
-        topView->item(topView->currentRow(), Name)->setFlags(Qt::NoItemFlags);
+        dialog->findItemByAttrName(currentName(topView))->setFlags(Qt::NoItemFlags);
         setFilter("plated");
         QVERIFY(!addButton->isEnabled());
         press(Qt::Key_Return);
+        QCOMPARE(chosenList->rowCount(), 1);
+        dialog->getChosenList()[0]->setFlags(Qt::NoItemFlags);
+        click(clearButton);
         QCOMPARE(chosenList->rowCount(), 1);
     }
 

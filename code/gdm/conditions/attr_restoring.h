@@ -35,7 +35,8 @@ enum RestoreStatus {
     RestoreOptionGone,      ///< The option has no entry of this text.
     RestoreOutOfRange, ///< A number is beyond the limits, bounds are out of order, a text does not fit into its record.
     RestoreUnknownUnits, ///< The services cannot convert the units into those of the attribute.
-    /// The attribute already has a value, in the chosen table or from an earlier entry that was added. Not for conditions.
+    /// The attribute already has a value, in the chosen table or from an earlier entry that was added. Not for
+    /// conditions.
     RestoreDuplicate,
     RestoreNotAdded,    ///< AddToChosen returned false, or is empty.
     RestoreNoDictionary ///< Not in the available table, and the dictionary cannot be read.

@@ -58,8 +58,10 @@ QString problemOfFloat(double number, const DmlAttrDef &definition, int displayU
         units = NumberUnits(definition.unitsClass, QString(), displayUnits);
     const double shown = units.converted(number);
     // An editor rounds its limits, with some units after it has narrowed them to a 32-bit float.
-    const double minimum = units.converted(definition.floatMin), low = double(narrowedNumber(minimum));
-    const double maximum = units.converted(definition.floatMax), high = double(narrowedNumber(maximum));
+    const double minimum = units.converted(definition.floatMin);
+    const double maximum = units.converted(definition.floatMax);
+    const double low = double(narrowedNumber(minimum));
+    const double high = double(narrowedNumber(maximum));
     const double least = std::min(std::min(low, rounded(low)), rounded(minimum)) - slackOf(low);
     const double greatest = std::max(std::max(high, rounded(high)), rounded(maximum)) + slackOf(high);
     if (shown >= least && shown <= greatest)

@@ -73,8 +73,8 @@ public:
     /// Called for each attribute that was added to the chosen table, with its item in the available table. Not called
     /// for an attribute that the available table does not have.
     virtual void addButtonClickedCB(QTableWidgetItem *item);
-    /// Called for each attribute that is removed from the chosen table, with its item there. The item may be deleted after
-    /// the call.
+    /// Called for each attribute that is removed from the chosen table, with its item there. The item may be deleted
+    /// after the call.
     virtual void removeButtonClickedCB(QTableWidgetItem *item);
 
     /// Connects the signals of the widgets. Called once, after the lists are filled and the delegate is set.

@@ -9,11 +9,11 @@ class QWidget;
 namespace Zudunmaf
 {
 
-/// Makes a range editor behave like an editor of one box in any view: typing goes to its first box, Tab moves between the
-/// boxes, and the edit ends when the focus leaves both. Owned by the editor. Internal: not exported.
+/// Makes a range editor behave like an editor of one box in any view: typing goes to its first box, Tab moves between
+/// the boxes, and the edit ends when the focus leaves both. Owned by the editor. Internal: not exported.
 ///
-/// A delegate filters the events of the editor itself, and these go to the boxes. Without this class a digit after F2 is
-/// lost, Tab never reaches the second box, and a click on OK closes the dialog without the range.
+/// A delegate filters the events of the editor itself, and these go to the boxes. Without this class a digit after F2
+/// is lost, Tab never reaches the second box, and a click on OK closes the dialog without the range.
 ///
 /// The focus proxy of the editor is its first box, then the box that has the focus. A view that closes an editor takes
 /// the focus back from its focus proxy only. From another box, hiding the editor moves the focus as Tab does, and the

@@ -35,7 +35,8 @@ GDM_EXPORT const char *gen__nls_nlsa_get_att_prompt(const char *name, const char
 GDM_EXPORT int gen__cfg_get(const char *key, unsigned char *value, unsigned char *origin);
 
 /// Reports that the previous service call failed. `file` and `line` are the position in the library's sources where an
-/// operation, such as filling the available table, used the service; not that of a helper that several operations share.
+/// operation, such as filling the available table, used the service; not that of a helper that several operations
+/// share.
 GDM_EXPORT void gen__log_status_check(const char *file, int line);
 
 /// Returns `size` bytes of uninitialised memory. Never returns null: if there is no memory left, it does not return.

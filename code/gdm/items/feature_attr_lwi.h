@@ -43,10 +43,11 @@ public:
     /// boolean and if there is no value.
     QString valueAsString() const override;
     /// Sets the value from a text that valueAsString() can have returned. A text or an option is set to the text as it
-    /// is; an option is not searched for an entry. An integer is a sign and decimal digits. A float is a number, or, if
-    /// the definition has units, a number, a blank and a unit; a number alone is in the units of the definition, and so
-    /// is one with a unit that the services cannot convert to them. Any other text, and an integer beyond the range of
-    /// int, sets the value to 0. Limits are not checked. Does nothing for a boolean, and without a definition.
+    /// is; an option is not searched for an entry. An integer is decimal digits, with or without a sign. A float is a
+    /// number, or, if the definition has units, a number, a blank and a unit; a number alone is in the units of the
+    /// definition, and so is one with a unit that the services cannot convert to them. Any other text, and an integer
+    /// beyond the range of int, sets the value to 0. Limits are not checked. Does nothing for a boolean, and without a
+    /// definition.
     void setValueFromString(const QString &text) override;
 
 private:
