@@ -39,6 +39,12 @@ private Q_SLOTS:
         QCOMPARE(stops, expected);
         press(Qt::Key_Backtab, Qt::ShiftModifier);
         QCOMPARE(QApplication::focusWidget(), groupList);
+        groupList->setCurrentText("Holes");
+        setFilter("note");
+        for (const char *name : {"topView", "widenButton", "removeButton"}) {
+            press(Qt::Key_Tab);
+            QCOMPARE(QApplication::focusWidget()->objectName(), QString(name));
+        }
     }
 
     void enterAcceptsOnlyOnOk()

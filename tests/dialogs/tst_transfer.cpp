@@ -75,6 +75,9 @@ private Q_SLOTS:
         press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
         QCOMPARE(visibleNames(chosenList), QStringList({"note", "depth"}));
         clickHeader(chosenList, Name);
+        press(Qt::Key_Z, Qt::ControlModifier);
+        press(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(selectedNames(chosenList), QStringList("depth")); // whose edit was taken back
         while (undoButton->isEnabled())
             press(Qt::Key_Z, Qt::ControlModifier);
         QVERIFY(visibleNames(chosenList).isEmpty());
@@ -159,6 +162,16 @@ private Q_SLOTS:
             topView->item(rowOf(topView, "note"), column)->setSelected(true);
         click(addButton);
         QCOMPARE(events, QStringList("+note"));
+    }
+
+    void hostAddsARowDuringAnEdit()
+    {
+        choose({"note"});
+        press(Qt::Key_F2);
+        type("x");
+        QVERIFY(tvx::addChosen(*dialog, *dialog->findItemByAttrName("width")));
+        QVERIFY(!editor());
+        QCOMPARE(resultOf("note"), pick("note = x", "x"));
     }
 
     void hostAddsRows()
