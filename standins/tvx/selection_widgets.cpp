@@ -154,7 +154,6 @@ void SelectionWidgets::arrange(QDialog *dialog)
 
     // Tab order defaults to creation order; make it match the layout.
     QWidget::setTabOrder(topView, widenButton);
-    QWidget::setTabOrder(widenButton, addButton);
     QWidget::setTabOrder(clearButton, chosenList);
     QWidget::setTabOrder(chosenList, buttonBox->button(QDialogButtonBox::Ok));
 }
