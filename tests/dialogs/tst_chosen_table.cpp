@@ -163,6 +163,15 @@ private Q_SLOTS:
                  pick("finish\nnote\n5 <= width <= 9", "finish\tmatt\nnote\tnone\nwidth\t5"));
     }
 
+    void equalNumbersAreSortedByText()
+    {
+        choose({"depth", "width"});
+        enter("depth", pick("5\t9", "5"));
+        enter("width", pick("5\t9", "5"));
+        clickHeader(chosenList, Value);
+        QCOMPARE(visibleNames(chosenList), QStringList({"width", "depth"}));
+    }
+
     void editThatBreaksTheOrderHidesTheArrow()
     {
         choose({"pad_01", "pad_02"});
