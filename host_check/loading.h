@@ -6,8 +6,8 @@
 #include <dlfcn.h>
 
 /// @file
-/// The host's libraries in this process. Nothing here is linked to the host: a missing function is a finding and not the
-/// end of the process.
+/// The host's libraries in this process. Nothing here is linked to the host: a missing function is a finding and does
+/// not end the process.
 
 namespace Zudunmaf::hostcheck
 {

@@ -8,15 +8,14 @@
 namespace Zudunmaf::hostcheck
 {
 
-/// Runs all checks in a child process and prints what came of them. If the host ends the child or does not return in time,
-/// the check that was running is broken, and another child goes on with the next one. Returns the exit status of the
-/// program.
+/// Runs all checks in a child process and prints their results. If the host ends the child or does not return in time,
+/// the running check is broken, and another child continues with the next one. Returns the exit status of the program.
 int runChecks(const Settings &settings);
 
 /// Returns a text of the host as UTF-8 on one line: each byte that is not UTF-8, or a control character, as \xNN.
 std::string printable(std::string bytes);
 
-/// Prints what came of the checks and counts it. Several processes share one in shared memory.
+/// Prints the results of the checks and counts them. Several processes share one in shared memory.
 class Report
 {
 public:

@@ -5,6 +5,8 @@
 #include "gdm/host/gen_services.h"
 #include "gdm/host/message_keys.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <cstring>
 
 namespace Zudunmaf::hostcheck
@@ -94,6 +96,23 @@ void logReturns(const Settings &)
     HOST(gen__log_status_check)(__FILE__, __LINE__);
 }
 
+void recordsAreSeparate(const Settings &)
+{
+    std::vector<unsigned char *> records;
+    for (int index = 0; index < 100; ++index) {
+        void *record = HOST(gen__mem_malloc)(sizeof(DmlAttrValue), 1, __FILE__, __LINE__);
+        expect(record && reinterpret_cast<uintptr_t>(record) % alignof(DmlAttrValue) == 0,
+               text("memory at a multiple of ", alignof(DmlAttrValue)), text("address ", record));
+        records.push_back(static_cast<unsigned char *>(std::memset(record, index, sizeof(DmlAttrValue))));
+    }
+    for (int index = 0; index < 100; ++index) {
+        const auto isKept = [index](unsigned char byte) { return byte == index; };
+        expect(std::all_of(records[index], records[index] + sizeof(DmlAttrValue), isKept),
+               "records that do not overlap", text("record ", index, " overwritten by another one"));
+        HOST(gen__mem_free)(records[index], 1, __FILE__, __LINE__);
+    }
+}
+
 void expectComparison(const char *group, bool areEqual)
 {
     const int result = HOST(gen__str_cmp_nc)(group, "Obsolete");
@@ -145,6 +164,7 @@ const std::vector<Check> &serviceChecks()
         {"A prompt is never null", Must, promptIsText},
         {"Both configuration keys are read", Must, configurationIsRead},
         {"A report returns to its caller", Must, logReturns},
+        {"Memory for records is separate and aligned", Must, recordsAreSeparate},
         {"Texts are equal if they differ in case alone, and only then", Must, caseIsIgnored},
         {"\"*\" matches every text", Must, starMatchesEverything},
         {"A pattern matches a part of a name, whatever its case", Should, partsMatch},

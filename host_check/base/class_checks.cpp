@@ -142,7 +142,7 @@ BaseChecks baseChecks()
     return {{completeness,
              {"The virtual table has the size of the declaration", Must, virtualTableMatches},
              {"An object has the size of the declaration", Must, objectFits},
-             {"An empty dialog stands each call, and stores the units", Must, stateIsStored},
+             {"An empty dialog gives no items and stores the units", Must, stateIsStored},
              {"A fill makes visible rows of copies, in place of the rows before", Must, fillCopies}},
             dialogChecks()};
 }

@@ -6,8 +6,12 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTest>
 #include <QWindow>
+
+#include <algorithm>
+#include <map>
 
 namespace Zudunmaf::hostcheck
 {
@@ -64,6 +68,33 @@ QAbstractItemModel *modelOf(const QWidget *list)
         return box->model();
     const auto *view = qobject_cast<const QAbstractItemView *>(list);
     return view ? view->model() : nullptr;
+}
+
+/// The enabled buttons that have the word in one of their texts. Buttons with shorter texts come first, such as "Add"
+/// before "Show added", and buttons for all rows come last.
+QList<QAbstractButton *> buttonsWith(QLatin1String word, const QWidget &dialog)
+{
+    const QRegularExpression all(word + QLatin1String("[ _-]?all"),
+                                 QRegularExpression::CaseInsensitiveOption);
+    std::multimap<std::pair<bool, qsizetype>, QAbstractButton *> ranked;
+    for (QAbstractButton *button : dialog.findChildren<QAbstractButton *>()) {
+        bool isForAll = false;
+        qsizetype shortest = 0;
+        for (const char *property : {"objectName", "text", "toolTip"}) {
+            const QString text = button->property(property).toString().remove(QLatin1Char('&'));
+            if (!text.contains(word, Qt::CaseInsensitive))
+                continue;
+            isForAll = isForAll || text.contains(all);
+            shortest = shortest == 0 ? text.size() : std::min<qsizetype>(shortest, text.size());
+        }
+        if (shortest > 0 && button->isVisible() && button->isEnabled())
+            ranked.emplace(std::pair(isForAll, shortest), button);
+    }
+    QList<QAbstractButton *> buttons;
+    buttons.reserve(int(ranked.size()));
+    for (const auto &[rank, button] : ranked)
+        buttons << button;
+    return buttons;
 }
 
 } // namespace
@@ -232,26 +263,32 @@ void DialogDriver::selectRow(QWidget *list, int row) const
         press(Qt::Key_Down);
 }
 
-bool DialogDriver::clickButton(const QString &word) const
+void DialogDriver::clickButton(Button kind)
 {
+    QAbstractButton *&known = m_buttons[int(kind)];
+    if (known)
+        return click(known);
+    const QLatin1String word(kind == Button::Add ? "add" : "remove");
+    const QList<QAbstractButton *> buttons = buttonsWith(word, *m_dialog);
     const qsizetype before = m_dialog->getChosenList().size();
-    for (const char *property : {"objectName", "text", "toolTip"}) {
-        for (QAbstractButton *button : m_dialog->findChildren<QAbstractButton *>()) {
-            if (button->isVisible() &&
-                button->property(property).toString().contains(word, Qt::CaseInsensitive)) {
-                click(button);
-                return m_dialog->getChosenList().size() != before;
-            }
+    for (QAbstractButton *button : buttons) {
+        click(button);
+        const qsizetype now = m_dialog->getChosenList().size();
+        if (kind == Button::Add ? now > before : now < before) {
+            known = button;
+            return;
         }
     }
-    return false;
+    const std::string places = text('"', word.data(), "\" in object name, text or tool tip");
+    notCheckable(buttons.isEmpty()
+                     ? "no enabled button has " + places
+                     : "none of the enabled buttons with " + places + text(" ", word.data(), "s a row"));
 }
 
-int DialogDriver::add(int topRow) const
+int DialogDriver::add(int topRow)
 {
     clickRow(topView(), topRow);
-    if (!clickButton(QStringLiteral("add")))
-        notCheckable("no button with \"add\" in its object name, text or tool tip adds a row");
+    clickButton(Button::Add);
     return int(m_dialog->getChosenList().size()) - 1;
 }
 

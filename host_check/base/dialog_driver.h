@@ -25,6 +25,7 @@ struct Calls {
 };
 
 enum class Kind { Filter, Assign };
+enum class Button { Add, Remove };
 
 /// Text of a message key.
 QString messageText(const char *key);
@@ -65,11 +66,12 @@ public:
     static int rowCount(const QWidget *list);
     void selectRow(QWidget *list, int row) const;
 
-    /// Clicks the first button that has this word in its object name, or else in its text or tool tip. Returns whether
-    /// that changes the number of chosen rows.
-    bool clickButton(const QString &word) const;
-    /// Adds the row by its button, and returns the row of the chosen list.
-    int add(int topRow) const;
+    /// Clicks the add or the remove button. The first call clicks the enabled buttons that have "add" or "remove" in
+    /// their object names, texts or tool tips, until one makes the chosen list longer or shorter. Not checkable if none
+    /// does. Later calls click that button only, and may change nothing.
+    void clickButton(Button kind);
+    /// Adds the row by the add button, and returns its row in the chosen list.
+    int add(int topRow);
     void pressOk() const;
 
     /// The spin boxes of the open editor.
@@ -83,6 +85,7 @@ private:
     std::unique_ptr<TvxAttributesSelectionDialog> m_dialog;
     const Calls *m_calls = nullptr; ///< A part of the dialog.
     QLineEdit *m_filterLine = nullptr;
+    QAbstractButton *m_buttons[2] = {}; ///< By Button, null until found.
 };
 
 /// A check that is done in a new dialog of each of these kinds.

@@ -38,7 +38,7 @@ private Q_SLOTS:
         QCOMPARE(host().delegate->sizeHint({}, index()), plain + QSize(0, 4));
     }
 
-    void noEditorWithoutAttribute()
+    void noEditor()
     {
         FeatureAttrLWI none, null, number;
         null.setDmlAttribute(pointer(nullptr));
@@ -55,6 +55,21 @@ private Q_SLOTS:
         const QStandardItemModel foreign(1, 2);
         for (const QModelIndex &astray : {QModelIndex(), foreign.index(0, 1)})
             QVERIFY(!host().delegate->createEditor(host().chosen, {}, astray));
+        for (const DmlAttrDef *attribute : {&definition(DmlAttrBoolean, "plated"), &definition(9, "odd")}) {
+            add<AttrFilterLWI>(*attribute);
+            QVERIFY(!edit<QWidget>());
+            add<FeatureAttrLWI>(*attribute);
+            QVERIFY(!edit<QWidget>());
+        }
+    }
+
+    void conditionOutsideOfTheLimits()
+    {
+        const AttrFilterLWI *width = add<AttrFilterLWI>(integer("width", 5, 9, 7));
+        record(*width).isSet = record(*width).intLow = 1;
+        record(*width).intHigh = 99;
+        commit(edit<QWidget>().get());
+        QCOMPARE(width->data(DmlAttrValueRole).toPoint(), QPoint(5, 9));
     }
 
     void optionCondition()

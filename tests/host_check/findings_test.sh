@@ -1,7 +1,7 @@
 #!/bin/sh
 # findings_test.sh EXPECTED COMMAND...: runs the checker and compares what it finds broken or advises, "VERDICT GROUP:
-# PROMISE" joined by semicolons, with the extended regular expression. "none" expects nothing and the status 0, "unchecked"
-# nothing and the status 3.
+# PROMISE" joined by semicolons, with the extended regular expression. "none" expects nothing and the status 0,
+# "unchecked" nothing and the status 3.
 set -u
 expected=$1
 shift

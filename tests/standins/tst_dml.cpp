@@ -17,19 +17,19 @@ namespace
 {
 
 /// The definitions of a walk in its order, and a null pointer after them if a call failed.
-Definitions walk(int did)
+Definitions walk(int did, unsigned int entities = EntityAll)
 {
     Definitions definitions;
     int cursor = 0, status = 0;
     DmlAttrDef *definition = nullptr;
-    while ((status = dml__atr_next(did, 1, EntityAll, &cursor, &definition)) == 0 && definition)
+    while ((status = dml__atr_next(did, 1, entities, &cursor, &definition)) == 0 && definition)
         definitions << definition;
     return status == 0 ? definitions : definitions << nullptr;
 }
 
-QJsonObject flag(const char *name)
+QJsonObject flag(const char *name, const QJsonValue &entities = "all")
 {
-    return {{"name", name}, {"type", "boolean"}, {"default", true}, {"entities", "all"}};
+    return {{"name", name}, {"type", "boolean"}, {"default", true}, {"entities", entities}};
 }
 
 /// A file of dictionaries with these attributes, numbered from `firstId`.
@@ -156,6 +156,22 @@ private Q_SLOTS:
         QVERIFY(dml::unload(3));
         QCOMPARE(walk(1), kept);
         QCOMPARE(written(*kept.first()), text);
+    }
+
+    void walksListTheOrderOfTheFile()
+    {
+        const QJsonArray layer{"layer"}, step{"step"}, net{"net"};
+        const QJsonArray attributes{flag("z", layer), flag("a", step), flag("m", net), flag("b", layer)};
+        QVERIFY(dml::loadJson(file(0, {attributes}), "one"));
+        const auto names = [](unsigned int entities) {
+            QString joined;
+            for (const DmlAttrDef *definition : walk(0, entities))
+                joined += definition->name;
+            return joined;
+        };
+        QCOMPARE(names(EntityAll), QString("zamb"));
+        QCOMPARE(names(EntityLayer | EntityNet), QString("zmb"));
+        QCOMPARE(names(0), QString());
     }
 
     /// The check of hosts covers the walks that do not fail.
