@@ -60,8 +60,7 @@ void DescriptionLabel::setLines(const QString &first, const QString &second, boo
         return;
     m_isTitle = isTitle;
     setText(lines);
-    const bool isLong = lines.size() > MostTipCharacters;
-    setToolTip(plainToolTip(isLong ? lines.left(MostTipCharacters) + QChar(0x2026) : lines)); // an ellipsis
+    setToolTip(plainToolTip(truncated(lines, MostTipCharacters)));
     update();
 }
 

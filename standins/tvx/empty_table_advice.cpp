@@ -7,6 +7,7 @@
 #include "tvx/chosen_table.h"
 #include "tvx/filter_criteria.h"
 #include "tvx/selection_widgets.h"
+#include "tvx/text_lines.h"
 #include "tvx/tvx_texts.h"
 
 #include <utility>
@@ -25,11 +26,6 @@ constexpr int MostCharacters = 30;
 QString labelOf(const DmlAttrDef &definition, bool byPrompt)
 {
     return byPrompt ? fieldString(definition.prompt) : fieldString(definition.name);
-}
-
-QString shortened(const QString &text)
-{
-    return text.size() > MostCharacters ? text.left(MostCharacters) + QChar(0x2026) : text; // an ellipsis
 }
 
 QString listed(const QStringList &names, int count)
@@ -103,8 +99,9 @@ EmptyTableAdvice::Advice EmptyTableAdvice::adviceOnMatches(const Matches &matche
             sentences.append(textOf(texts::EnterShowsFirst));
         advice.firstLabel = matches.firstLabel;
     } else if (sentences.isEmpty()) {
-        sentences.append(advice.canWiden ? textOf(texts::NothingMatches)
-                                         : textOf(texts::NothingFound).arg(shortened(m_criteria.text())));
+        sentences.append(advice.canWiden
+                             ? textOf(texts::NothingMatches)
+                             : textOf(texts::NothingFound).arg(truncated(m_criteria.text(), MostCharacters)));
     }
     advice.text = sentences.join(QLatin1Char(' '));
     return advice;

@@ -14,6 +14,11 @@ QString plainToolTip(const QString &text)
     return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
 }
 
+QString truncated(const QString &text, int length)
+{
+    return text.size() > length ? text.left(length) + QChar(0x2026) : text; // an ellipsis
+}
+
 TextLines::TextLines(QWidget *parent)
     : QLabel(parent)
 {

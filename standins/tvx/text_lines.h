@@ -10,6 +10,8 @@ namespace tvx
 
 /// Returns a tool tip that shows the text as it is: QToolTip shows a text with a tag, such as "<b>", as rich text.
 QString plainToolTip(const QString &text);
+/// Returns the text, or its first `length` characters and an ellipsis if it is longer.
+QString truncated(const QString &text, int length);
 
 /// A label for several lines of plain text that the mouse can select. Its width is ignored and its height is fixed, so
 /// its hints do not measure the text: QLabel would lay it out several times for each new text, which takes 17 % more
