@@ -23,6 +23,11 @@ bool holdsRefusedText(const QWidget *widget)
     return box && NumberEntry(*box).state() != NumberEntry::Accepted;
 }
 
+bool isMove(Qt::FocusReason reason)
+{
+    return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason;
+}
+
 /// Sets a number beyond a limit to the limit, in place of a step: the box would step from its last value. Returns
 /// false, and does nothing, if the box accepts its text.
 bool stepToLimit(const QWidget *widget)
@@ -84,6 +89,10 @@ bool CellEditorFilter::eventFilter(QObject *watched, QEvent *event)
         // An ignored event propagates to the table, which scrolls.
         event->ignore();
         return true;
+    case QEvent::FocusIn:
+        if (isMove(static_cast<QFocusEvent *>(event)->reason()))
+            Q_EMIT focusMoved();
+        return false;
     case QEvent::FocusOut:
     case QEvent::Show:
     case QEvent::Hide:

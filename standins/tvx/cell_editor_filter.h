@@ -12,7 +12,7 @@ namespace Zudunmaf
 namespace tvx
 {
 
-/// Watches the widgets of one open cell editor: reports Enter and Tab past its last widget, ignores the wheel, and
+/// Watches the widgets of one open cell editor: reports Enter, the focus and Tab past its last widget, ignores the wheel, and
 /// names each widget for a screen reader. A child of the editor.
 ///
 /// Comes before the delegate's own event filter, which would commit and close a single editor on Enter, Tab and a loss
@@ -34,6 +34,9 @@ Q_SIGNALS:
     void entered();
     /// Emitted when the user leaves the editor by Tab.
     void left();
+    /// Emitted when the focus reaches a widget of the editor, but not when it comes back with the window or from a
+    /// popup.
+    void focusMoved();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -59,6 +59,7 @@ void EditSession::begin(QWidget *editor, const QModelIndex &index, const QTableW
     m_filter = new CellEditorFilter(editor, name);
     connect(m_filter, &CellEditorFilter::entered, this, &EditSession::entered);
     connect(m_filter, &CellEditorFilter::left, this, &EditSession::left);
+    connect(m_filter, &CellEditorFilter::focusMoved, this, &EditSession::noteFocus);
     // After the filter, whose names for a screen reader are part of the descriptions.
     m_content = new EditorContent(editor, value);
     connect(m_content, &EditorContent::edited, this, &EditSession::noteEdit);
@@ -138,8 +139,8 @@ void EditSession::confirm()
 
 void EditSession::showRefusal()
 {
-    showNote(m_content->refusal());
     m_content->selectRefused();
+    showNote(m_content->refusal());
     m_content->announceRefused();
 }
 
@@ -161,9 +162,21 @@ void EditSession::noteEdit()
 {
     if (!m_editor)
         return;
-    // The beginning of a number within the limits is refused only when it is entered.
-    showNote(m_content->isUnfinished() ? QString() : m_content->refusal());
+    updateNote();
     Q_EMIT edited();
+}
+
+void EditSession::noteFocus()
+{
+    if (isRefused())
+        updateNote();
+}
+
+/// Shows why the entry is refused. The beginning of a number within the limits is refused only when it is entered, or
+/// when the focus goes to the other box.
+void EditSession::updateNote()
+{
+    showNote(m_content->isUnfinished() ? QString() : m_content->refusal());
 }
 
 void EditSession::showNote(const QString &message)

@@ -90,6 +90,8 @@ Q_SIGNALS:
 
 private:
     void noteEdit();
+    void noteFocus();
+    void updateNote();
     void showNote(const QString &message);
     void placeNote();
     void eventOver();

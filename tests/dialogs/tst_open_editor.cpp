@@ -108,6 +108,9 @@ private Q_SLOTS:
             QSKIP("the editor of a value has one box");
         choose({LongName});
         press(Qt::Key_F2);
+        type("-\t");
+        QVERIFY(dialog->findChild<QLabel *>("editorNote")->isVisible());
+        press(Qt::Key_Backtab, Qt::ShiftModifier);
         type("3000000000\t7");
         const auto boxes = editor()->findChildren<QAbstractSpinBox *>();
         press(Qt::Key_Backtab, Qt::ShiftModifier);
