@@ -35,11 +35,8 @@ int unitsOf(const QTableWidgetItem &item, const DmlAttrDef &definition, int disp
 
 QString shortened(const QStringList &entries)
 {
-    const QString comma = QStringLiteral(", ");
-    if (entries.size() <= MostEntries)
-        return entries.join(comma);
-    const QStringList first = entries.mid(0, MostEntries - 1);
-    return first.join(comma) + comma + textOf(texts::More).arg(entries.size() - first.size());
+    const int count = int(entries.size());
+    return listed(entries.mid(0, count <= MostEntries ? count : MostEntries - 1), count);
 }
 
 } // namespace
@@ -47,6 +44,14 @@ QString shortened(const QStringList &entries)
 QString factSeparator()
 {
     return QStringLiteral("  \u00b7  "); // a middle dot
+}
+
+QString listed(const QStringList &first, int count)
+{
+    QStringList parts = first;
+    if (count > first.size())
+        parts.append(textOf(texts::More).arg(count - first.size()));
+    return parts.join(QStringLiteral(", "));
 }
 
 QString joinedFacts(QStringList parts)

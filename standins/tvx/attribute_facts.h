@@ -53,6 +53,8 @@ private:
 QString shortNumber(double number, int decimals);
 /// Returns what separates the parts of a description.
 QString factSeparator();
+/// Joins entries by commas. The others, if there are `count` in all, are "3 more" at the end.
+QString listed(const QStringList &first, int count);
 /// Joins parts of a description; leaves out empty ones.
 QString joinedFacts(QStringList parts);
 

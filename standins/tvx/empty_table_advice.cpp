@@ -2,6 +2,7 @@
 
 #include "common/wildcards.h"
 #include "gdm/host/host_text.h"
+#include "tvx/attribute_facts.h"
 #include "tvx/attribute_item.h"
 #include "tvx/available_table.h"
 #include "tvx/chosen_table.h"
@@ -26,14 +27,6 @@ constexpr int MostCharacters = 30;
 QString labelOf(const DmlAttrDef &definition, bool byPrompt)
 {
     return byPrompt ? fieldString(definition.prompt) : fieldString(definition.name);
-}
-
-QString listed(const QStringList &names, int count)
-{
-    QStringList parts = names;
-    if (count > names.size())
-        parts.append(textOf(texts::More).arg(count - names.size()));
-    return parts.join(QStringLiteral(", "));
 }
 
 } // namespace
