@@ -152,6 +152,20 @@ void AttributeTable::makeRowCurrent(int row)
     }
 }
 
+void AttributeTable::selectRows(const QVector<int> &rows)
+{
+    // Adjacent rows form one range: the cost of a selection grows with the square of its ranges.
+    QItemSelection selection;
+    for (int first = 0; first < rows.size();) {
+        int last = first;
+        while (last + 1 < rows.size() && rows[last + 1] == rows[last] + 1)
+            ++last;
+        selection.select(model()->index(rows[first], NameColumn), model()->index(rows[last], ValueColumn));
+        first = last + 1;
+    }
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+}
+
 QSize AttributeTable::sizeForRows(int rows) const
 {
     // A splitter asks dozens of times while a dialog opens, and the hints of QTableView measure the header and the

@@ -61,6 +61,8 @@ public:
 
     /// Makes the row current and the only selected one. If it is out of range, no row is current or selected.
     void makeRowCurrent(int row);
+    /// Selects these rows, which are in ascending order, and no others.
+    void selectRows(const QVector<int> &rows);
     /// Hides or shows a row. In contrast to setRowHidden(), a pass over all rows takes linear time.
     void setRowShown(int row, bool shown);
     /// Sets the height of all rows to that which the delegate wants for the first one.

@@ -3,7 +3,6 @@
 #include "tvx/attribute_table.h"
 #include "tvx/row_sorter.h"
 
-#include <QItemSelection>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -130,19 +129,8 @@ void ChosenRows::select(const QVector<QTableWidgetItem *> &values)
         rows.append(value->row());
     std::sort(rows.begin(), rows.end());
 
-    // Adjacent rows form one range: the cost of a selection grows with its ranges.
-    const QAbstractItemModel *model = m_table->model();
-    QItemSelection selection;
-    for (int first = 0; first < rows.size();) {
-        int last = first;
-        while (last + 1 < rows.size() && rows[last + 1] == rows[last] + 1)
-            ++last;
-        selection.select(model->index(rows[first], AttributeTable::NameColumn),
-                         model->index(rows[last], AttributeTable::ValueColumn));
-        first = last + 1;
-    }
     m_table->setCurrentCell(rows.first(), AttributeTable::NameColumn, QItemSelectionModel::NoUpdate);
-    m_table->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    m_table->selectRows(rows);
     m_table->scrollToItem(m_table->item(rows.last(), AttributeTable::NameColumn));
 }
 

@@ -86,26 +86,24 @@ void RowSorter::moveRows(const QVector<int> &order)
 {
     const int current = m_table->currentRow();
     const QVector<Row> rows = rowsInOrder(*m_table, order);
-    QAbstractItemModel *model = m_table->model();
-    const QSignalBlocker blocker(model);
+    const QSignalBlocker blocker(m_table->model());
     for (int row = 0; row < m_table->rowCount(); ++row) {
         m_table->takeItem(row, AttributeTable::NameColumn);
         m_table->takeItem(row, AttributeTable::ValueColumn);
     }
-    QItemSelection selection;
+    QVector<int> selected;
     for (int row = 0; row < rows.size(); ++row) {
         m_table->setItem(row, AttributeTable::NameColumn, rows[row].name);
         m_table->setItem(row, AttributeTable::ValueColumn, rows[row].value);
         m_table->setRowShown(row, !rows[row].isHidden);
         if (rows[row].isSelected)
-            selection.select(model->index(row, AttributeTable::NameColumn),
-                             model->index(row, AttributeTable::ValueColumn));
+            selected.append(row);
     }
     if (current >= 0) {
         const int row = static_cast<int>(order.indexOf(current));
         m_table->setCurrentCell(row, AttributeTable::NameColumn, QItemSelectionModel::NoUpdate);
     }
-    m_table->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    m_table->selectRows(selected);
     m_table->viewport()->update();
 }
 
