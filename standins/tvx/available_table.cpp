@@ -70,7 +70,6 @@ void AvailableTable::fill(const QList<QTableWidgetItem *> &items)
     m_cache.reset({});
     // Rows that are reused would stay hidden.
     setRowCount(0);
-    sorter()->order().rowsReplaced();
     insertClones(items);
     updateRowHeight();
     sorter()->sortIfByColumn();

@@ -4,8 +4,6 @@
 #include "tvx/attribute_table.h"
 #include "tvx/row_sorter.h"
 
-#include <numeric>
-
 namespace Zudunmaf
 {
 namespace tvx
@@ -33,15 +31,10 @@ int ChosenCounts::countOf(const QString &name)
 
 QHash<QString, QTableWidgetItem *> newestUnsetConditions(const AttributeTable &chosen)
 {
-    QVector<int> rows(chosen.rowCount());
-    std::iota(rows.begin(), rows.end(), 0);
-    const QVector<int> arrivalIndexes = chosen.sorter()->order().arrivalIndexesOf(rows);
-    QVector<QTableWidgetItem *> inOrderOfArrival(rows.size());
-    for (int row : rows)
-        inOrderOfArrival[arrivalIndexes[row]] = chosen.rowItem(row);
-
     QHash<QString, QTableWidgetItem *> unset;
-    for (QTableWidgetItem *item : inOrderOfArrival) {
+    const QVector<int> rows = chosen.sorter()->orderOfArrival();
+    for (int row : rows) {
+        QTableWidgetItem *item = chosen.rowItem(row);
         if (isCondition(*item) && !item->data(DmlAttrValueRole).isValid())
             unset.insert(nameOf(*item), item);
         else

@@ -20,19 +20,20 @@ ChosenRows::ChosenRows(AttributeTable *table)
 
 void ChosenRows::append(std::vector<ChosenRow> rows)
 {
+    for (const ChosenRow &row : rows)
+        m_table->sorter()->numberRow(row.name.get());
     insertAtEnd(std::move(rows));
     m_table->sorter()->sortIfByColumn();
 }
 
 void ChosenRows::restore(std::vector<ChosenRow> rows)
 {
-    QVector<int> arrivalIndexes;
-    arrivalIndexes.reserve(static_cast<int>(rows.size()));
+    QVector<int> formerRows;
+    formerRows.reserve(static_cast<int>(rows.size()));
     for (const ChosenRow &row : rows)
-        arrivalIndexes.append(row.arrivalIndex);
+        formerRows.append(row.formerRow);
     insertAtEnd(std::move(rows));
-    m_table->sorter()->order().rowsRestored(m_table->rowCount(), arrivalIndexes);
-    m_table->sorter()->sort();
+    m_table->sorter()->moveRestoredRows(formerRows);
 }
 
 void ChosenRows::insertAtEnd(std::vector<ChosenRow> rows)
@@ -54,8 +55,6 @@ void ChosenRows::insertAtEnd(std::vector<ChosenRow> rows)
 
 std::vector<ChosenRow> ChosenRows::take(const QVector<int> &rows)
 {
-    RowOrder &order = m_table->sorter()->order();
-    const QVector<int> arrivalIndexes = order.arrivalIndexesOf(rows);
     std::vector<ChosenRow> taken(rows.size());
     {
         const QSignalBlocker blocker(m_table->model());
@@ -63,18 +62,13 @@ std::vector<ChosenRow> ChosenRows::take(const QVector<int> &rows)
             ChosenRow &row = taken[static_cast<std::size_t>(i)];
             row.name.reset(m_table->takeItem(rows[i], AttributeTable::NameColumn));
             row.value.reset(m_table->takeItem(rows[i], AttributeTable::ValueColumn));
-            row.arrivalIndex = arrivalIndexes[i];
+            row.formerRow = rows[i];
         }
     }
-    order.rowsRemoved(rows);
     removeRows(rows);
     if (!rows.isEmpty())
         refreshItemPositions(rows.first());
     m_table->viewport()->update();
-    if (order.isSorted()) {
-        std::sort(taken.begin(), taken.end(),
-                  [](const ChosenRow &a, const ChosenRow &b) { return a.arrivalIndex < b.arrivalIndex; });
-    }
     return taken;
 }
 

@@ -15,11 +15,11 @@ namespace tvx
 
 class AttributeTable;
 
-/// A row outside of the table: its two items, and its index in the order of arrival.
+/// A row outside of the table: its two items, and the row where they were, -1 if they are new.
 struct ChosenRow {
     std::unique_ptr<QTableWidgetItem> name;
     std::unique_ptr<QTableWidgetItem> value;
-    int arrivalIndex;
+    int formerRow;
 };
 
 /// Appends whole rows to the chosen table, takes them out, restores and selects them. Owned by the table. Does not
@@ -29,11 +29,12 @@ class ChosenRows
 public:
     explicit ChosenRows(AttributeTable *table);
 
-    /// Appends rows, then re-sorts. Ignores ChosenRow::arrivalIndex.
+    /// Appends new rows, then re-sorts.
     void append(std::vector<ChosenRow> rows);
-    /// Takes out rows, which are in ascending order. Returns them in the order of arrival.
+    /// Takes out rows, which are in ascending order. Returns them in the same order.
     std::vector<ChosenRow> take(const QVector<int> &rows);
-    /// Inserts rows that take() has returned, at their arrival indexes, then re-sorts.
+    /// Inserts rows that take() has returned, in ascending order of their former rows, where the order of the table
+    /// wants them.
     void restore(std::vector<ChosenRow> rows);
     /// Exchanges the value item of a row for another one. Emits no signal of the model, as a commit does not.
     void exchangeValue(int row, std::unique_ptr<QTableWidgetItem> *value);

@@ -76,9 +76,8 @@ void RowsStep::toggle()
         std::vector<ChosenRow> taken = m_mover->take(m_names);
         m_removed.insert(m_removed.end(), std::make_move_iterator(taken.begin()),
                          std::make_move_iterator(taken.end()));
-        std::stable_sort(m_removed.begin(), m_removed.end(), [](const ChosenRow &a, const ChosenRow &b) {
-            return a.arrivalIndex < b.arrivalIndex;
-        });
+        std::stable_sort(m_removed.begin(), m_removed.end(),
+                         [](const ChosenRow &a, const ChosenRow &b) { return a.formerRow < b.formerRow; });
     }
     m_areRemoved = !m_areRemoved;
 }

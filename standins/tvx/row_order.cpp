@@ -60,10 +60,21 @@ struct SortKey {
     QCollatorSortKey text;
 };
 
+std::vector<SortKey> keysOf(int rowCount, const std::function<QString(int)> &textOfRow)
+{
+    const QCollator collator = newCollator();
+    std::vector<SortKey> keys;
+    keys.reserve(static_cast<std::size_t>(rowCount));
+    for (int row = 0; row < rowCount; ++row)
+        keys.emplace_back(textOfRow(row), collator);
+    return keys;
+}
+
 } // namespace
 
 void RowOrder::advance(int column)
 {
+    m_isPresentOrderKept = false;
     if (column != m_column) {
         m_column = column;
         m_direction = Qt::AscendingOrder;
@@ -74,107 +85,15 @@ void RowOrder::advance(int column)
     }
 }
 
-QVector<int> RowOrder::arrange(int rowCount, const std::function<QString(int)> &textOfRow)
-{
-    indexRows(rowCount);
-    if (!isSorted()) {
-        const QVector<int> order = orderOfArrival();
-        m_arrivalIndexes.clear();
-        return order;
-    }
-    const QVector<int> order = orderOfTexts(rowCount, textOfRow);
-    m_arrivalIndexes = arrivalIndexesOf(order);
-    return order;
-}
-
-bool RowOrder::isInOrder(int rowCount, const std::function<QString(int)> &textOfRow) const
-{
-    const QVector<int> rows = orderOfTexts(rowCount, textOfRow);
-    return std::is_sorted(rows.begin(), rows.end());
-}
-
-QVector<int> RowOrder::arrivalIndexesOf(const QVector<int> &rows) const
-{
-    if (m_arrivalIndexes.isEmpty())
-        return rows;
-    QVector<int> indexes;
-    indexes.reserve(rows.size());
-    for (int row : rows)
-        indexes.append(m_arrivalIndexes[row]);
-    return indexes;
-}
-
 void RowOrder::keepPresentOrder()
 {
     m_column = -1;
-    m_arrivalIndexes.clear();
+    m_isPresentOrderKept = true;
 }
 
-void RowOrder::rowsReplaced()
+QVector<int> RowOrder::arrange(int rowCount, const std::function<QString(int)> &textOfRow) const
 {
-    m_arrivalIndexes.clear();
-}
-
-void RowOrder::rowsRemoved(const QVector<int> &rows)
-{
-    if (m_arrivalIndexes.isEmpty())
-        return;
-    QVector<int> removed = arrivalIndexesOf(rows);
-    std::sort(removed.begin(), removed.end());
-    QVector<int> remaining;
-    remaining.reserve(m_arrivalIndexes.size() - rows.size());
-    auto next = rows.begin();
-    for (int row = 0; row < m_arrivalIndexes.size(); ++row) {
-        if (next != rows.end() && *next == row) {
-            ++next;
-            continue;
-        }
-        const int index = m_arrivalIndexes.at(row);
-        const auto removedBefore = std::lower_bound(removed.begin(), removed.end(), index) - removed.begin();
-        remaining.append(index - static_cast<int>(removedBefore));
-    }
-    m_arrivalIndexes = remaining;
-}
-
-void RowOrder::rowsRestored(int rowCount, const QVector<int> &arrivalIndexes)
-{
-    const int others = rowCount - static_cast<int>(arrivalIndexes.size());
-    indexRows(others);
-    QVector<int> restored;
-    QVector<int> free;
-    for (int index = 0; index < rowCount; ++index) {
-        const int next = static_cast<int>(restored.size());
-        const bool isRestored =
-            next < arrivalIndexes.size() && std::min(arrivalIndexes[next], others + next) == index;
-        (isRestored ? restored : free).append(index);
-    }
-    for (int &index : m_arrivalIndexes)
-        index = free[index];
-    m_arrivalIndexes += restored;
-}
-
-void RowOrder::indexRows(int rowCount)
-{
-    while (m_arrivalIndexes.size() < rowCount)
-        m_arrivalIndexes.append(static_cast<int>(m_arrivalIndexes.size()));
-}
-
-QVector<int> RowOrder::orderOfArrival() const
-{
-    QVector<int> rows(m_arrivalIndexes.size());
-    for (int row = 0; row < m_arrivalIndexes.size(); ++row)
-        rows[m_arrivalIndexes[row]] = row;
-    return rows;
-}
-
-QVector<int> RowOrder::orderOfTexts(int rowCount, const std::function<QString(int)> &textOfRow) const
-{
-    const QCollator collator = newCollator();
-    std::vector<SortKey> keys;
-    keys.reserve(rowCount);
-    for (int row = 0; row < rowCount; ++row)
-        keys.emplace_back(textOfRow(row), collator);
-
+    const std::vector<SortKey> keys = keysOf(rowCount, textOfRow);
     QVector<int> rows(rowCount);
     std::iota(rows.begin(), rows.end(), 0);
     const bool ascending = m_direction == Qt::AscendingOrder;
@@ -182,6 +101,13 @@ QVector<int> RowOrder::orderOfTexts(int rowCount, const std::function<QString(in
         return ascending ? keys[a] < keys[b] : keys[b] < keys[a];
     });
     return rows;
+}
+
+bool RowOrder::isInOrder(int rowCount, const std::function<QString(int)> &textOfRow) const
+{
+    const std::vector<SortKey> keys = keysOf(rowCount, textOfRow);
+    return m_direction == Qt::AscendingOrder ? std::is_sorted(keys.begin(), keys.end())
+                                             : std::is_sorted(keys.rbegin(), keys.rend());
 }
 
 } // namespace tvx

@@ -5,6 +5,10 @@
 #include <QHeaderView>
 #include <QSignalBlocker>
 
+#include <algorithm>
+#include <limits>
+#include <numeric>
+
 namespace Zudunmaf
 {
 namespace tvx
@@ -12,6 +16,33 @@ namespace tvx
 
 namespace
 {
+
+/// Unlikely to be a role of a host.
+constexpr int ArrivalNumberRole = 0x7a756e01;
+constexpr qint64 NoNumber = std::numeric_limits<qint64>::max();
+
+/// A host's item may override data(), so this reads what the base class stores.
+qint64 arrivalNumberOf(const QTableWidgetItem *name)
+{
+    const QVariant number = name ? name->QTableWidgetItem::data(ArrivalNumberRole) : QVariant();
+    return number.isValid() ? number.toLongLong() : NoNumber;
+}
+
+/// Returns the order in which the last rows move to their former rows, and the others keep their order.
+QVector<int> orderOfFormerRows(int rowCount, const QVector<int> &formerRows)
+{
+    const int others = rowCount - static_cast<int>(formerRows.size());
+    QVector<int> order;
+    order.reserve(rowCount);
+    int restored = 0;
+    for (int row = 0; row < rowCount; ++row) {
+        const int other = row - restored;
+        const bool isRestored =
+            other == others || (restored < formerRows.size() && formerRows[restored] <= row);
+        order.append(isRestored ? others + restored++ : other);
+    }
+    return order;
+}
 
 struct Row {
     QTableWidgetItem *name;
@@ -61,8 +92,45 @@ void RowSorter::sortIfByColumn()
 
 void RowSorter::sort()
 {
-    moveRows(m_order.arrange(m_table->rowCount(), [this](int row) { return textOf(row); }));
-    Q_EMIT sorted();
+    const auto text = [this](int row) { return textOf(row); };
+    numberNewRows();
+    moveRows(m_order.isSorted() ? m_order.arrange(m_table->rowCount(), text) : orderOfArrival());
+}
+
+void RowSorter::moveRestoredRows(const QVector<int> &formerRows)
+{
+    if (m_order.isPresentOrderKept())
+        moveRows(orderOfFormerRows(m_table->rowCount(), formerRows));
+    else
+        sort();
+}
+
+void RowSorter::numberRow(QTableWidgetItem *name)
+{
+    name->QTableWidgetItem::setData(ArrivalNumberRole, m_nextNumber++);
+}
+
+void RowSorter::numberNewRows()
+{
+    const QSignalBlocker blocker(m_table->model());
+    for (int row = 0; row < m_table->rowCount(); ++row) {
+        QTableWidgetItem *name = m_table->item(row, AttributeTable::NameColumn);
+        if (name && arrivalNumberOf(name) == NoNumber)
+            numberRow(name);
+    }
+}
+
+QVector<int> RowSorter::orderOfArrival() const
+{
+    QVector<qint64> numbers;
+    numbers.reserve(m_table->rowCount());
+    for (int row = 0; row < m_table->rowCount(); ++row)
+        numbers.append(arrivalNumberOf(m_table->item(row, AttributeTable::NameColumn)));
+    QVector<int> rows(m_table->rowCount());
+    std::iota(rows.begin(), rows.end(), 0);
+    std::stable_sort(rows.begin(), rows.end(),
+                     [&numbers](int a, int b) { return numbers.at(a) < numbers.at(b); });
+    return rows;
 }
 
 void RowSorter::valuesChanged()
@@ -105,6 +173,7 @@ void RowSorter::moveRows(const QVector<int> &order)
     }
     m_table->selectRows(selected);
     m_table->viewport()->update();
+    Q_EMIT sorted();
 }
 
 } // namespace tvx

@@ -4,6 +4,9 @@
 #include "tvx/row_order.h"
 
 #include <QObject>
+#include <QVector>
+
+class QTableWidgetItem;
 
 namespace Zudunmaf
 {
@@ -13,7 +16,10 @@ namespace tvx
 class AttributeTable;
 
 /// Sorts the rows of a table when a header is clicked: ascending, descending, unsorted. Owned by the table. RowOrder
-/// computes the order; this class moves the items.
+/// computes the order by texts; this class moves the items.
+///
+/// Unsorted rows are in the order of their arrival numbers. The name item carries the number, so that it follows the
+/// row wherever it goes, also out of the table and back.
 class RowSorter : public QObject
 {
     Q_OBJECT
@@ -21,12 +27,19 @@ class RowSorter : public QObject
 public:
     explicit RowSorter(AttributeTable *table);
 
-    /// The order, which the table keeps informed of rows that come and go.
-    RowOrder &order() { return m_order; }
+    /// Gives the row of this name item, which is in no table, the next arrival number. A row without a number gets one
+    /// when it is first moved, after the rows above it.
+    void numberRow(QTableWidgetItem *name);
+    /// Returns for each row of the order of arrival the row where it is now.
+    QVector<int> orderOfArrival() const;
+
     /// Puts the rows into the order that the header shows.
     void sort();
     /// Does the same if the rows are sorted by a column; else they are in the order of arrival already.
     void sortIfByColumn();
+    /// Must be called after rows that had been taken out were appended again. Moves them to their positions: these are
+    /// their former rows, in ascending order, if valuesChanged() has left the table in no particular order.
+    void moveRestoredRows(const QVector<int> &formerRows);
     /// Must be called after values have changed. If the rows are no longer in the order that the header shows, hides
     /// its arrow: a row must not move away while the user edits the column.
     void valuesChanged();
@@ -37,11 +50,13 @@ Q_SIGNALS:
 
 private:
     void cycleColumn(int column);
+    void numberNewRows();
     QString textOf(int row) const;
     void moveRows(const QVector<int> &order);
 
     AttributeTable *m_table;
     RowOrder m_order;
+    qint64 m_nextNumber = 0;
 };
 
 } // namespace tvx
