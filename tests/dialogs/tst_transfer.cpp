@@ -69,7 +69,6 @@ private Q_SLOTS:
         QCOMPARE(visibleNames(chosenList), names);
         QCOMPARE(records(), entered);
         QCOMPARE(selectedNames(chosenList), QStringList({"width", "finish"}));
-        QCOMPARE(visibleNames(topView).contains("width"), inFilter());
         QCOMPARE(undoButton->toolTip(),
                  "Undo: edit depth (Ctrl+Z)\nRedo: remove 2 attributes (Ctrl+Shift+Z)");
         press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
@@ -78,9 +77,6 @@ private Q_SLOTS:
         press(Qt::Key_Z, Qt::ControlModifier);
         press(Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(selectedNames(chosenList), QStringList("depth")); // whose edit was taken back
-        while (undoButton->isEnabled())
-            press(Qt::Key_Z, Qt::ControlModifier);
-        QVERIFY(visibleNames(chosenList).isEmpty());
     }
 
     /// Each undo leads to the state before the step, and each redo to that after it.
