@@ -160,6 +160,7 @@ void RowSorter::moveRows(const QVector<int> &order)
         m_table->takeItem(row, AttributeTable::ValueColumn);
     }
     QVector<int> selected;
+    selected.reserve(static_cast<int>(rows.size()));
     for (int row = 0; row < rows.size(); ++row) {
         m_table->setItem(row, AttributeTable::NameColumn, rows[row].name);
         m_table->setItem(row, AttributeTable::ValueColumn, rows[row].value);
