@@ -12,8 +12,8 @@ namespace Zudunmaf
 namespace tvx
 {
 
-/// Watches the widgets of one open cell editor: reports Enter, the focus and Tab past its last widget, ignores the wheel, and
-/// names each widget for a screen reader. A child of the editor.
+/// Watches the widgets of one open cell editor: reports Enter, the focus and Tab past its last widget, ignores the
+/// wheel, and names each widget for a screen reader. A child of the editor.
 ///
 /// Comes before the delegate's own event filter, which would commit and close a single editor on Enter, Tab and a loss
 /// of the focus, and leave a composite editor open. Filters all three.

@@ -33,8 +33,8 @@ public:
     void append(std::vector<ChosenRow> rows);
     /// Takes out rows, which are in ascending order. Returns them in the same order.
     std::vector<ChosenRow> take(const QVector<int> &rows);
-    /// Inserts rows that take() has returned, in ascending order of their former rows, where the order of the table
-    /// wants them.
+    /// Inserts rows that take() has returned, in ascending order of their former rows, at the positions that
+    /// RowSorter::moveRestoredRows() gives them.
     void restore(std::vector<ChosenRow> rows);
     /// Exchanges the value item of a row for another one. Emits no signal of the model, as a commit does not.
     void exchangeValue(int row, std::unique_ptr<QTableWidgetItem> *value);

@@ -52,8 +52,8 @@ public:
     void undo();
     void redo();
 
-    /// Calls the remove hook for the rows of these name items and removes the rows. Returns them in the order of
-    /// arrival. For a step of the history, as restore() is.
+    /// Calls the remove hook for the rows of these name items and removes the rows. Returns them in ascending
+    /// order of their rows. For a step of the history, as restore() is.
     std::vector<ChosenRow> take(const std::vector<const QTableWidgetItem *> &names);
     /// Inserts rows that take() has returned at their positions, calls the add hook for each, and selects them. Returns
     /// the rows whose attribute has a value again, which are not inserted.

@@ -99,9 +99,9 @@ void RowSorter::sort()
 
 void RowSorter::moveRestoredRows(const QVector<int> &formerRows)
 {
-    if (m_order.isPresentOrderKept())
-        moveRows(orderOfFormerRows(m_table->rowCount(), formerRows));
-    else
+    // Also if they are sorted then, so that they return to their positions among rows of equal text.
+    moveRows(orderOfFormerRows(m_table->rowCount(), formerRows));
+    if (!m_order.isPresentOrderKept())
         sort();
 }
 
